@@ -1,0 +1,21 @@
+// Where the layers of a design lie: offsets across the wall, levels of the head above them, free
+// space.
+#pragma once
+
+#include "composition/records.h"
+
+namespace lx {
+
+// Computes offset and level of every layer behind the head. The head's own offset and level stay.
+void layOut(CRez& head);
+// Highest level of the bent head over the layer's part of the wall, mm; x and width in mm.
+std::int32_t levelAbove(const CZalom* bends, std::int32_t x, std::int32_t width);
+// Wall thickness minus the end of the last layer, mm; may be negative.
+std::int32_t freeSpace(const CRez& head);
+int layerCount(const CRez& head);
+
+// 0 = no catalogue or cast layer; else by the first such layer: precast, steel or cast.
+enum class Family { none = 0, precast = 1, steel = 2, monolith = 3 };
+Family designFamily(const CRez& head);
+
+}  // namespace lx

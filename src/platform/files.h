@@ -1,0 +1,53 @@
+// The files that the module keeps, as whole operations that either happen or leave the old file as
+// it was.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "platform/text.h"
+
+namespace lx {
+
+enum class ReadStatus { ok, missing, failed };
+
+struct FileRead {
+    ReadStatus status = ReadStatus::missing;
+    Bytes bytes;  // empty unless status is ok
+};
+
+class Files {
+public:
+    Files() = default;
+    Files(const Files&) = delete;
+    Files& operator=(const Files&) = delete;
+    virtual ~Files() = default;
+
+    // missing: no such file or folder; failed: it is there but cannot be read.
+    virtual FileRead read(const Path& path) = 0;
+    virtual bool exists(const Path& path) = 0;
+    // True when the file can be opened for reading and writing now.
+    virtual bool writable(const Path& path) = 0;
+    // Makes an empty file; false when it cannot be made or is already there.
+    virtual bool createEmpty(const Path& path) = 0;
+    // Puts a file with these bytes in the place of path: written beside it, flushed, renamed over
+    // it in one step. On failure the old file is untouched and nothing is left beside it.
+    virtual bool replace(const Path& path, std::string_view bytes) = 0;
+    // One write at the end, flushed; creates a missing file. On failure the file has its old length
+    // again.
+    virtual bool append(const Path& path, std::string_view bytes) = 0;
+    // Overwrites bytes inside the existing file, flushed. False when the file is missing or
+    // shorter.
+    virtual bool overwrite(const Path& path, std::uint64_t offset, std::string_view bytes) = 0;
+    // True when the file is gone afterwards.
+    virtual bool remove(const Path& path) = 0;
+    // Keeps the file of that name as path + ".bak", replacing an older one in one step.
+    virtual bool keepAsBackup(const Path& path) = 0;
+    // The system's folder for temporary files, ending in a separator.
+    virtual Path temporaryFolder() = 0;
+};
+
+// The real thing of this platform.
+Files& systemFiles();
+
+}  // namespace lx
