@@ -21,13 +21,14 @@ enum class ControlKind {
                   // group
     edit,
     multilineEdit,
-    listBox,       // single selection, rows as data
+    listBox,  // single selection, rows as data
+    // Combo boxes: the area is that of the closed box; the platform sees to the list's length.
     dropDownList,  // a combo box that only chooses
     editableCombo,
-    listView,  // report view with headings
-    tabControl,
-    picture,  // painted by the program
-    icon      // shows an icon; no input
+    listView,    // report view with headings
+    tabControl,  // tabs that do not fit side by side stand in several rows
+    picture,     // painted by the program
+    icon         // shows an icon; no input
 };
 
 // Bits of ControlTemplate::style.

@@ -9,6 +9,13 @@
 
 namespace lx {
 
+// Between the folders of a name that the module makes; names from outside may use "/" everywhere.
+#if defined(_WIN32)
+inline constexpr char folderSeparator = '\\';
+#else
+inline constexpr char folderSeparator = '/';
+#endif
+
 enum class ReadStatus { ok, missing, failed };
 
 struct FileRead {

@@ -23,9 +23,9 @@ public:
     virtual Path fileName(ModuleHandle module) = 0;
     // Address of an export, or null.
     virtual void* symbol(ModuleHandle module, const char* name) = 0;
-    // Loads a library from the program's folder or the system's, never from the current folder;
-    // null when there is none. It stays loaded.
-    virtual ModuleHandle load(const char* name) = 0;
+    // Loads a library from that folder (ends in a separator), else from the program's folder or the
+    // system's, never from the current folder; null when there is none. It stays loaded.
+    virtual ModuleHandle load(const char* name, const Path& folder) = 0;
 };
 
 // Calls a function whose calling convention is not known (callee or caller removes the arguments):

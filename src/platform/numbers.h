@@ -11,8 +11,8 @@ namespace lx {
 // "%d".
 Text formatInt(std::int64_t value);
 // "%.Nf" for 0 to 9 decimals, ties of the decimal digits rounded away from zero (12.25 with 1 gives
-// "12.3"); the value is taken as the shortest decimal that reads back as it. Not a number: "0" so
-// formatted.
+// "12.3"); the value is taken as the shortest decimal that reads back as it. Infinite or not a
+// number: 0 so formatted.
 Text formatFixed(double value, int decimals);
 // "%g".
 Text formatGeneral(double value);
@@ -20,8 +20,8 @@ Text formatGeneral(double value);
 // Leading whitespace, an optional sign and the leading decimal digits, 0 when there are none;
 // saturates.
 std::int32_t leadingInt(std::string_view text);
-// The leading decimal number (sign, digits, point, exponent); 0 when there is none. consumed, when
-// given, is the number of bytes read.
+// The leading decimal number (whitespace, sign, digits, point, exponent); 0 when there is none,
+// infinite when it is too large. consumed, when given, is the number of bytes read.
 double leadingDouble(std::string_view text, std::size_t* consumed = nullptr);
 
 // Truncation towards zero, saturating at the range of int32; not a number gives 0.

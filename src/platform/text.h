@@ -39,7 +39,7 @@ unsigned char lowerCase(unsigned char byte);
 bool equalIgnoringCase(std::string_view a, std::string_view b);
 
 // Replaces "%s", "%d" and "%C" in order by the arguments; "%%" is a percent sign. Surplus places
-// stay empty. Use formatNumber of numbers.h for "%.1f" and "%.3f".
+// stay empty, surplus arguments are left out. Numbers with decimals come as texts (formatFixed).
 Text fillIn(std::string_view format, std::initializer_list<std::string_view> arguments);
 
 }  // namespace lx

@@ -1,0 +1,199 @@
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <new>
+#include <utility>
+
+#include "platform/files.h"
+
+namespace lx {
+
+namespace {
+
+// No file of the module comes near it.
+constexpr off_t longest = 0x7FFFFFFF;
+
+class Descriptor {
+public:
+    // Not blocking: a pipe of that name must not hang the program.
+    Descriptor(const Path& path, int flags)
+        : m_number(::open(path.c_str(), flags | O_CLOEXEC | O_NONBLOCK, 0666)) {}
+    ~Descriptor() {
+        if (m_number >= 0) ::close(m_number);
+    }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+
+    bool open() const { return m_number >= 0; }
+    int number() const { return m_number; }
+    // Length of a plain file, -1 for anything else.
+    off_t length() const {
+        struct stat about {};
+        if (::fstat(m_number, &about) != 0 || !S_ISREG(about.st_mode)) return -1;
+        return about.st_size;
+    }
+    bool flush() const { return ::fsync(m_number) == 0; }
+    // Also a close can tell of bytes that did not arrive.
+    bool close() { return ::close(std::exchange(m_number, -1)) == 0; }
+
+    bool write(std::string_view bytes) const {
+        while (!bytes.empty()) {
+            const ssize_t written = ::write(m_number, bytes.data(), bytes.size());
+            if (written < 0 && errno == EINTR) continue;
+            if (written <= 0) return false;
+            bytes.remove_prefix(static_cast<std::size_t>(written));
+        }
+        return true;
+    }
+    bool readAll(Bytes& bytes) const {
+        char buffer[16384];
+        for (;;) {
+            const ssize_t got = ::read(m_number, buffer, sizeof buffer);
+            if (got < 0 && errno == EINTR) continue;
+            if (got < 0) return false;
+            if (got == 0) return true;
+            bytes.append(buffer, static_cast<std::size_t>(got));
+        }
+    }
+
+private:
+    int m_number;
+};
+
+// A file without the owner's write permission counts as read-only for everybody, also for an
+// administrator and for a rename over it, as a read-only file does on Windows.
+bool readOnly(const Path& path) {
+    struct stat about {};
+    return ::stat(path.c_str(), &about) == 0 && (about.st_mode & S_IWUSR) == 0;
+}
+
+void flushFolderOf(const Path& path) {
+    const std::size_t slash = path.rfind('/');
+    const Path folder = slash == Path::npos ? "." : path.substr(0, slash + 1);
+    const Descriptor opened(folder, O_RDONLY | O_DIRECTORY);
+    // Some file systems cannot flush a folder; the file itself is in its place either way.
+    if (opened.open()) opened.flush();
+}
+
+class PosixFiles final : public Files {
+public:
+    FileRead read(const Path& path) override {
+        const Descriptor file(path, O_RDONLY);
+        if (!file.open()) {
+            const bool absent = errno == ENOENT || errno == ENOTDIR;
+            return {absent ? ReadStatus::missing : ReadStatus::failed, {}};
+        }
+        FileRead result{ReadStatus::ok, {}};
+        const off_t length = file.length();
+        if (length < 0 || length > longest) return {ReadStatus::failed, {}};
+        try {
+            result.bytes.reserve(static_cast<std::size_t>(length));
+            if (file.readAll(result.bytes)) return result;
+        } catch (const std::bad_alloc&) {
+            // A file larger than the memory that is left cannot be read.
+        }
+        return {ReadStatus::failed, {}};
+    }
+
+    bool exists(const Path& path) override {
+        struct stat about {};
+        return ::stat(path.c_str(), &about) == 0 && !S_ISDIR(about.st_mode);
+    }
+
+    bool writable(const Path& path) override {
+        if (readOnly(path)) return false;
+        const Descriptor file(path, O_RDWR);
+        return file.open() && file.length() >= 0;
+    }
+
+    bool createEmpty(const Path& path) override {
+        const Descriptor file(path, O_WRONLY | O_CREAT | O_EXCL);
+        if (!file.open()) return false;
+        flushFolderOf(path);
+        return true;
+    }
+
+    bool replace(const Path& path, std::string_view bytes) override {
+        if (readOnly(path)) return false;
+        // A name that a killed process left behind is passed over.
+        for (int attempt = 0; attempt < 100; ++attempt) {
+            const Path beside = path + ".new" + std::to_string(attempt);
+            Descriptor file(beside, O_WRONLY | O_CREAT | O_EXCL);
+            if (!file.open() && errno == EEXIST) continue;
+            if (!file.open()) return false;
+            const bool done = keepMode(path, file) && file.write(bytes) && file.flush() &&
+                              file.close() && ::rename(beside.c_str(), path.c_str()) == 0;
+            if (!done) ::unlink(beside.c_str());
+            if (done) flushFolderOf(path);
+            return done;
+        }
+        return false;
+    }
+
+    bool append(const Path& path, std::string_view bytes) override {
+        if (readOnly(path)) return false;
+        const bool wasThere = exists(path);
+        const Descriptor file(path, O_WRONLY | O_APPEND | O_CREAT);
+        const off_t before = file.open() ? file.length() : -1;
+        if (before < 0) return false;
+        if (file.write(bytes) && file.flush()) {
+            if (!wasThere) flushFolderOf(path);
+            return true;
+        }
+        if (!wasThere) {
+            ::unlink(path.c_str());
+        } else if (::ftruncate(file.number(), before) == 0) {
+            file.flush();
+        }
+        return false;
+    }
+
+    bool overwrite(const Path& path, std::uint64_t offset, std::string_view bytes) override {
+        if (readOnly(path)) return false;
+        const Descriptor file(path, O_WRONLY);
+        const off_t length = file.open() ? file.length() : -1;
+        if (length < 0) return false;
+        const auto size = static_cast<std::uint64_t>(length);
+        if (offset > size || bytes.size() > size - offset) return false;
+        return ::lseek(file.number(), static_cast<off_t>(offset), SEEK_SET) >= 0 &&
+               file.write(bytes) && file.flush();
+    }
+
+    bool remove(const Path& path) override {
+        if (readOnly(path)) return false;
+        return ::unlink(path.c_str()) == 0 || errno == ENOENT || errno == ENOTDIR;
+    }
+
+    // A copy, so that the name itself never lacks its file.
+    bool keepAsBackup(const Path& path) override {
+        const FileRead original = read(path);
+        return original.status == ReadStatus::ok && replace(path + ".bak", original.bytes);
+    }
+
+    Path temporaryFolder() override {
+        const char* set = std::getenv("TMPDIR");
+        Path folder = set && *set ? set : "/tmp";
+        if (folder.back() != '/') folder.push_back('/');
+        return folder;
+    }
+
+private:
+    static bool keepMode(const Path& path, const Descriptor& file) {
+        struct stat about {};
+        if (::stat(path.c_str(), &about) != 0) return true;
+        return ::fchmod(file.number(), about.st_mode & 0777U) == 0;
+    }
+};
+
+}  // namespace
+
+Files& systemFiles() {
+    static PosixFiles files;
+    return files;
+}
+
+}  // namespace lx

@@ -1,0 +1,105 @@
+#include "platform/windows/edit_control.h"
+
+#include <algorithm>
+
+#include "platform/keys.h"
+#include "platform/windows/wide_text.h"
+
+namespace lx {
+namespace {
+
+constexpr WPARAM controlA = 1;
+
+void refuse() { MessageBeep(MB_OK); }
+
+std::wstring clipboardText(HWND owner) {
+    std::wstring text;
+    if (!IsClipboardFormatAvailable(CF_UNICODETEXT) || !OpenClipboard(owner)) return text;
+    const HANDLE data = GetClipboardData(CF_UNICODETEXT);
+    if (const auto* units = static_cast<const wchar_t*>(data ? GlobalLock(data) : nullptr)) {
+        const std::size_t most = GlobalSize(data) / sizeof(wchar_t);
+        while (text.size() < most && units[text.size()]) text.push_back(units[text.size()]);
+        GlobalUnlock(data);
+    }
+    CloseClipboard();
+    return text;
+}
+
+// A single-line field takes the text up to the first line break, as the system pastes it.
+void pasteWhatFits(HWND edit, const std::wstring& text) {
+    std::wstring fitting = wide(narrow(text));
+    if (!(GetWindowLongPtrW(edit, GWL_STYLE) & ES_MULTILINE)) {
+        fitting.resize(std::min(fitting.find_first_of(L"\r\n"), fitting.size()));
+    }
+    SendMessageW(edit, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(fitting.c_str()));
+}
+
+}  // namespace
+
+std::optional<LRESULT> filterCharacters(HWND edit, UINT message, WPARAM wParam) {
+    if (message == WM_CHAR) {
+        if (wParam == controlA) {
+            SendMessageW(edit, EM_SETSEL, 0, -1);
+            return 0;
+        }
+        const auto unit = static_cast<wchar_t>(wParam);
+        if (fitsCodePage(std::wstring_view(&unit, 1))) return std::nullopt;
+        refuse();
+        return 0;
+    }
+    if (message == WM_PASTE && !(GetWindowLongPtrW(edit, GWL_STYLE) & ES_READONLY)) {
+        const std::wstring text = clipboardText(edit);
+        if (fitsCodePage(text)) return std::nullopt;
+        refuse();
+        pasteWhatFits(edit, text);
+        return 0;
+    }
+    return std::nullopt;
+}
+
+WindowsEdit::WindowsEdit(WindowsDialog& dialog, const ControlTemplate& layout)
+    : WindowsControl(dialog, layout), m_readOnly((layout.style & style::readOnly) != 0) {}
+
+WindowClass WindowsEdit::windowClass() const {
+    DWORD bits = multiline() ? ES_MULTILINE | ES_AUTOVSCROLL | ES_WANTRETURN : ES_AUTOHSCROLL;
+    if (m_readOnly) bits |= ES_READONLY;
+    if (hasStyle(style::verticalScroll)) bits |= WS_VSCROLL;
+    return {L"EDIT", bits, WS_EX_CLIENTEDGE};
+}
+
+void WindowsEdit::attached() { send(EM_SETLIMITTEXT, 0); }
+
+void WindowsEdit::command(WORD code) {
+    if (code == EN_CHANGE) fire(onChange);
+}
+
+LRESULT WindowsEdit::message(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (const auto result = filterCharacters(window(), message, wParam)) return *result;
+    return ControlCore::message(message, wParam, lParam);
+}
+
+void WindowsEdit::select(TextSelection selection) {
+    m_selection = selection;
+    send(EM_SETSEL, static_cast<WPARAM>(selection.begin), selection.end);
+    send(EM_SCROLLCARET);
+}
+
+TextSelection WindowsEdit::selection() const {
+    if (!window()) return m_selection;
+    DWORD begin = 0;
+    DWORD end = 0;
+    send(EM_GETSEL, reinterpret_cast<WPARAM>(&begin), reinterpret_cast<LPARAM>(&end));
+    return {static_cast<int>(begin), static_cast<int>(end)};
+}
+
+void WindowsEdit::setReadOnly(bool on) {
+    m_readOnly = on;
+    send(EM_SETREADONLY, on);
+}
+
+// Enter makes a new line where the user may write one.
+bool WindowsEdit::wantsKey(int key) const {
+    return key == key::enter && multiline() && !m_readOnly;
+}
+
+}  // namespace lx
