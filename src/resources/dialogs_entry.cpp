@@ -1,0 +1,26 @@
+#include "resources/controls.h"
+#include "resources/templates.h"
+
+namespace lx {
+
+using namespace controls;
+
+namespace {
+
+constexpr ControlTemplate eraseControls[] = {
+    groupBox(id::eraseGroup, "Prvky překladu k vymazání:"_cz, {7, 7, 160, 72}),
+    checkBox(id::eraseLintel, "překlad"_cz, {17, 21, 133, 10}),
+    checkBox(id::eraseSection, "sklopený řez"_cz, {17, 35, 133, 10}),
+    checkBox(id::eraseBubble, "bublina"_cz, {17, 49, 133, 10}),
+    checkBox(id::eraseDescription, "popis"_cz, {17, 63, 133, 10}),
+    defaultButton(id::ok, "OK"_cz, {7, 84, 50, 14}),
+    button(id::cancel, "Storno"_cz, {62, 84, 50, 14}),
+    button(id::help, "Nápověda"_cz, {117, 84, 50, 14}),
+};
+
+}  // namespace
+
+constexpr DialogTemplate lintelEraseTemplate{"erase", "Vymazání překladu"_cz, 174,
+                                             105,     eraseControls,          DialogStyle::modal};
+
+}  // namespace lx
