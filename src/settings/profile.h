@@ -3,6 +3,7 @@
 #pragma once
 
 #include <optional>
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -10,28 +11,45 @@
 
 namespace lx {
 
+// A value to write; none deletes the key.
+struct ProfileChange {
+    std::string_view section;
+    std::string_view key;
+    std::optional<std::string_view> value;
+};
+
+struct ProfileEntry {
+    Text key;
+    Text value;  // without quotes around it
+};
+
 class Profile {
 public:
     Profile(Files& files, Path path);
 
     const Path& path() const { return m_path; }
     // The value as GetPrivateProfileString delivers it: blanks around it and one pair of quotes
-    // removed, cut to bufferSize - 1 bytes. fallback (its trailing blanks removed) when file,
-    // section or key is missing.
+    // removed, cut to bufferSize - 1 bytes. fallback, treated alike, when file, section or key is
+    // missing. A line without "=" is a key without a value: it is there, but reads as missing.
     Text read(std::string_view section, std::string_view key, std::string_view fallback,
               std::size_t bufferSize = 1024) const;
-    // The leading decimal number of the value, fallback when the key is missing.
+    // The leading number of the value (its first 29 bytes; 0x, 0o and 0b as the platform's function
+    // takes them; 0 when there is none), fallback when the key is missing or its value empty.
     std::int32_t readInt(std::string_view section, std::string_view key,
                          std::int32_t fallback) const;
     // none when the key is missing.
     std::optional<Text> find(std::string_view section, std::string_view key) const;
-    // Keys of a section in file order, doubled ones too.
-    std::vector<Text> keys(std::string_view section) const;
-    // Creates file, section and key as needed; the rest of the file keeps its bytes. Writes nothing
-    // when the value is there already. False when the file could not be written.
+    // The keys of a section with their values in file order, doubled ones too.
+    std::vector<ProfileEntry> entries(std::string_view section) const;
+    // Creates file, section and key as needed; the rest of the file keeps its bytes. Blanks around
+    // the value are not kept, nor is what follows a line break in it. Writes nothing when the value
+    // is there already. False when the file could not be written, or exists but cannot be read, or
+    // the key is no possible one (empty, with "=" or a line break, or beginning with "[").
     bool write(std::string_view section, std::string_view key, std::string_view value);
     bool writeInt(std::string_view section, std::string_view key, std::int32_t value);
     bool erase(std::string_view section, std::string_view key);
+    // Several values in one go: the file is replaced once, with all of them or none.
+    bool apply(std::span<const ProfileChange> changes);
 
 private:
     Files& m_files;

@@ -1,0 +1,35 @@
+// The text of a settings file whatever Unicode form a text editor saved it in. What is read is code
+// page 1250; every position leads back to the file's own bytes, so that a change leaves the rest of
+// them alone.
+#pragma once
+
+#include <string_view>
+
+#include "platform/text.h"
+
+namespace lx {
+
+class EncodedText {
+public:
+    // The bytes must outlive the object. A byte order mark tells UTF-8 or UTF-16 (little-endian);
+    // without one the bytes are the text.
+    explicit EncodedText(std::string_view bytes);
+
+    // A character that code page 1250 lacks reads as "?".
+    std::string_view text() const { return m_form == Form::plain ? m_bytes : m_decoded; }
+    // Where the character at that index of text() stands in the file's bytes.
+    std::size_t offset(std::size_t index) const;
+    Bytes encode(std::string_view text) const;
+
+private:
+    enum class Form { plain, utf8, utf16 };
+
+    void decodeUtf8();
+    void decodeUtf16();
+
+    std::string_view m_bytes;
+    Form m_form = Form::plain;
+    Text m_decoded;
+};
+
+}  // namespace lx

@@ -1,0 +1,36 @@
+// The lines of a private-profile text: where sections and keys stand, and where a new one goes.
+#pragma once
+
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace lx {
+
+// Blanks, tabs and the old end-of-file mark (0x1A) off both ends.
+std::string_view trimmedBlanks(std::string_view text);
+
+// A line "key = value"; positions are indices of the text. The value is none when there is no "=".
+struct KeyLine {
+    std::size_t start = 0;       // of the whole line
+    std::size_t contentEnd = 0;  // behind the last byte that is no blank
+    std::size_t next = 0;        // of the following line
+    std::string_view name;
+    std::optional<std::string_view> value;
+    std::size_t valueStart = 0;
+};
+
+struct KeyPlace {
+    // none when the section or the key is missing. Of doubled keys and doubled sections the first
+    // one counts, even where only the second has what is looked for.
+    std::optional<KeyLine> line;
+    // Where a new line of the section goes: behind its last line that is not blank. none when the
+    // section is missing. The section "" is what stands before the first heading.
+    std::optional<std::size_t> insertAt;
+};
+
+KeyPlace findKey(std::string_view text, std::string_view section, std::string_view key);
+// Lines of the first section of that name that have a name and a value and are no comments.
+std::vector<KeyLine> keyLines(std::string_view text, std::string_view section);
+
+}  // namespace lx

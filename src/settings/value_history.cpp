@@ -1,0 +1,74 @@
+#include "settings/value_history.h"
+
+#include <algorithm>
+
+#include "platform/numbers.h"
+
+namespace lx {
+
+namespace {
+
+constexpr std::string_view countKey = "nr";
+constexpr std::size_t bufferSize = 1024;
+// A number of values that no user has clicked together; a damaged "nr" is not believed beyond it.
+constexpr std::int32_t mostValues = 10000;
+
+}  // namespace
+
+std::vector<std::optional<Text>> ValueHistory::load() const {
+    const std::vector<ProfileEntry> entries = m_profile.entries(m_section);
+    const auto first = [&entries](std::string_view key) {
+        return std::find_if(entries.begin(), entries.end(), [key](const ProfileEntry& entry) {
+            return equalIgnoringCase(entry.key, key);
+        });
+    };
+    const auto nr = first(countKey);
+    const std::int32_t count = nr == entries.end() ? 0 : leadingInt(nr->value);
+    std::vector<std::optional<Text>> values(
+        static_cast<std::size_t>(std::clamp(count, 0, mostValues)));
+    for (const ProfileEntry& entry : entries) {
+        const std::int32_t number = leadingInt(entry.key);
+        if (number < 0 || static_cast<std::size_t>(number) >= values.size()) continue;
+        std::optional<Text>& value = values[static_cast<std::size_t>(number)];
+        if (!value && entry.key == formatInt(number)) {
+            value = entry.value.substr(0, bufferSize - 1);
+        }
+    }
+    return values;
+}
+
+std::vector<Text> ValueHistory::shown() const {
+    std::vector<Text> result;
+    for (const std::optional<Text>& value : load()) {
+        if (!value || !value->starts_with('-')) result.push_back(value.value_or("0"));
+    }
+    return result;
+}
+
+bool ValueHistory::add(std::string_view value) {
+    const auto count = static_cast<std::int64_t>(load().size());
+    const Text key = formatInt(count);
+    const Text newCount = formatInt(count + 1);
+    const ProfileChange changes[] = {{m_section, key, value}, {m_section, countKey, newCount}};
+    return m_profile.apply(changes);
+}
+
+bool ValueHistory::remove(std::string_view value) {
+    std::vector<std::optional<Text>> values = load();
+    const auto found = std::find(values.begin(), values.end(), value);
+    if (found == values.end()) return true;
+    const std::size_t from = static_cast<std::size_t>(found - values.begin());
+    const Text newCount = formatInt(static_cast<std::int64_t>(values.size()) - 1);
+    std::vector<Text> keys;
+    keys.reserve(values.size());
+    std::vector<ProfileChange> changes{{m_section, countKey, newCount}};
+    for (std::size_t i = from; i < values.size(); ++i) {
+        std::optional<std::string_view> next;
+        if (i + 1 < values.size() && values[i + 1]) next = *values[i + 1];
+        keys.push_back(formatInt(static_cast<std::int64_t>(i)));
+        changes.push_back({m_section, keys.back(), next});
+    }
+    return m_profile.apply(changes);
+}
+
+}  // namespace lx

@@ -1,0 +1,233 @@
+#include "settings/profile.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <chrono>
+#include <random>
+
+#include "tests/support/memory_files.h"
+
+namespace lx {
+namespace {
+
+using namespace std::literals;
+
+const Path path = "settings.dat";
+
+class ProfileTest : public ::testing::Test {
+protected:
+    MemoryFiles files;
+    Profile profile{files, path};
+
+    Text read(std::string_view section, std::string_view key) {
+        return profile.read(section, key, "def");
+    }
+    void hold(std::string_view bytes) { files.content[path] = bytes; }
+};
+
+TEST_F(ProfileTest, ReadsValuesAsThePlatformDoes) {
+    hold(
+        "first=0\r\n"
+        "[A]\r\na=1\r\n b = two words  "
+        "\r\nq=\"quoted\"\r\ns='sq'\r\nm=\"mixed'\r\nqq=\"\"twice\"\"\r\n"
+        "q1=\"\r\nq2=\"\"\r\nqb=\" in \"\r\nnoeq\r\nnoeq=5\r\ne=\r\n;c=5\r\nA=9\r\nt=5 ; c = d\r\n"
+        "[D\r\n[ B ]\ra=2\r[C]x\na=3\n\n[a]\nnew=1\n[E]]\na=5\n\t[F];c\na=6\x1A"s);
+    const struct {
+        const char* section;
+        const char* key;
+        const char* value;
+    } cases[] = {
+        {"A", "a", "1"},
+        {"a", "A", "1"},
+        {"A", " b ", "two words"},
+        {" A ", "b", "two words"},
+        {"A", "q", "quoted"},
+        {"A", "s", "sq"},
+        {"A", "m", "\"mixed'"},
+        {"A", "qq", "\"twice\""},
+        {"A", "q1", "\""},
+        {"A", "q2", ""},
+        {"A", "qb", " in "},
+        {"A", "noeq", "def"},
+        {"A", "e", ""},
+        {"A", "c", "def"},
+        {"A", "t", "5 ; c = d"},
+        {"B", "a", "2"},
+        {"C", "a", "3"},
+        {"D", "a", "def"},
+        {"E]", "a", "5"},
+        {"F", "a", "6"},
+        {"", "first", "0"},
+        // Only the first of doubled sections is looked at.
+        {"A", "new", "def"},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(read(c.section, c.key), c.value) << '[' << c.section << "] " << c.key;
+    }
+    std::vector<Text> keys;
+    for (const ProfileEntry& entry : profile.entries("A")) keys.push_back(entry.key);
+    EXPECT_EQ(keys, (std::vector<Text>{"a", "b", "q", "s", "m", "qq", "q1", "q2", "qb", "noeq", "e",
+                                       "A", "t"}));
+}
+
+TEST_F(ProfileTest, CutsToTheBufferAndTrimsTheFallback) {
+    EXPECT_EQ(profile.read("A", "k", " x  "), " x");
+    hold("[A]\nk=\"12345\"\nz=1\0junk\n"s);
+    EXPECT_EQ(profile.read("A", "k", "", 6), "12345");
+    EXPECT_EQ(profile.read("A", "k", "", 5), "1234");
+    EXPECT_EQ(profile.read("A", "k", "", 1), "");
+    EXPECT_EQ(profile.read("A", "k", "", 0), "");
+    EXPECT_EQ(profile.read("A", "none", "abcdef", 4), "abc");
+    EXPECT_EQ(profile.read("A", "z", ""), "1");
+}
+
+TEST_F(ProfileTest, ReadsNumbersAsThePlatformDoes) {
+    EXPECT_EQ(profile.readInt("A", "k", 15), 15);
+    const struct {
+        const char* value;
+        std::int32_t number;
+    } cases[] = {{"12abc", 12},
+                 {"0x1F", 31},
+                 {"0X1F", 0},
+                 {"010", 10},
+                 {"-5", -5},
+                 {"+6", 6},
+                 {"- 5", 0},
+                 {"4294967297", 1},
+                 {"\"33\"", 33},
+                 {"0b11", 3},
+                 {"0o17", 15},
+                 {"-0x10", -16},
+                 {"2147483648", INT32_MIN},
+                 {"none", 0},
+                 {"1.9", 1},
+                 {"", 15},
+                 {"00000000000000000000000000000000012", 0}};
+    for (const auto& c : cases) {
+        hold("[A]\nk="s + c.value);
+        EXPECT_EQ(profile.readInt("a", "K", 15), c.number) << c.value;
+    }
+}
+
+struct WriteCase {
+    std::string before;
+    const char* section;
+    const char* key;
+    std::optional<std::string_view> value;
+    std::string after;
+};
+
+TEST_F(ProfileTest, ChangesOneLineAndKeepsAllOtherBytes) {
+    const WriteCase cases[] = {
+        {"", "A", "k", "v", "[A]\r\nk=v\r\n"},
+        // Behind the section's last line, before the blank ones.
+        {"[A]\r\nk=1\r\n;c\r\n\r\n[B]\r\nj=2\r\n", "a", "n", "5",
+         "[A]\r\nk=1\r\n;c\r\nn=5\r\n\r\n[B]\r\nj=2\r\n"},
+        {"[A]\r\n\r\n\r\n", "A", "n", "5", "[A]\r\nn=5\r\n\r\n\r\n"},
+        // Line ends are those of the file, and one that is missing is added.
+        {"[A]\nk=1", "A", "n", "5", "[A]\nk=1\nn=5\n"},
+        {"[A]\nk=1", "B", "n", "5", "[A]\nk=1\n[B]\nn=5\n"},
+        {"[A]\rk=1\r", "B", "n", "5", "[A]\rk=1\r[B]\rn=5\r"},
+        {"junk", "A", "n", "5", "junk\r\n[A]\r\nn=5\r\n"},
+        // Replacing keeps the key as it is written.
+        {"[A] ; c\r\n  Key\t=  old  \r\n", "A", "kEY", "new", "[A] ; c\r\n  Key\t=  new  \r\n"},
+        {"[A]\nk=\nj=1", "A", "k", "v", "[A]\nk=v\nj=1"},
+        {"[A]\nk=\"v\"\n", "A", "k", "v", "[A]\nk=v\n"},
+        {"[A]\n noeq \nj=1", "A", "noeq", "v", "[A]\n noeq=v \nj=1"},
+        {"[A]\nk=1\nk=2\n[A]\nk=3", "A", "k", "9", "[A]\nk=9\nk=2\n[A]\nk=3"},
+        {"[A]\n[A]\nk=3", "A", "k", "9", "[A]\nk=9\n[A]\nk=3"},
+        {"x=1\n[A]\n", "", "y", "2", "x=1\ny=2\n[A]\n"},
+        // A value is one line without blanks around it.
+        {"[A]\n", "A", "k", " a b \r\n[B]", "[A]\nk=a b\n"},
+        {"[A]\nk=1\nk=2\n\xC8\x81\0\xFF\n"s, "A", "k", std::nullopt, "[A]\nk=2\n\xC8\x81\0\xFF\n"s},
+        {"[A]\nk=1", "A", "k", std::nullopt, "[A]\n"},
+        // Files that a text editor saved as Unicode stay so.
+        {"\xEF\xBB\xBF[A]\nz=\xE2\x98\x83\nk=\xC4\x8C\n", "A", "k", "\xC8\xE8",
+         "\xEF\xBB\xBF[A]\nz=\xE2\x98\x83\nk=\xC4\x8C\xC4\x8D\n"},
+        {"\xFF\xFE[\0A\0]\0\n\0z\0=\0\x03\x26\n\0k\0=\0\x31\0\n\0"s, "A", "k", "\xC8",
+         "\xFF\xFE[\0A\0]\0\n\0z\0=\0\x03\x26\n\0k\0=\0\x0C\x01\n\0"s},
+    };
+    for (const WriteCase& c : cases) {
+        hold(c.before);
+        const bool done =
+            c.value ? profile.write(c.section, c.key, *c.value) : profile.erase(c.section, c.key);
+        EXPECT_TRUE(done);
+        EXPECT_EQ(files.content[path], c.after) << "from " << c.before;
+        EXPECT_EQ(profileWritten(c.before, c.section, c.key, c.value), c.after);
+    }
+    hold("\xEF\xBB\xBF[A]\nk=\xC4\x8C\n");
+    EXPECT_EQ(read("A", "k"), "\xC8");
+}
+
+TEST_F(ProfileTest, WritesOnlyWhatChangesAndNeverOverWhatItCannotRead) {
+    hold("[A]\r\n k =  1 \r\n");
+    files.readOnly = true;
+    EXPECT_TRUE(profile.write("a", "K", "1"));
+    EXPECT_TRUE(profile.erase("A", "none"));
+    EXPECT_TRUE(profile.erase("B", "k"));
+    EXPECT_FALSE(profile.write("A", "k", "2"));
+    EXPECT_EQ(files.content[path], "[A]\r\n k =  1 \r\n");
+
+    files.readOnly = false;
+    for (const char* key : {"", " ", "a=b", "[k", "a\nb", "a\rb"}) {
+        EXPECT_FALSE(profile.write("A", key, "2")) << key;
+    }
+    EXPECT_FALSE(profile.write("A\n", "k", "2"));
+    EXPECT_EQ(files.content[path], "[A]\r\n k =  1 \r\n");
+
+    files.locked.insert(path);
+    EXPECT_FALSE(profile.write("A", "k", "2"));
+    EXPECT_EQ(profile.readInt("A", "k", 7), 7);
+}
+
+TEST_F(ProfileTest, SeveralChangesAreOneReplacementOrNone) {
+    hold("[A]\nk=1\n");
+    const ProfileChange changes[] = {{"A", "k", std::nullopt}, {"A", "j", "2"}, {"B", "i", "3"}};
+    EXPECT_TRUE(profile.apply(changes));
+    EXPECT_EQ(files.content[path], "[A]\nj=2\n[B]\ni=3\n");
+    const ProfileChange impossible[] = {{"A", "j", "5"}, {"A", "=", "6"}};
+    EXPECT_FALSE(profile.apply(impossible));
+    EXPECT_EQ(files.content[path], "[A]\nj=2\n[B]\ni=3\n");
+}
+
+// All bytes of before are in after, in one or two runs.
+bool isInsertion(std::string_view before, std::string_view after) {
+    const auto difference = std::mismatch(before.begin(), before.end(), after.begin(), after.end());
+    const auto rest = static_cast<std::size_t>(before.end() - difference.first);
+    return after.size() > before.size() &&
+           after.substr(after.size() - rest) == before.substr(before.size() - rest);
+}
+
+// Whatever the file holds, a value written is a value read, and a hundred-megabyte line or a
+// million headings take no longer than reading them.
+TEST_F(ProfileTest, BearsNoiseAndHugeFiles) {
+    std::mt19937 random(20);
+    const std::string_view alphabet = "[]=;\"' \t\r\n\x1A\0ABab\xEF\xBB\xBF\xFF\xFE"sv;
+    for (int round = 0; round < 3000; ++round) {
+        std::string noise(random() % 60, ' ');
+        for (char& c : noise) c = alphabet[random() % alphabet.size()];
+        if (round % 5 == 0) noise.insert(0, "\xFF\xFE");
+        if (round % 5 == 1) noise.insert(0, "\xEF\xBB\xBF");
+        hold(noise);
+        const bool fresh = !profile.find("A", "b");
+        ASSERT_TRUE(profile.write("A", "b", "v\xE1l")) << round;
+        ASSERT_EQ(profile.find("A", "b"), "v\xE1l") << round << ' ' << noise;
+        if (fresh) {
+            ASSERT_TRUE(isInsertion(noise, files.content[path])) << round << ' ' << noise;
+        }
+    }
+    std::string sections;
+    for (int i = 0; i < 1000000; ++i) sections += "[A]\nb=1\n";
+    for (std::string huge : {std::string(50000000, 'x'), std::string(50000000, '\r'),
+                             std::string(50000000, '='), sections}) {
+        const auto start = std::chrono::steady_clock::now();
+        hold(huge);
+        EXPECT_TRUE(profile.write("B", "c", "3"));
+        EXPECT_EQ(read("B", "c"), "3");
+        EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
+    }
+}
+
+}  // namespace
+}  // namespace lx
