@@ -22,6 +22,8 @@ public:
     virtual ~CPreklItem();
 
     bool isType() const { return group < 0; }
+    // A copy of this record alone, without the rest of the chain.
+    std::unique_ptr<CPreklItem> copyAlone() const;
 
     std::int32_t rowNo = 0;   // number in the browser's current list; never stored
     std::int32_t group = -1;  // type k: -k; item of type k: k
@@ -36,6 +38,10 @@ public:
     std::optional<Text> description;
     char compositionMark = ' ';  // letter that the rules file uses; blank = none
     std::unique_ptr<CPreklItem> next;
+
+private:
+    struct Alone {};
+    CPreklItem(const CPreklItem& other, Alone);
 };
 
 using Catalogue = std::unique_ptr<CPreklItem>;
