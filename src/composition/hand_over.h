@@ -2,8 +2,7 @@
 // and module.
 #pragma once
 
-#include <optional>
-
+#include "catalogue/records.h"
 #include "composition/records.h"
 #include "platform/files.h"
 
@@ -16,10 +15,18 @@ Path handOverPath(Files& files);
 // length.
 int writeHandOver(const Path& path, CRez* head, double openingWidth, Files& files);
 
+// The whole file: its header and the design.
+Bytes handOverBytes(const CRez* head);
+
 struct HandOverRead {
-    bool present = false;  // there was a file, whatever it held
+    bool present = false;  // a file could be read, whatever it held
     RezChain design;       // empty when it held no head record
 };
 HandOverRead readHandOver(const Path& path, Files& files);
+RezChain parseHandOver(std::string_view bytes);
+
+// The stored form does not keep up with the catalogue: every record whose length follows the
+// opening takes its maxOpening from the first precast item of exactly its name, if there is one.
+void refreshMaxOpenings(CRez* head, const CPreklItem* precast);
 
 }  // namespace lx

@@ -2,7 +2,6 @@
 // Entries are only appended; a deleted one keeps its bytes and gets the project id -1.
 #pragma once
 
-#include <functional>
 #include <vector>
 
 #include "composition/records.h"
@@ -27,22 +26,25 @@ struct LibraryRead {
 
 // The designs of one project in file order. An entry whose length runs past the end gives the
 // records that can be read and is the last; a length below 8 ends the reading.
+// An entry without a head record is left out. The id of deleted entries has none.
 LibraryRead loadLibrary(const Path& path, std::int32_t project, Files& files);
+LibraryRead parseLibrary(std::string_view bytes, std::int32_t project);
 
 // True when an entry of that project and label holds the same design (compare gives 0, the given
 // design first).
 bool findStoredSame(const Path& path, std::int32_t project, std::string_view label,
                     const CRez& head, Files& files);
 
-// Appends the finished entry in one write, then marks the older ones at the given places deleted.
-// Before the append a torn tail is closed off where it stands, after keeping the file as .bak.
-// False when the entry could not be appended; the file then reads as before. replaceLabel: entries
-// of that project and label that were there before the append are marked deleted; empty marks none.
+// Appends the finished entry in one write, then marks the entries of that project and replaceLabel
+// that were there before it deleted (none when replaceLabel is empty). A torn tail is first closed
+// off where it stands, after keeping the file as .bak. False when the entry could not be appended;
+// the file then reads as before. An older entry that could not be marked stays beside the new one.
 bool appendDesign(const Path& path, std::int32_t project, const CRez& head,
                   std::string_view replaceLabel, Files& files);
 
 // Marks entries of the project with that label deleted, all of the project's when the label is
-// empty. True when at least one was marked.
+// empty. True when at least one was marked. A damaged file is kept as .bak first; when that fails
+// nothing is marked.
 bool deleteEntries(const Path& path, std::int32_t project, std::string_view label, Files& files);
 
 // Padded with blanks to at least 3 bytes.

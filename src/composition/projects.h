@@ -28,7 +28,10 @@ struct ProjectList {
 // "DEFAULT" alone.
 ProjectList defaultProjects();
 ProjectList loadProjects(const Path& path, Files& files);
-// False when the file may not be replaced or could not be written.
+ProjectList parseProjects(std::string_view bytes);
+Bytes projectBytes(const ProjectList& list);
+// False when the file may not be replaced or could not be written. A damaged file is kept as .bak
+// once; when that fails nothing is written.
 bool saveProjects(const Path& path, ProjectList& list, Files& files);
 
 }  // namespace lx

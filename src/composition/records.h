@@ -46,7 +46,7 @@ public:
 };
 
 // Bubble label: up to 3 bytes and zeros behind them.
-using Label = std::array<char, 4>;
+using BubbleLabel = std::array<char, 4>;
 
 class CRez {
 public:
@@ -86,17 +86,19 @@ public:
     CRez* next = nullptr;           // not owned
 };
 
-// Owns a chain of records and destroys it record by record.
+// Owns a chain of records and destroys it record by record. The links of its records are changed
+// through the chain alone.
 class RezChain {
 public:
     RezChain() = default;
-    RezChain(RezChain&& other) noexcept : m_head(other.release()) {}
+    RezChain(RezChain&& other) noexcept;
     RezChain& operator=(RezChain&& other) noexcept;
     ~RezChain() { clear(); }
 
     CRez* head() const { return m_head; }
     bool empty() const { return m_head == nullptr; }
-    CRez* last() const;
+    // Null when the chain is empty.
+    CRez* last() const { return m_last; }
     bool contains(const CRez* record) const;
     // The record whose next is that one; null for the head or a stranger.
     CRez* before(const CRez* record) const;
@@ -111,6 +113,7 @@ public:
 
 private:
     CRez* m_head = nullptr;
+    CRez* m_last = nullptr;
 };
 
 // First difference of two designs, walked from their heads in step: 0 the same; 1 a compared field

@@ -13,7 +13,7 @@ inline constexpr std::int32_t bendTag = 14302;
 // behind it.
 inline constexpr std::size_t storedNameLimit = 249;
 
-// Tag included.
+// Tag included. A name is cut to storedNameLimit, so that what is written can be read whole.
 void writeRecord(const CRez& record, BinaryWriter& writer, bool isHead);
 void writeDesign(const CRez* head, BinaryWriter& writer);
 

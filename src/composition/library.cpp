@@ -1,0 +1,181 @@
+#include "composition/library.h"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+#include "composition/library_entries.h"
+#include "composition/stored_form.h"
+
+namespace lx {
+
+namespace {
+
+constexpr std::size_t labelField = 4;  // bytes
+constexpr std::size_t labelLength = 3;
+constexpr std::int32_t entryHeader = 8;           // bytes of project id and label
+constexpr std::size_t smallestEntry = 12;         // bytes, its length field included
+constexpr std::size_t fewEnoughToOverwrite = 16;  // places; more are cheaper as one new file
+
+using Positions = std::vector<std::size_t>;  // of project ids in the file
+
+Bytes int32Bytes(std::int32_t value) {
+    BinaryWriter writer;
+    writer.int32(value);
+    return writer.take();
+}
+
+// Where the project ids of the entries stand; an empty label stands for every label.
+Positions entriesOf(std::string_view bytes, std::int32_t project, std::string_view label) {
+    Positions positions;
+    if (project == deletedProject) return positions;
+    LibraryEntries entries(bytes);
+    while (entries.next()) {
+        if (entries.project() == project && (label.empty() || entries.label() == label)) {
+            positions.push_back(entries.projectPosition());
+        }
+    }
+    return positions;
+}
+
+// True when at least one was marked.
+bool markDeleted(const Path& path, const Positions& positions, Files& files) {
+    const Bytes deleted = int32Bytes(deletedProject);
+    if (positions.size() <= fewEnoughToOverwrite) {
+        bool any = false;
+        for (const std::size_t position : positions) {
+            if (files.overwrite(path, position, deleted)) any = true;
+        }
+        return any;
+    }
+    FileRead file = files.read(path);
+    for (const std::size_t position : positions) {
+        if (position + deleted.size() > file.bytes.size()) return false;
+        file.bytes.replace(position, deleted.size(), deleted);
+    }
+    return files.replace(path, file.bytes);
+}
+
+// The finished entry; empty when it is too long for its length field.
+Bytes entryBytes(std::int32_t project, const CRez& head) {
+    BinaryWriter design;
+    writeDesign(&head, design);
+    constexpr std::size_t longest = std::numeric_limits<std::int32_t>::max() - entryHeader;
+    if (design.bytes().size() > longest) return {};
+    Bytes label = paddedLabel(head.label());
+    label.resize(labelField, '\0');
+    BinaryWriter entry;
+    entry.int32(entryHeader + static_cast<std::int32_t>(design.bytes().size()));
+    entry.int32(project);
+    entry.raw(label);
+    entry.raw(design.bytes());
+    return entry.take();
+}
+
+// How a torn tail becomes a deleted entry of its own: what stands over its first bytes, and what
+// must be appended behind it where it is too short even for that.
+struct Closing {
+    Bytes over;
+    Bytes behind;
+};
+
+Closing closing(std::size_t tailSize) {
+    const std::size_t size = std::max(tailSize, smallestEntry);
+    BinaryWriter writer;
+    writer.int32(static_cast<std::int32_t>(size - sizeof(std::int32_t)));
+    writer.int32(deletedProject);
+    Bytes start = writer.take();
+    if (tailSize >= smallestEntry) return {std::move(start), {}};
+    start.resize(smallestEntry, '\0');
+    return {start.substr(0, tailSize), start.substr(tailSize)};
+}
+
+bool appendBehindTornTail(const Path& path, std::string_view bytes, std::size_t tornStart,
+                          const Bytes& entry, Files& files) {
+    const std::size_t tailSize = bytes.size() - tornStart;
+    if (tailSize > std::numeric_limits<std::int32_t>::max()) return false;
+    if (!files.keepAsBackup(path)) return false;
+    const Closing closed = closing(tailSize);
+    if (!files.overwrite(path, tornStart, closed.over)) return false;
+    if (files.append(path, closed.behind + entry)) return true;
+    // The tail's own records stay readable when nothing could be put behind it.
+    files.overwrite(path, tornStart, bytes.substr(tornStart, closed.over.size()));
+    return false;
+}
+
+}  // namespace
+
+Text paddedLabel(std::string_view label) {
+    Text padded(label);
+    if (padded.size() < labelLength) padded.resize(labelLength, ' ');
+    return padded;
+}
+
+LibraryRead parseLibrary(std::string_view bytes, std::int32_t project) {
+    LibraryRead result;
+    result.opened = true;
+    LibraryEntries entries(bytes);
+    while (entries.next()) {
+        if (entries.project() != project || project == deletedProject) continue;
+        BinaryReader reader(entries.design());
+        DesignRead read = readDesign(reader);
+        if (read.damaged || read.design.empty()) result.damaged = true;
+        if (read.design.empty()) continue;
+        result.entries.push_back({entries.label(), std::move(read.design)});
+    }
+    if (entries.torn()) result.damaged = true;
+    return result;
+}
+
+LibraryRead loadLibrary(const Path& path, std::int32_t project, Files& files) {
+    const FileRead file = files.read(path);
+    if (file.status == ReadStatus::ok) return parseLibrary(file.bytes, project);
+    LibraryRead result;
+    result.missing = file.status == ReadStatus::missing;
+    return result;
+}
+
+bool findStoredSame(const Path& path, std::int32_t project, std::string_view label,
+                    const CRez& head, Files& files) {
+    const FileRead file = files.read(path);
+    if (project == deletedProject) return false;
+    LibraryEntries entries(file.bytes);
+    while (entries.next()) {
+        if (entries.project() != project || entries.label() != label) continue;
+        BinaryReader reader(entries.design());
+        if (compare(&head, readDesign(reader).design.head()) == 0) return true;
+    }
+    return false;
+}
+
+bool appendDesign(const Path& path, std::int32_t project, const CRez& head,
+                  std::string_view replaceLabel, Files& files) {
+    if (project == deletedProject) return false;
+    const FileRead file = files.read(path);
+    const Bytes entry = entryBytes(project, head);
+    if (file.status == ReadStatus::failed || entry.empty()) return false;
+
+    Positions older;
+    if (!replaceLabel.empty()) older = entriesOf(file.bytes, project, replaceLabel);
+    LibraryEntries entries(file.bytes);
+    while (entries.next()) {
+    }
+    const bool appended =
+        entries.torn() ? appendBehindTornTail(path, file.bytes, entries.tornStart(), entry, files)
+                       : files.append(path, entry);
+    if (appended) markDeleted(path, older, files);
+    return appended;
+}
+
+bool deleteEntries(const Path& path, std::int32_t project, std::string_view label, Files& files) {
+    const FileRead file = files.read(path);
+    const Positions positions = entriesOf(file.bytes, project, label);
+    if (positions.empty()) return false;
+    LibraryEntries entries(file.bytes);
+    while (entries.next()) {
+    }
+    if (entries.torn() && !files.keepAsBackup(path)) return false;
+    return markDeleted(path, positions, files);
+}
+
+}  // namespace lx

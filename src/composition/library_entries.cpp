@@ -1,0 +1,42 @@
+#include "composition/library_entries.h"
+
+#include <algorithm>
+
+#include "platform/binary.h"
+
+namespace lx {
+
+namespace {
+constexpr std::size_t lengthField = 4;
+constexpr std::size_t entryHeader = 8;  // project id and label, counted by the length
+constexpr std::size_t labelLength = 3;
+}  // namespace
+
+bool LibraryEntries::next() {
+    if (m_torn || m_next >= m_bytes.size()) return false;
+    m_start = m_next;
+    m_torn = true;
+    const std::string_view rest = m_bytes.substr(m_start);
+    if (rest.size() < lengthField) return false;
+    const std::int32_t length = BinaryReader(rest).int32();
+    if (length < static_cast<std::int32_t>(entryHeader)) return false;
+    m_body = rest.substr(lengthField, static_cast<std::size_t>(length));
+    m_torn = m_body.size() < static_cast<std::size_t>(length);
+    m_next = m_start + lengthField + m_body.size();
+    return m_body.size() >= entryHeader;
+}
+
+std::int32_t LibraryEntries::project() const {
+    return BinaryReader(m_body).int32();
+}
+
+Text LibraryEntries::label() const {
+    const std::string_view bytes = m_body.substr(sizeof(std::int32_t), labelLength);
+    return Text(bytes.substr(0, bytes.find('\0')));
+}
+
+std::string_view LibraryEntries::design() const {
+    return m_body.substr(entryHeader);
+}
+
+}  // namespace lx

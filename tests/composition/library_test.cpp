@@ -1,0 +1,223 @@
+#include "composition/library.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <random>
+
+#include "tests/support/designs.h"
+#include "tests/support/failing_files.h"
+#include "tests/support/memory_files.h"
+
+namespace lx {
+namespace {
+
+const Path path = "preklady.bk6";
+
+void store(Files& files, std::int32_t project, std::string_view label, std::int32_t wall = 300) {
+    const RezChain design = sampleDesign(label, wall);
+    ASSERT_TRUE(appendDesign(path, project, *design.head(), {}, files));
+}
+
+// "A  300 B  450": label and wall thickness of each entry.
+std::string listed(std::string_view bytes, std::int32_t project) {
+    std::string text;
+    for (const LibraryEntry& entry : parseLibrary(bytes, project).entries) {
+        text += entry.label + std::to_string(entry.design.head()->width) + " ";
+    }
+    return text;
+}
+
+std::int32_t int32At(std::string_view bytes, std::size_t position) {
+    return BinaryReader(bytes.substr(position)).int32();
+}
+
+void put(Bytes& bytes, std::size_t position, std::int32_t value) {
+    BinaryWriter writer;
+    writer.int32(value);
+    bytes.replace(position, 4, writer.bytes());
+}
+
+TEST(Library, EntriesCarryLengthProjectAndPaddedLabel) {
+    MemoryFiles files;
+    store(files, 5, "A");
+    const Bytes& bytes = files.content.at(path);
+    EXPECT_EQ(int32At(bytes, 0), static_cast<int>(bytes.size()) - 4);
+    EXPECT_EQ(int32At(bytes, 4), 5);
+    EXPECT_EQ(bytes.substr(8, 4), Bytes("A  \0", 4));
+    EXPECT_EQ(bytes.substr(12), designBytes(sampleDesign("A").head()));
+    EXPECT_EQ(parseLibrary(bytes, 5).entries[0].design.head()->label(), "A");
+}
+
+TEST(Library, AProjectShowsItsOwnDesignsInFileOrder) {
+    MemoryFiles files;
+    EXPECT_TRUE(loadLibrary(path, 1, files).missing);
+    store(files, 1, "B", 300);
+    store(files, 2, "A", 301);
+    store(files, 1, "ABC", 302);
+    store(files, 1, "B", 303);
+    EXPECT_EQ(listed(files.content[path], 1), "B  300 ABC302 B  303 ");
+    EXPECT_EQ(listed(files.content[path], 2), "A  301 ");
+    EXPECT_TRUE(deleteEntries(path, 1, "B  ", files));
+    EXPECT_FALSE(deleteEntries(path, 1, "B  ", files));
+    EXPECT_FALSE(deleteEntries(path, 1, "abc", files));
+    EXPECT_EQ(listed(files.content[path], 1), "ABC302 ");
+    EXPECT_EQ(listed(files.content[path], deletedProject), "");
+    EXPECT_FALSE(deleteEntries(path, deletedProject, "", files));
+    EXPECT_TRUE(deleteEntries(path, 1, "", files));
+    EXPECT_EQ(listed(files.content[path], 1), "");
+    EXPECT_EQ(listed(files.content[path], 2).substr(0, 3), "A  ");
+
+    files.locked.insert(path);
+    const LibraryRead locked = loadLibrary(path, 1, files);
+    EXPECT_FALSE(locked.opened || locked.missing);
+}
+
+TEST(Library, StoringAgainReplacesEveryOlderOneOfTheLabel) {
+    MemoryFiles files;
+    for (int i = 0; i < 40; ++i) store(files, 1, "A", 300 + i);
+    store(files, 2, "A", 200);
+    const std::size_t before = files.content[path].size();
+    const RezChain design = sampleDesign("A", 500);
+    EXPECT_TRUE(appendDesign(path, 1, *design.head(), "A  ", files));
+    EXPECT_EQ(listed(files.content[path], 1), "A  500 ");
+    EXPECT_EQ(listed(files.content[path], 2), "A  200 ");
+    EXPECT_GT(files.content[path].size(), before);
+    EXPECT_EQ(files.content.count(path + ".bak"), 0U);
+    EXPECT_FALSE(appendDesign(path, deletedProject, *design.head(), {}, files));
+}
+
+TEST(Library, SameMeansOneOfTheEntriesOfTheLabel) {
+    MemoryFiles files;
+    const RezChain design = sampleDesign("A");
+    EXPECT_FALSE(findStoredSame(path, 1, "A  ", *design.head(), files));
+    store(files, 1, "A", 400);
+    store(files, 1, "A", 300);
+    EXPECT_TRUE(findStoredSame(path, 1, "A  ", *design.head(), files));
+    EXPECT_FALSE(findStoredSame(path, 1, "A", *design.head(), files));
+    EXPECT_FALSE(findStoredSame(path, 2, "A  ", *design.head(), files));
+    design.head()->next->letter = 'Q';
+    EXPECT_TRUE(findStoredSame(path, 1, "A  ", *design.head(), files));
+    ++design.head()->next->length;
+    EXPECT_FALSE(findStoredSame(path, 1, "A  ", *design.head(), files));
+    // Labels of four and more bytes never meet a stored one: both designs stand under "ABC".
+    const RezChain first = sampleDesign("ABCD", 300);
+    const RezChain second = sampleDesign("ABCE", 450);
+    appendDesign(path, 3, *first.head(), "ABCD", files);
+    appendDesign(path, 3, *second.head(), "ABCE", files);
+    EXPECT_EQ(listed(files.content[path], 3), "ABC300 ABC450 ");
+    EXPECT_TRUE(deleteEntries(path, 3, "ABC", files));
+    EXPECT_EQ(listed(files.content[path], 3), "");
+}
+
+TEST(Library, ATornTailIsClosedOffAndTheNextEntryIsReachable) {
+    MemoryFiles whole;
+    store(whole, 1, "A", 300);
+    const std::size_t first = whole.content[path].size();
+    store(whole, 1, "B", 310);
+    const Bytes bytes = whole.content[path];
+    const RezChain added = sampleDesign("C", 320);
+    for (std::size_t size = first + 1; size < bytes.size(); ++size) {
+        MemoryFiles files;
+        const Bytes torn = bytes.substr(0, size);
+        files.content[path] = torn;
+        const LibraryRead read = parseLibrary(torn, 1);
+        EXPECT_TRUE(read.damaged) << size;
+        EXPECT_EQ(read.entries.size(), size < first + 12 + 8 ? 1U : 2U) << size;
+        ASSERT_TRUE(appendDesign(path, 1, *added.head(), "C  ", files));
+        EXPECT_EQ(files.content[path + ".bak"], torn);
+        EXPECT_EQ(listed(files.content[path], 1), "A  300 C  320 ") << size;
+        EXPECT_FALSE(parseLibrary(files.content[path], 1).damaged) << size;
+        // Nothing of the tail but its first bytes has changed.
+        if (size > first + 8) {
+            EXPECT_EQ(files.content[path].substr(first + 8, size - first - 8),
+                      size < first + 12 ? Bytes(size - first - 8, '\0') : torn.substr(first + 8));
+        }
+    }
+}
+
+TEST(Library, ImpossibleLengthsEndTheReading) {
+    MemoryFiles files;
+    store(files, 1, "A", 300);
+    const std::size_t first = files.content[path].size();
+    store(files, 1, "B", 310);
+    store(files, 1, "C", 320);
+    const RezChain added = sampleDesign("D", 330);
+    for (const std::int32_t length : {0, 7, -4, std::numeric_limits<std::int32_t>::min(),
+                                      std::numeric_limits<std::int32_t>::max()}) {
+        MemoryFiles damaged;
+        damaged.content[path] = files.content[path];
+        put(damaged.content[path], first, length);
+        const LibraryRead read = parseLibrary(damaged.content[path], 1);
+        EXPECT_TRUE(read.damaged);
+        // An endless entry has records that can be read, up to the next head or tag of none.
+        EXPECT_EQ(read.entries.size(), length > 8 ? 2U : 1U) << length;
+        ASSERT_TRUE(appendDesign(path, 1, *added.head(), {}, damaged));
+        EXPECT_EQ(listed(damaged.content[path], 1), "A  300 D  330 ");
+        EXPECT_EQ(damaged.content[path].size(),
+                  files.content[path].size() + designBytes(added.head()).size() + 12);
+    }
+    // Deleting keeps the damaged file too.
+    Bytes torn = files.content[path];
+    torn.pop_back();
+    files.content[path] = torn;
+    FailingFiles failing(files, 2);
+    EXPECT_FALSE(deleteEntries(path, 1, "A  ", failing));
+    EXPECT_EQ(files.content[path], torn);
+    EXPECT_TRUE(deleteEntries(path, 1, "A  ", files));
+    EXPECT_EQ(files.content[path + ".bak"], torn);
+    EXPECT_EQ(listed(files.content[path], 1), "B  310 C  320 ");
+}
+
+// Whatever fails at storing, and whenever the process dies, every design that was there is listed
+// afterwards, and storing once more completes it.
+TEST(Library, AFailedStoreLosesNothing) {
+    for (const bool tornBefore : {false, true}) {
+        for (const Fault fault : {Fault::refused, Fault::died}) {
+            for (int failAt = 1;; ++failAt) {
+                MemoryFiles files;
+                store(files, 1, "A", 300);
+                store(files, 1, "B", 310);
+                if (tornBefore) {
+                    store(files, 1, "T", 311);
+                    files.content[path].resize(files.content[path].size() - 5);
+                }
+                const Bytes before = files.content[path];
+                const RezChain design = sampleDesign("A", 300);
+                FailingFiles failing(files, failAt, fault);
+                const bool stored = appendDesign(path, 1, *design.head(), "A  ", failing);
+                if (failing.operations() < failAt) break;
+
+                const std::string now = listed(files.content[path], 1);
+                EXPECT_NE(now.find("A  300"), std::string::npos) << failAt;
+                EXPECT_NE(now.find("B  310"), std::string::npos) << failAt;
+                const bool backedUp = files.content[path + ".bak"] == before;
+                EXPECT_TRUE(!tornBefore || backedUp || files.content[path] == before);
+                EXPECT_TRUE(stored || fault == Fault::died || files.content[path] == before);
+                EXPECT_TRUE(appendDesign(path, 1, *design.head(), "A  ", files));
+                EXPECT_EQ(listed(files.content[path], 1), "B  310 A  300 ") << failAt;
+            }
+        }
+    }
+}
+
+TEST(Library, NoiseIsReadWithoutHarm) {
+    std::mt19937 random(5);
+    MemoryFiles files;
+    for (int i = 0; i < 5; ++i) store(files, i % 2, "A", 300 + i);
+    const RezChain design = sampleDesign("Z", 999);
+    for (int round = 0; round < 300; ++round) {
+        MemoryFiles noisy;
+        noisy.content[path] = files.content[path];
+        Bytes& bytes = noisy.content[path];
+        for (int i = 0; i < 8; ++i) bytes[random() % bytes.size()] = static_cast<char>(random());
+        findStoredSame(path, 0, "A  ", *design.head(), noisy);
+        ASSERT_TRUE(appendDesign(path, 1, *design.head(), "A  ", noisy));
+        const LibraryRead read = loadLibrary(path, 1, noisy);
+        ASSERT_FALSE(read.entries.empty());
+        EXPECT_EQ(designBytes(read.entries.back().design.head()), designBytes(design.head()));
+    }
+}
+
+}  // namespace
+}  // namespace lx

@@ -1,0 +1,135 @@
+#include "composition/stored_form.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <random>
+
+#include "composition/layout.h"
+#include "tests/support/designs.h"
+
+namespace lx {
+namespace {
+
+DesignRead readBytes(std::string_view bytes) {
+    BinaryReader reader(bytes);
+    return readDesign(reader);
+}
+
+// A record whose fields are all zero but for the kind.
+Bytes rawRecord(std::int32_t tag, std::int32_t kindCode, std::string_view tail) {
+    BinaryWriter writer;
+    writer.int32(tag);
+    for (int i = 0; i < 9; ++i) writer.int32(0);
+    writer.int32(kindCode);
+    writer.int32(0);
+    writer.raw(tail);
+    return writer.take();
+}
+
+TEST(StoredForm, FieldsStandWhereTheFilesHaveThem) {
+    const RezChain design = sampleDesign("B");
+    const Bytes bytes = designBytes(design.head());
+    ASSERT_EQ(bytes.size(), 87U + 59U + 50U);
+    BinaryReader reader(bytes);
+    for (const int value : {14300, 0, 0x42, 300, 2300, 1200, 0, 0, 0, 1, -1, 0, 1}) {
+        EXPECT_EQ(reader.int32(), value);
+    }
+    for (const int value : {14302, 100, 50}) EXPECT_EQ(reader.int32(), value);
+    EXPECT_EQ(reader.byte(), 0);
+    for (const int value : {1, 14302, 120, -30}) EXPECT_EQ(reader.int32(), value);
+    EXPECT_EQ(reader.raw(6), std::string_view("\1\0\0\0\0 ", 6));
+    for (const int value : {14301, 2, 5, 70, 238, 1450, 52200, 1200, 0, 50, 0, 125}) {
+        EXPECT_EQ(reader.int32(), value);
+    }
+    EXPECT_EQ(reader.raw(11), std::string_view("KPV 7/145\0X", 11));
+    const DesignRead read = readBytes(bytes);
+    EXPECT_FALSE(read.damaged);
+    EXPECT_EQ(designBytes(read.design.head()), bytes);
+
+    // The tag alone makes a head, and anything else is a layer.
+    const Bytes odd = rawRecord(headTag, kind::precast, std::string_view("\0\0\0\0 ", 5)) +
+                      rawRecord(77, 5, std::string_view("n\0L", 3));
+    EXPECT_EQ(readBytes(odd).design.head()->kind, kind::head);
+    EXPECT_EQ(readBytes(odd).design.last()->letter, 'L');
+}
+
+TEST(StoredForm, LongNamesAreCutAndTheNextRecordIsFound) {
+    RezChain design = sampleDesign();
+    design.last()->name = Text(300, 'n');
+    const Bytes bytes = designBytes(design.head()) +
+                        rawRecord(layerTag, 5, Bytes(400, 'm') + '\0' + 'L') +
+                        recordBytes(*layer(7, 40), false);
+    const DesignRead read = readBytes(bytes);
+    EXPECT_FALSE(read.damaged);
+    const CRez* first = read.design.head()->next->next;
+    EXPECT_EQ(first->nameOrEmpty(), Text(249, 'n'));
+    EXPECT_EQ(first->next->nameOrEmpty(), Text(249, 'm'));
+    EXPECT_EQ(first->next->next->kind, 7);
+}
+
+TEST(StoredForm, CutShortAnywhereKeepsWhatWasRead) {
+    const Bytes bytes = designBytes(sampleDesign().head());
+    for (std::size_t size = 0; size <= bytes.size(); ++size) {
+        const DesignRead read = readBytes(std::string_view(bytes).substr(0, size));
+        // Where the record starts that is cut, and how many whole ones stand before it.
+        const std::size_t start = size < 87 ? 0 : size < 146 ? 87 : size < 196 ? 146 : 196;
+        const int whole = size < 87 ? 0 : size < 146 ? 1 : size < 196 ? 2 : 3;
+        const CRez* head = read.design.head();
+        ASSERT_EQ(head ? layerCount(*head) + 1 : 0, whole + (size >= start + 8 ? 1 : 0)) << size;
+        EXPECT_EQ(read.damaged, size != start) << size;
+        EXPECT_EQ(designBytes(head).substr(0, start), bytes.substr(0, start)) << size;
+        EXPECT_TRUE(size < 16 || head->width == 300) << size;
+    }
+}
+
+TEST(StoredForm, WhatIsNoDesignIsLeftOut) {
+    const Bytes good = designBytes(sampleDesign().head());
+    const Bytes stray = recordBytes(*layer(0, 1), false);
+    const Bytes headAsLayer = rawRecord(layerTag, kind::head, std::string_view("n\0 ", 3));
+    for (const Bytes& bytes : {stray + good, good + good, good + headAsLayer + stray}) {
+        const DesignRead read = readBytes(bytes);
+        EXPECT_TRUE(read.damaged);
+        EXPECT_EQ(designBytes(read.design.head()), good);
+    }
+    EXPECT_TRUE(readBytes(stray).design.empty());
+}
+
+TEST(StoredForm, EndlessBendsEndWithTheBytes) {
+    constexpr std::int32_t high = std::numeric_limits<std::int32_t>::max();
+    BinaryWriter writer;
+    writer.raw(rawRecord(headTag, kind::head, {}));
+    for (int i = 0; i < 200'000; ++i) {
+        for (const std::int32_t value : {-1, 0, i, high}) writer.int32(value);
+        writer.byte(2);
+    }
+    const DesignRead read = readBytes(writer.bytes());
+    EXPECT_TRUE(read.damaged);
+    const CRez copy(*read.design.head());
+    int bends = 0;
+    for (const CZalom* bend = copy.bends.get(); bend; bend = bend->next.get()) {
+        ASSERT_EQ(bend->run, bends++);
+    }
+    EXPECT_EQ(bends, 200'000);
+    EXPECT_EQ(levelAbove(copy.bends.get(), 0, 100), high);
+}
+
+TEST(StoredForm, NoiseIsReadWithoutHarm) {
+    std::mt19937 random(11);
+    const Bytes start = designBytes(sampleDesign().head());
+    for (int round = 0; round < 300; ++round) {
+        Bytes noise = start;
+        noise.resize(start.size() + random() % 600);
+        for (std::size_t i = 4 + random() % noise.size(); i < noise.size(); ++i) {
+            noise[i] = static_cast<char>(random() % 2 == 0 ? 0 : random());
+        }
+        DesignRead read = readBytes(noise);
+        if (read.design.empty()) continue;
+        layOut(*read.design.head());
+        const Bytes written = designBytes(read.design.head());
+        EXPECT_EQ(designBytes(readBytes(written).design.head()), written);
+    }
+}
+
+}  // namespace
+}  // namespace lx
