@@ -1,9 +1,10 @@
 // What pages and previews ask of the design dialog.
 #pragma once
 
-#include "composition/layout.h"
-#include "composition/records.h"
 #include "design/design_model.h"
+#include "design/dialog_settings.h"
+#include "design/library_session.h"
+#include "design/module_values.h"
 
 namespace lx {
 
@@ -16,6 +17,8 @@ public:
 
     virtual Context& context() = 0;
     virtual DesignModel& model() = 0;
+    virtual LibrarySession& library() = 0;
+    virtual DialogSettings& settings() = 0;
     virtual Dialog& window() = 0;
 
     // Lays the design out, keeps the current record, redraws both previews and refreshes the
@@ -27,15 +30,16 @@ public:
     virtual void ShowTab(int index) = 0;
     virtual void RefreshProperties() = 0;
     virtual void RefreshAvailability() = 0;
+    // For the type selected in the page's "Typ:" box.
     virtual void RebuildPrecastOffer() = 0;
     virtual void RebuildSteelOffer() = 0;
+    // The "Typ:" boxes show the types of the design's last precast and last steel layer.
     virtual void ShowDesignTypes() = 0;
-    // Only the bit of value 256 of the request has an effect: picking into the precast offer.
-    virtual void OpenCatalogue(int request) = 0;
-    // Commits and closes a pending in-place edit.
-    virtual void EndEdit() = 0;
+    // Commits and closes a pending in-place edit; false when its value was refused.
+    virtual bool EndEdit() = 0;
     virtual void RedrawPreviews() = 0;
-    virtual MessageAnswer showMessage(int number, MessageIcon icon,
+    // A message box over the dialog with the caption "Upozornění".
+    virtual MessageAnswer showMessage(std::string_view text, MessageIcon icon,
                                       MessageButtons buttons = MessageButtons::ok) = 0;
 };
 

@@ -1,0 +1,96 @@
+// The design dialog "Návrh překladu": one design from the host's call to its result. It fills its
+// controls from the model, forwards the user's acts and shows what the model answers.
+#pragma once
+
+#include <array>
+
+#include "design/dialog_settings.h"
+#include "design/library_session.h"
+#include "design/page_index.h"
+#include "design/pages.h"
+#include "design/services.h"
+
+namespace lx {
+
+class CObr1 : private DesignServices {
+public:
+    // Everything given must outlive the dialog.
+    CObr1(const Context& context, Owner owner, PageFactory& factory);
+    ~CObr1() override;
+
+    // The call's values, in and out. A and B change only when the user confirms, also when that
+    // confirmation is refused later in its checks.
+    int resultA = 0;
+    int resultB = 0;
+    // Bubble name, CR LF, description; empty until the user confirms.
+    Text resultText;
+    // True: the exterior face of the wall is at the left of the section.
+    bool exteriorSide = false;
+
+    // Runs the dialog on the module-wide values: 1 after OK, 2 after Cancel or when a catalogue
+    // cannot be opened, -1 when the window could not be made. Once per object.
+    int DoModal();
+
+private:
+    // ---- services to the pages and previews
+    Context& context() override { return m_context; }
+    DesignModel& model() override { return m_model; }
+    LibrarySession& library() override { return m_library; }
+    DialogSettings& settings() override { return m_settings; }
+    Dialog& window() override { return *m_window; }
+    int Relayout() override;
+    void SelectRecord(CRez* record) override;
+    void ShowTab(int index) override;
+    void RefreshProperties() override;
+    void RefreshAvailability() override;
+    void RebuildPrecastOffer() override;
+    void RebuildSteelOffer() override;
+    void ShowDesignTypes() override;
+    bool EndEdit() override;
+    void RedrawPreviews() override;
+    MessageAnswer showMessage(std::string_view text, MessageIcon icon,
+                              MessageButtons buttons) override;
+
+    // ---- opening (CObr1_open.cpp), in the order of its steps
+    void connect();
+    void open();
+    bool loadCatalogues();
+    bool loadCatalogueOf(CatalogueKind kind, Catalogue& catalogue);
+    void makePages();
+    void place(DesignPage& page);
+    void fillTypeBoxes();
+    void readHandOver();
+    void restoreCheckBoxes();
+    void showStoredTab();
+
+    // ---- the user's acts
+    KeyAnswer key(const KeyEvent& event);
+    void changeTab(int index);
+    bool focusOutsidePages();
+    void chooseSource(PropertiesSource source);
+    void confirm();
+    void showBubbleField();
+    Text describe(std::string_view topic) const;
+
+    std::array<DesignPage*, page::count> pages() const;
+
+    Context m_context;
+    Owner m_owner;
+    PageFactory& m_factory;
+    DesignModel m_model;
+    DialogSettings m_settings;
+    LibrarySession m_library;
+    std::unique_ptr<Dialog> m_window;
+    // Children of the window, none until it opens; none at all when a catalogue is missing.
+    std::unique_ptr<SectionPreview> m_section;
+    std::unique_ptr<GeometryPage> m_geometry;
+    std::unique_ptr<OfferPage> m_precast;
+    std::unique_ptr<OfferPage> m_steel;
+    std::unique_ptr<MonolithPage> m_monolith;
+    std::unique_ptr<LibraryPage> m_libraryPage;
+    int m_tab = page::geometry;
+    PropertiesSource m_source = PropertiesSource::offer;
+    int m_helpTopic = 0;
+};
+
+}  // namespace lx

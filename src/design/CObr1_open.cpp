@@ -1,0 +1,149 @@
+// How the design dialog opens: the order of the steps matters, since later ones replace what
+// earlier ones made.
+#include "catalogue/catalogue_file.h"
+#include "composition/hand_over.h"
+#include "composition/offers.h"
+#include "design/CObr1.h"
+#include "design/bubble_name.h"
+#include "resources/icons.h"
+#include "resources/ids.h"
+#include "resources/strings.h"
+
+namespace lx {
+
+namespace {
+
+constexpr int cataloguesMissingText = 113;
+
+// The host asks a window by this message whether it is one of the module's.
+constexpr unsigned identifyMessage = 0x7101;
+constexpr int identifyAnswer = 1;
+
+}  // namespace
+
+void CObr1::connect() {
+    Dialog& window = *m_window;
+    window.setIcon(icon::module);
+    window.get<Button>(id::moduleIcon).setIcon(icon::module);
+    window.answerMessage(identifyMessage, identifyAnswer);
+    window.onKey = [this](const KeyEvent& event) { return key(event); };
+    window.onTimer = [this](int) { m_window->bringToFront(); };
+    window.onDestroy = [this] { m_model.clear(); };
+    window.onDescribe = [this](std::string_view topic) { return describe(topic); };
+    window.get<Button>(id::ok).onClick = [this] { confirm(); };
+    window.get<Button>(id::help).onClick = [this] { m_context.host.showHelp(m_helpTopic); };
+    window.get<RadioButton>(id::fromPreview).onClick = [this] {
+        chooseSource(PropertiesSource::preview);
+    };
+    window.get<RadioButton>(id::fromOffer).onClick = [this] {
+        chooseSource(PropertiesSource::offer);
+    };
+    TabControl& tabs = window.get<TabControl>(id::tabs);
+    tabs.onSelect = [this, &tabs] { changeTab(tabs.selected()); };
+}
+
+void CObr1::open() {
+    connect();
+    if (!loadCatalogues()) return m_window->end(id::cancel);
+    m_model.startDesign();
+    makePages();
+    fillTypeBoxes();
+    RebuildPrecastOffer();
+    RebuildSteelOffer();
+    m_source = PropertiesSource::offer;
+    m_window->get<RadioButton>(id::fromOffer).check(true);
+    m_library.LoadProjects();
+    m_libraryPage->showProjects();
+    readHandOver();
+    restoreCheckBoxes();
+    m_geometry->initialise();
+    m_model.takeOpeningBlock(m_context.host.unitsPerMetre());
+    Relayout();
+    ShowDesignTypes();
+    m_library.LoadLibrary(m_model);
+    m_libraryPage->showDesigns();
+    m_model.settleLevel();
+    showStoredTab();
+}
+
+bool CObr1::loadCatalogues() {
+    ModuleValues& values = m_context.values;
+    values.precast.reset();
+    values.steel.reset();
+    return loadCatalogueOf(CatalogueKind::precast, values.precast) &&
+           loadCatalogueOf(CatalogueKind::steel, values.steel);
+}
+
+// Going on without a catalogue would let the browser empty its file.
+bool CObr1::loadCatalogueOf(CatalogueKind kind, Catalogue& catalogue) {
+    LoadedCatalogue loaded =
+        loadCatalogue(kind, cataloguePath(kind, m_context.host), m_context.files);
+    if (!loaded.opened) {
+        m_context.platform.messageBox(Owner{m_window.get(), m_owner.hostWindow},
+                                      str(cataloguesMissingText), m_context.host.title(),
+                                      MessageIcon::stop, MessageButtons::ok);
+        return false;
+    }
+    catalogue = std::move(loaded.head);
+    return true;
+}
+
+void CObr1::makePages() {
+    Picture& picture = m_window->get<Picture>(id::sectionPreview);
+    m_section = m_factory.makeSection(*this, picture);
+    m_section->setExteriorSide(exteriorSide);
+    m_context.values.sectionSize = m_section->size();
+
+    m_geometry = m_factory.makeGeometry(*this);
+    m_context.values.proposedBubble = proposeBubbleName(m_settings.bubbleName());
+    m_precast = m_factory.makePrecast(*this);
+    m_steel = m_factory.makeSteel(*this);
+    m_monolith = m_factory.makeMonolith(*this);
+    // The lock comes before the first look into the library: nobody else may then change what this
+    // dialog has read.
+    m_library.readOnly();
+    m_libraryPage = m_factory.makeLibrary(*this);
+    for (DesignPage* one : pages()) place(*one);
+}
+
+void CObr1::place(DesignPage& page) {
+    TabControl& tabs = m_window->get<TabControl>(id::tabs);
+    tabs.addTab(page.window().title());
+    page.window().show(false);
+    page.window().setArea(tabs.displayArea());
+}
+
+void CObr1::fillTypeBoxes() {
+    m_precast->fillTypes(typeNames(m_context.values.precast.get()));
+    m_precast->selectType(m_settings.precastType());
+    m_steel->fillTypes(typeNames(m_context.values.steel.get()));
+    m_steel->selectType(m_settings.steelType());
+}
+
+void CObr1::readHandOver() {
+    const Path path = handOverPath(m_context.files);
+    HandOverRead read = lx::readHandOver(path, m_context.files);
+    m_context.files.remove(path);
+    if (!read.present) return;
+    m_model.adoptHandOver(std::move(read.design));
+    RebuildPrecastOffer();
+    RebuildSteelOffer();
+}
+
+void CObr1::restoreCheckBoxes() {
+    m_geometry->setAnnotation(m_settings.annotation());
+    m_model.bearingCheck = m_settings.bearingCheck();
+    m_libraryPage->setBearingCheck(m_model.bearingCheck);
+}
+
+void CObr1::showStoredTab() {
+    const int stored = m_settings.tab();
+    const int index = stored >= 0 && stored < page::count ? stored : page::geometry;
+    m_window->get<TabControl>(id::tabs).select(index);
+    ShowTab(index);
+    RebuildPrecastOffer();
+    RebuildSteelOffer();
+    pages()[static_cast<std::size_t>(index)]->window().focusFirst();
+}
+
+}  // namespace lx

@@ -1,0 +1,157 @@
+#include "design/design_model.h"
+
+#include <algorithm>
+
+#include "composition/hand_over.h"
+#include "design/opening.h"
+#include "design/page_index.h"
+#include "design/properties_text.h"
+#include "resources/strings.h"
+
+namespace lx {
+
+namespace {
+
+constexpr int defaultEntryName = 89;  // "<výchozí>"
+
+std::optional<int> lastType(const CRez* head, bool (*wanted)(std::int32_t kind)) {
+    std::optional<int> type;
+    const CRez* layer = head != nullptr ? head->next : nullptr;
+    for (; layer != nullptr; layer = layer->next) {
+        if (wanted(layer->kind)) type = layer->typeIndex;
+    }
+    return type;
+}
+
+}  // namespace
+
+void DesignModel::startDesign() {
+    m_own.clear();
+    m_own.append(headFromCall(m_values.openingWidth, m_values.wallThickness, m_values.level));
+    m_shown = 0;
+    m_current = m_own.head();
+}
+
+void DesignModel::adoptHandOver(RezChain design) {
+    if (design.empty()) return;
+    m_own = std::move(design);
+    m_shown = 0;
+    m_current = m_own.head();
+    refreshMaxOpenings(head(), m_values.precast.get());
+}
+
+void DesignModel::takeOpeningBlock(int unitsPerMetre) {
+    if (m_values.level == 0 || head() == nullptr) return;
+    const auto block = blockInMillimetres(m_values.block, unitsPerMetre);
+    if (!block) return;
+    bendsFromBlock(*head(), *block);
+    if (const auto width = widerOpening(*block)) m_values.openingWidth = *width;
+}
+
+void DesignModel::settleLevel() {
+    if (m_values.level == 0 && head() != nullptr) head()->height = 0;
+}
+
+RezChain& DesignModel::chain() {
+    return m_shown == 0 ? m_own : m_stored[m_shown - 1].design;
+}
+
+CRez* DesignModel::head() const {
+    return m_shown == 0 ? m_own.head() : m_stored[m_shown - 1].design.head();
+}
+
+bool DesignModel::Relayout() {
+    if (head() == nullptr) return false;
+    layOut(*head());
+    return true;
+}
+
+std::int32_t DesignModel::FreeSpace() const {
+    return head() ? freeSpace(*head()) : 0;
+}
+
+int DesignModel::LayerCount() const {
+    return head() ? layerCount(*head()) : 0;
+}
+
+Family DesignModel::DesignFamily() const {
+    return head() ? designFamily(*head()) : Family::none;
+}
+
+std::int32_t DesignModel::headLength() const {
+    return head() ? head()->length : 0;
+}
+
+void DesignModel::rebuildPrecastOffer(int type) {
+    if (type < 0) {
+        m_precastOffer = Offer();
+        return;
+    }
+    RezChain records =
+        buildPrecastOffer(m_values.precast.get(), type, m_values.openingWidth, headLength());
+    const std::vector<int> order = offerOrder(records);
+    m_precastOffer = Offer(std::move(records), order);
+}
+
+void DesignModel::rebuildSteelOffer(int type) {
+    const std::int32_t bearing = head() ? head()->maxOpening : 0;
+    m_steelOffer = type < 0
+                       ? Offer()
+                       : Offer(buildSteelOffer(m_values.steel.get(), type, headLength(), bearing));
+}
+
+std::optional<int> DesignModel::precastTypeUsed() const {
+    return lastType(head(), [](std::int32_t kind) { return kind == kind::precast; });
+}
+
+std::optional<int> DesignModel::steelTypeUsed() const {
+    return lastType(head(), isSteel);
+}
+
+Availability DesignModel::available() const {
+    return availability(head(), m_current, m_precastOffer.selectedRecord(),
+                        m_steelOffer.selectedRecord());
+}
+
+std::optional<Text> DesignModel::properties(PropertiesSource source, int page) const {
+    const double opening = m_values.openingWidth;
+    if (source == PropertiesSource::preview) return propertiesOfRecord(m_current, opening);
+    if (page != page::precast && page != page::steel) return std::nullopt;
+    const Offer& offer = page == page::precast ? m_precastOffer : m_steelOffer;
+    const CRez* element = offer.selectedRecord();
+    if (element == nullptr) return std::nullopt;
+    return propertiesOfOffer(*element, opening, page == page::precast);
+}
+
+void DesignModel::setStoredDesigns(std::vector<LibraryEntry> designs) {
+    if (m_shown != 0) m_current = m_own.head();
+    m_shown = 0;
+    m_stored = std::move(designs);
+    std::stable_sort(
+        m_stored.begin(), m_stored.end(),
+        [](const LibraryEntry& a, const LibraryEntry& b) { return offerLess(a.label, b.label); });
+}
+
+std::vector<Text> DesignModel::storedLabels() const {
+    std::vector<Text> labels{Text(str(defaultEntryName))};
+    for (const LibraryEntry& entry : m_stored) labels.push_back(entry.label);
+    return labels;
+}
+
+bool DesignModel::listsLabel(std::string_view paddedLabel) const {
+    return std::any_of(m_stored.begin(), m_stored.end(),
+                       [&](const LibraryEntry& entry) { return entry.label == paddedLabel; });
+}
+
+void DesignModel::clear() {
+    m_current = nullptr;
+    m_shown = 0;
+    m_stored.clear();
+    m_precastOffer = Offer();
+    m_steelOffer = Offer();
+    m_own.clear();
+    m_values.precast.reset();
+    m_values.steel.reset();
+}
+
+}  // namespace lx

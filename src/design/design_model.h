@@ -1,0 +1,89 @@
+// The design being edited, its current record, the two offers and the list of stored designs: the
+// state of the design dialog without its windows.
+#pragma once
+
+#include "composition/layout.h"
+#include "composition/library.h"
+#include "design/availability.h"
+#include "design/layer_commands.h"
+#include "design/module_values.h"
+#include "design/offer.h"
+
+namespace lx {
+
+// Which element the properties text describes: the current record or the selected offer entry.
+enum class PropertiesSource { preview, offer };
+
+class DesignModel {
+public:
+    explicit DesignModel(ModuleValues& values) : m_values(values) {}
+
+    const ModuleValues& values() const { return m_values; }
+
+    // ---- opening
+    // A straight head made from the call's values, current.
+    void startDesign();
+    // A design that the host handed over replaces the one from the call, unless it is empty. The
+    // largest openings of its elements that follow the opening are taken from the catalogue.
+    void adoptHandOver(RezChain design);
+    // Bends and opening width from the host's block, when the call gives a level and the host tells
+    // its units.
+    void takeOpeningBlock(int unitsPerMetre);
+    // Without a level of the call the head has none either, wherever it came from.
+    void settleLevel();
+
+    // ---- the design
+    RezChain& chain();
+    CRez* head() const;
+    CRez* current() const { return m_current; }
+    // Null means the head.
+    void select(CRez* record) { m_current = record == nullptr ? head() : record; }
+    // False without a design.
+    bool Relayout();
+    std::int32_t FreeSpace() const;
+    int LayerCount() const;
+    Family DesignFamily() const;
+    DesignEdit edit() { return {chain(), m_current}; }
+
+    // ---- catalogues and offers
+    void rebuildPrecastOffer(int type);
+    void rebuildSteelOffer(int type);
+    Offer& precastOffer() { return m_precastOffer; }
+    Offer& steelOffer() { return m_steelOffer; }
+    // Catalogue type of the last precast or steel layer; none without such a layer.
+    std::optional<int> precastTypeUsed() const;
+    std::optional<int> steelTypeUsed() const;
+    Availability available() const;
+    // What the properties box shows for that source while the page of that index is shown; none
+    // when it keeps its text.
+    std::optional<Text> properties(PropertiesSource source, int page) const;
+
+    // ---- stored designs
+    // Replaces the list behind entry 0, sorted by label; the dialog's own design becomes the one
+    // being edited.
+    void setStoredDesigns(std::vector<LibraryEntry> designs);
+    // Labels in list order; entry 0 names the dialog's own design.
+    std::vector<Text> storedLabels() const;
+    bool listsLabel(std::string_view paddedLabel) const;
+
+    // Whether stored designs are checked against the opening.
+    bool bearingCheck = true;
+    // Which catalogue the browser opens on.
+    CatalogueKind browserKind = CatalogueKind::precast;
+
+    // Everything, the module-wide catalogues included.
+    void clear();
+
+private:
+    std::int32_t headLength() const;
+
+    ModuleValues& m_values;
+    RezChain m_own;                      // what entry 0 names
+    std::vector<LibraryEntry> m_stored;  // entries 1 and up
+    std::size_t m_shown = 0;             // entry whose design is being edited
+    CRez* m_current = nullptr;           // in the design being edited
+    Offer m_precastOffer;
+    Offer m_steelOffer;
+};
+
+}  // namespace lx

@@ -1,0 +1,69 @@
+#include "design/library_session.h"
+
+#include "composition/library.h"
+
+namespace lx {
+
+// As long as the file has not been read it must not be replaced by this list, should the folder
+// become known in the meantime.
+ProjectList LibrarySession::unreadProjects() {
+    ProjectList list = defaultProjects();
+    list.mayReplaceFile = false;
+    return list;
+}
+
+std::optional<Path> LibrarySession::pathOf(std::string_view fileName) {
+    std::optional<Path> path = m_host.folder(HostFolder::library);
+    if (path) path->append(fileName);
+    return path;
+}
+
+bool LibrarySession::available() {
+    return m_host.folder(HostFolder::library).has_value();
+}
+
+bool LibrarySession::readOnly() {
+    if (!m_lock) m_lock = std::make_unique<HostAccessLock>(m_host, HostResource::library);
+    return !m_lock->isGranted();
+}
+
+std::int32_t LibrarySession::LoadProjects() {
+    if (const auto path = pathOf(projectFileName)) m_projects = loadProjects(*path, m_files);
+    return m_projects.currentId();
+}
+
+bool LibrarySession::SaveProjects() {
+    if (readOnly()) return false;
+    const auto path = pathOf(projectFileName);
+    return path && saveProjects(*path, m_projects, m_files);
+}
+
+bool LibrarySession::LoadLibrary(DesignModel& model) {
+    LibraryRead read;
+    const auto path = pathOf(libraryFileName);
+    if (path) read = loadLibrary(*path, m_projects.currentId(), m_files);
+    model.setStoredDesigns(std::move(read.entries));
+    m_libraryRead = read.opened || read.missing;
+    return m_libraryRead;
+}
+
+StoreAnswer LibrarySession::StoreDesign(DesignModel& model, std::string_view bubble) {
+    if (readOnly() || model.head() == nullptr) return StoreAnswer::done;
+    const auto path = pathOf(libraryFileName);
+    if (!path) return StoreAnswer::done;
+    // Labels that could not be read when the dialog opened would all look free.
+    if (!m_libraryRead && !LoadLibrary(model)) return StoreAnswer::failed;
+
+    const CRez& head = *model.head();
+    const std::int32_t project = m_projects.currentId();
+    const Text label = paddedLabel(bubble);
+    Text replaced;
+    if (model.listsLabel(label)) {
+        if (!findStoredSame(*path, project, label, head, m_files)) return StoreAnswer::differs;
+        replaced = label;
+    }
+    return appendDesign(*path, project, head, replaced, m_files) ? StoreAnswer::done
+                                                                 : StoreAnswer::failed;
+}
+
+}  // namespace lx

@@ -1,0 +1,85 @@
+#include "design/opening.h"
+
+#include <limits>
+
+#include "platform/numbers.h"
+
+namespace lx {
+
+namespace {
+
+constexpr int kindWithTwoWidths = 8;
+
+constexpr int shapeLowered = 3;  // one bend, always downward
+constexpr int shapeSloping = 4;
+constexpr int shapeTwoStepsSloping = 5;
+
+void addBend(CRez& head, double run, double step, bool flag) {
+    head.addBend(truncateToInt(run), truncateToInt(step), flag);
+}
+
+}  // namespace
+
+std::int32_t wholeMillimetres(double length) {
+    return truncateToInt(length + 0.9);
+}
+
+std::int32_t shownOpening(double width) {
+    const std::int32_t whole = truncateToInt(width);
+    const bool above = width - whole > 0.5;
+    return above && whole < std::numeric_limits<std::int32_t>::max() ? whole + 1 : whole;
+}
+
+std::int32_t shownBearing(std::int32_t length, double openingWidth) {
+    const std::int64_t both = std::int64_t{length} - shownOpening(openingWidth);
+    return static_cast<std::int32_t>(both / 2);
+}
+
+std::unique_ptr<CRez> headFromCall(double openingWidth, double wallThickness, double level) {
+    auto head = std::make_unique<CRez>();
+    head->kind = kind::head;
+    head->width = wholeMillimetres(wallThickness);
+    head->height = truncateToInt(level * 1000.0);
+    head->length = wholeMillimetres(openingWidth);
+    return head;
+}
+
+std::optional<OpeningBlock> blockInMillimetres(const OpeningBlock& block, int unitsPerMetre) {
+    if (unitsPerMetre == 0) return std::nullopt;
+    const int factor = 1000 / unitsPerMetre;
+    OpeningBlock result = block;
+    for (double* value : {&result.bend1Step, &result.bend1Run, &result.bend2Step, &result.bend2Run,
+                          &result.bend3Step}) {
+        *value *= factor;
+    }
+    return result;
+}
+
+void bendsFromBlock(CRez& head, const OpeningBlock& block) {
+    head.bends.reset();
+    switch (block.headShape) {
+        case shapeSloping:
+            addBend(head, block.bend1Run, block.bend1Step, false);
+            addBend(head, block.bend2Run, block.bend2Step, true);
+            return;
+        case shapeTwoStepsSloping:
+            addBend(head, block.bend1Run, block.bend1Step, false);
+            addBend(head, block.bend2Run, block.bend2Step, false);
+            addBend(head, block.bend2Step, block.bend3Step, true);
+            return;
+        default:
+            break;
+    }
+    if (block.bend1Step == 0) return;
+    const bool turn = block.headShape == shapeLowered && block.bend1Step > 0;
+    addBend(head, block.bend1Run, turn ? -block.bend1Step : block.bend1Step, false);
+    if (block.bend2Step != 0) addBend(head, block.bend2Run, block.bend2Step, false);
+}
+
+std::optional<double> widerOpening(const OpeningBlock& block) {
+    if (block.openingKind != kindWithTwoWidths) return std::nullopt;
+    if (!(block.width1 < block.width2)) return std::nullopt;
+    return block.width2;
+}
+
+}  // namespace lx

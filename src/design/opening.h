@@ -1,0 +1,32 @@
+// How the host's call becomes the head of a design: its dimensions, its bends, its opening width.
+#pragma once
+
+#include <lxdata6dlg.h>
+
+#include <memory>
+#include <optional>
+
+#include "composition/records.h"
+
+namespace lx {
+
+// A host's length in mm becomes whole mm by adding 0.9 and truncating; saturates, not a number is
+// 0.
+std::int32_t wholeMillimetres(double length);
+// The opening width as the user sees it: rounded to whole mm, a fraction of exactly 0.5 down.
+std::int32_t shownOpening(double width);
+// Bearing length at each end, mm: may be negative.
+std::int32_t shownBearing(std::int32_t length, double openingWidth);
+
+// openingWidth and wallThickness in mm, level in m.
+std::unique_ptr<CRez> headFromCall(double openingWidth, double wallThickness, double level);
+
+// The block with its runs and steps in mm, or none when the host does not tell how many drawing
+// units make a metre (0). The factor is a whole number, so units finer than a millimetre give 0.
+std::optional<OpeningBlock> blockInMillimetres(const OpeningBlock& block, int unitsPerMetre);
+// Replaces the head's bends by those of a block in mm.
+void bendsFromBlock(CRez& head, const OpeningBlock& block);
+// The wider of the block's two opening widths where that counts, in mm.
+std::optional<double> widerOpening(const OpeningBlock& block);
+
+}  // namespace lx

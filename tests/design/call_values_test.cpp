@@ -1,0 +1,118 @@
+// What the host's call becomes: names, dimensions, bends.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+#include "composition/layout.h"
+#include "design/bubble_name.h"
+#include "design/opening.h"
+
+namespace lx {
+namespace {
+
+TEST(BubbleName, TheProposalCountsOnInTheTrailingNumber) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"", "0"},         {"001", "002"},
+        {"A19", "A20"},    {"A99", "A100"},
+        {"0099", "0100"},  {"P", "P1"},
+        {"12", "13"},      {"009", "010"},
+        {"9", "10"},       {"P9", "P10"},
+        {"1A9B", "1A9B1"}, {"A1 9", "A1 10"},
+        {"0", "1"},        {"99999999999999999999", "100000000000000000000"}};
+    for (const auto& [last, next] : cases) EXPECT_EQ(proposeBubbleName(last), next) << last;
+}
+
+TEST(BubbleName, OnlyItsFirstByteDecides) {
+    for (const char* name : {"!", "A b", "1", "\x7f", "P\xC8"}) {
+        EXPECT_TRUE(bubbleNameAccepted(name)) << name;
+    }
+    for (const char* name : {"", " A", "\t", "\x80", "\xC8\x31", "\xFF"}) {
+        EXPECT_FALSE(bubbleNameAccepted(name)) << name;
+    }
+}
+
+TEST(Opening, LengthsOfTheCallBecomeWholeMillimetres) {
+    const double infinity = std::numeric_limits<double>::infinity();
+    const std::int32_t most = std::numeric_limits<std::int32_t>::max();
+    EXPECT_EQ(wholeMillimetres(300.05), 300);
+    EXPECT_EQ(wholeMillimetres(300.1), 301);
+    EXPECT_EQ(wholeMillimetres(1e300), most);
+    EXPECT_EQ(wholeMillimetres(std::nan("")), 0);
+    EXPECT_EQ(shownOpening(1200.5), 1200);
+    EXPECT_EQ(shownOpening(1200.51), 1201);
+    EXPECT_EQ(shownOpening(infinity), most);
+    EXPECT_EQ(shownBearing(1450, 1200.6), 124);
+    EXPECT_EQ(shownBearing(1450, 1200.5), 125);
+    EXPECT_EQ(shownBearing(1199, 1200), 0);
+    EXPECT_EQ(shownBearing(1197, 1200), -1);
+    EXPECT_EQ(shownBearing(std::numeric_limits<std::int32_t>::min(), 1e300), -most);
+
+    const auto head = headFromCall(1200.1, 300.1, 2.3);
+    EXPECT_EQ(head->kind, kind::head);
+    EXPECT_EQ(head->length, 1201);
+    EXPECT_EQ(head->width, 301);
+    EXPECT_EQ(head->height, 2300);
+    EXPECT_EQ(headFromCall(1, 1, -0.0019)->height, -1);
+    EXPECT_EQ(headFromCall(1, 1, 74.3)->height, 74300);
+}
+
+OpeningBlock blockOf(std::int16_t shape, double step1, double run1, double step2, double run2,
+                     double step3 = 0) {
+    OpeningBlock block{};
+    block.headShape = shape;
+    block.bend1Step = step1;
+    block.bend1Run = run1;
+    block.bend2Step = step2;
+    block.bend2Run = run2;
+    block.bend3Step = step3;
+    return block;
+}
+
+std::string bendsOf(const OpeningBlock& block) {
+    CRez head;
+    head.kind = kind::head;
+    head.addBend(1, 1, true);
+    bendsFromBlock(head, block);
+    std::string text;
+    for (const CZalom* bend = head.bends.get(); bend; bend = bend->next.get()) {
+        text += std::to_string(bend->run) + "," + std::to_string(bend->step) + "," +
+                std::to_string(bend->flag) + ";";
+    }
+    return text;
+}
+
+TEST(Opening, EachHeadShapeMakesItsBends) {
+    const double none = 0;
+    EXPECT_EQ(bendsOf(blockOf(4, 100.9, 150.9, -50.9, 70, 9)), "150,100,0;70,-50,1;");
+    EXPECT_EQ(bendsOf(blockOf(4, none, none, none, none)), "0,0,0;0,0,1;");
+    EXPECT_EQ(bendsOf(blockOf(5, 100, 150, 50, 70, 9)), "150,100,0;70,50,0;50,9,1;");
+    EXPECT_EQ(bendsOf(blockOf(3, 100, 150, 50, 70)), "150,-100,0;70,50,0;");
+    EXPECT_EQ(bendsOf(blockOf(3, -100, 150, none, 70)), "150,-100,0;");
+    EXPECT_EQ(bendsOf(blockOf(-1, 100, 150, 50, 70)), "150,100,0;70,50,0;");
+    EXPECT_EQ(bendsOf(blockOf(1, none, 150, 50, 70)), "");
+    EXPECT_EQ(bendsOf(blockOf(0, std::nan(""), 1e300, none, 0)), "2147483647,0,0;");
+}
+
+TEST(Opening, DrawingUnitsScaleTheBendsAlone) {
+    OpeningBlock block = blockOf(5, 1, 2, 3, 4, 5);
+    block.width1 = 1100;
+    block.width2 = 1300;
+    const auto metres = blockInMillimetres(block, 1);
+    ASSERT_TRUE(metres);
+    EXPECT_EQ(bendsOf(*metres), "2000,1000,0;4000,3000,0;3000,5000,1;");
+    EXPECT_EQ(metres->width2, 1300);
+    // 1000 / 300 is 3, 1000 / 2000 is 0.
+    EXPECT_EQ(bendsOf(*blockInMillimetres(block, 300)), "6,3,0;12,9,0;9,15,1;");
+    EXPECT_EQ(bendsOf(*blockInMillimetres(block, 2000)), "0,0,0;0,0,0;0,0,1;");
+    EXPECT_FALSE(blockInMillimetres(block, 0));
+
+    EXPECT_FALSE(widerOpening(block));
+    block.openingKind = 8;
+    EXPECT_EQ(widerOpening(block), 1300.0);
+    block.width1 = 1300;
+    EXPECT_FALSE(widerOpening(block));
+}
+
+}  // namespace
+}  // namespace lx

@@ -1,0 +1,174 @@
+// What opening and confirming read and write: the library, its lock, the hand-over, the settings.
+#include <gtest/gtest.h>
+
+#include "composition/hand_over.h"
+#include "design/confirmation.h"
+#include "tests/support/bench.h"
+#include "tests/support/designs.h"
+#include "tests/support/memory_files.h"
+
+namespace lx {
+namespace {
+
+struct DesignSession : testing::Test {
+    MemoryFiles files;
+    FakeHost host;
+    ModuleValues values;
+    DesignModel model{values};
+    DialogSettings settings{files, "data/"};
+    LibrarySession library{host, files};
+    CallResult result;
+    ConfirmationInput input{"A1", "D", {false, true, false, true}, false, 1, 2, 3};
+
+    void SetUp() override {
+        host.library = "lib/";
+        values.openingWidth = 1200;
+        values.wallThickness = 300;
+        model.startDesign();
+    }
+    ConfirmationAnswer confirm() {
+        return confirmDesign(input, model, library, settings, files, result);
+    }
+    bool handedOver() const { return files.content.count("tmp/LXDATA6I.tmp") == 1; }
+    Bytes libraryBytes() const {
+        const auto found = files.content.find("lib/preklady.bk6");
+        return found == files.content.end() ? Bytes() : found->second;
+    }
+    void addLayer(std::int32_t width) {
+        model.chain().append(layer(kind::precast, width));
+        model.Relayout();
+    }
+};
+
+TEST_F(DesignSession, ConfirmingStoresHandsOverAndRemembers) {
+    EXPECT_EQ(library.LoadProjects(), 0);
+    EXPECT_TRUE(library.LoadLibrary(model));
+    addLayer(70);
+    EXPECT_EQ(confirm(), ConfirmationAnswer::done);
+    EXPECT_EQ(result.text, "A1\r\nD");
+    EXPECT_EQ(result.insert, 1 + 2 + 8);
+    EXPECT_EQ(result.foldedSection, 0);
+    EXPECT_EQ(parseLibrary(libraryBytes(), 0).entries.at(0).label, "A1 ");
+    EXPECT_EQ(parseProjects(files.content["lib/akce.bk6"]).projects.at(0).name, "DEFAULT");
+    const RezChain given = parseHandOver(files.content["tmp/LXDATA6I.tmp"]);
+    EXPECT_EQ(designBytes(given.head()), designBytes(model.head()));
+    EXPECT_EQ(given.head()->label(), "A1");
+    EXPECT_EQ(settings.annotation(), input.annotation);
+    EXPECT_FALSE(settings.bearingCheck());
+    EXPECT_EQ(settings.tab(), 1);
+    EXPECT_EQ(settings.precastType(), 2);
+    EXPECT_EQ(settings.steelType(), 3);
+}
+
+TEST_F(DesignSession, AMissingNameIsRefusedAfterTheCheckBoxesAreStored) {
+    input.bubbleName = "\xC8\x31";
+    EXPECT_EQ(confirm(), ConfirmationAnswer::bubbleMissing);
+    EXPECT_EQ(result.text, "\xC8\x31");
+    EXPECT_EQ(result.insert, 0);
+    EXPECT_EQ(settings.annotation(), input.annotation);
+    EXPECT_EQ(settings.tab(), 0);
+    EXPECT_EQ(libraryBytes(), "");
+    EXPECT_FALSE(handedOver());
+}
+
+TEST_F(DesignSession, ADifferentDesignKeepsItsLabelAndTheSameOneIsReplaced) {
+    library.LoadLibrary(model);
+    EXPECT_EQ(confirm(), ConfirmationAnswer::done);
+    library.LoadLibrary(model);
+    EXPECT_EQ(confirm(), ConfirmationAnswer::done);
+    const Bytes twice = libraryBytes();
+    EXPECT_EQ(parseLibrary(twice, 0).entries.size(), 1U);
+    EXPECT_EQ(twice.substr(4, 4), "\xFF\xFF\xFF\xFF");
+
+    files.remove("tmp/LXDATA6I.tmp");
+    addLayer(70);
+    input.tab = 4;
+    input.annotation.foldedSection = true;
+    EXPECT_EQ(confirm(), ConfirmationAnswer::labelTaken);
+    EXPECT_EQ(libraryBytes(), twice);
+    EXPECT_FALSE(handedOver());
+    EXPECT_EQ(settings.tab(), 1);
+    EXPECT_EQ(result.foldedSection, 1);
+
+    // A name longer than a label is never compared: the file then holds both under one label.
+    input.bubbleName = "A1 x";
+    EXPECT_EQ(confirm(), ConfirmationAnswer::done);
+    EXPECT_EQ(parseLibrary(libraryBytes(), 0).entries.size(), 2U);
+}
+
+TEST_F(DesignSession, AReadOnlyLibraryIsPassedOver) {
+    host.lockAnswer[HostResource::library] = 0;
+    EXPECT_EQ(confirm(), ConfirmationAnswer::done);
+    EXPECT_EQ(libraryBytes(), "");
+    EXPECT_EQ(files.content.count("lib/akce.bk6"), 0U);
+    EXPECT_TRUE(handedOver());
+    EXPECT_EQ(host.lockRequests.size(), 1U);
+    EXPECT_EQ(host.lockRequests.at(0), (FakeHost::LockRequest{HostResource::library, 9}));
+}
+
+TEST_F(DesignSession, AFailureToStoreIsToldAndNothingIsHandedOver) {
+    files.content["lib/preklady.bk6"] = "";
+    ASSERT_TRUE(library.LoadLibrary(model));
+    ASSERT_EQ(confirm(), ConfirmationAnswer::done);
+    files.remove("tmp/LXDATA6I.tmp");
+    input.bubbleName = "B";
+    files.locked = {"lib/preklady.bk6"};
+    EXPECT_EQ(confirm(), ConfirmationAnswer::storeFailed);
+    EXPECT_FALSE(handedOver());
+    EXPECT_EQ(result.text, "B\r\nD");
+
+    // A library that could not be read before is read again before labels are compared.
+    LibrarySession later{host, files};
+    EXPECT_FALSE(later.LoadLibrary(model));
+    input.bubbleName = "A1";
+    addLayer(70);
+    EXPECT_EQ(confirmDesign(input, model, later, settings, files, result),
+              ConfirmationAnswer::storeFailed);
+    files.locked.clear();
+    EXPECT_EQ(confirmDesign(input, model, later, settings, files, result),
+              ConfirmationAnswer::labelTaken);
+}
+
+TEST_F(DesignSession, AProjectListThatCouldNotBeReadIsNotWrittenOver) {
+    ProjectList two = defaultProjects();
+    two.projects.push_back({7, "Dum"});
+    two.selected = 1;
+    files.content["lib/akce.bk6"] = projectBytes(two);
+    const Bytes before = files.content["lib/akce.bk6"];
+
+    // The folder is not known before OK.
+    host.library.reset();
+    EXPECT_EQ(library.LoadProjects(), 0);
+    EXPECT_FALSE(library.LoadLibrary(model));
+    host.library = "lib/";
+    EXPECT_EQ(confirm(), ConfirmationAnswer::done);
+    EXPECT_EQ(files.content["lib/akce.bk6"], before);
+
+    LibrarySession again{host, files};
+    EXPECT_EQ(again.LoadProjects(), 7);
+    EXPECT_EQ(confirmDesign(input, model, again, settings, files, result),
+              ConfirmationAnswer::done);
+    EXPECT_EQ(model.head()->level, 1);
+    EXPECT_EQ(parseLibrary(libraryBytes(), 7).entries.size(), 1U);
+}
+
+TEST_F(DesignSession, TheLockIsGivenBackByItsState) {
+    const auto released = [&](int answer) {
+        host.lockReleases.clear();
+        host.lockAnswer[HostResource::library] = answer;
+        { HostAccessLock lock(host, HostResource::library); }
+        return host.lockReleases.empty() ? 0 : host.lockReleases.at(0).code;
+    };
+    EXPECT_EQ(released(1), 4);
+    EXPECT_EQ(released(2), 2);
+    EXPECT_EQ(released(-1), 2);
+    host.lockAnswer[HostResource::library] = 1;
+    { HostAccessLock even(host, HostResource::library, 8); }
+    EXPECT_EQ(host.lockReleases.back().code, 2);
+    host.hasServices = false;
+    EXPECT_EQ(released(1), 0);
+    EXPECT_FALSE(HostAccessLock(host, HostResource::library).isGranted());
+}
+
+}  // namespace
+}  // namespace lx

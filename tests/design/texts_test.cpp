@@ -1,0 +1,94 @@
+// What the dialog writes about a design: description, properties, the form for programs.
+#include <gtest/gtest.h>
+
+#include "composition/layout.h"
+#include "design/describe.h"
+#include "design/description.h"
+#include "design/properties_text.h"
+#include "tests/support/designs.h"
+
+namespace lx {
+namespace {
+
+std::unique_ptr<CRez> element(std::int32_t kind, const char* name, std::int32_t width,
+                              std::int32_t height, std::int32_t length, std::int32_t bearing = 0) {
+    auto record = layer(kind, width, name);
+    record->height = height;
+    record->length = length;
+    record->bearing = bearing;
+    return record;
+}
+
+TEST(Description, CountsEqualNeighboursAndPassesOverSpaces) {
+    RezChain design;
+    design.append(headOf(1000));
+    EXPECT_EQ(descriptionSummary(*design.head()), "");
+    design.append(element(kind::space, "MEZERA", 10, 100, 1));
+    EXPECT_EQ(descriptionSummary(*design.head()), "");
+    design.append(element(kind::precast, "KP 7/119", 70, 238, 1190));
+    design.append(element(kind::space, "MEZERA", 10, 100, 1));
+    design.append(element(kind::precast, "KP 7/119", 70, 200, 1200));
+    design.append(element(kind::insulation, "IZOLACE", 80, 200, 1490));
+    design.append(element(kind::precast, "KP 7/119", 70, 238, 1190));
+    design.append(element(kind::precast, "KP ?/?", 70, 238, 1490, 125));
+    design.append(element(kind::precast, "KP ?/?", 70, 238, 1490));
+    design.append(element(kind::angleMirrored, "L 60", 60, 60, 1500));
+    EXPECT_EQ(descriptionSummary(*design.head()),
+              "2 x KP 7/119\r\n1 x IZOLACE 80/200 - dl.1490\r\n1 x KP 7/119\r\n"
+              "1 x KP 1490/?\r\n1 x KP ?/?\r\n1 x L 60 - dl.1500");
+}
+
+TEST(Description, ACastPartReachesDownToTheLowestPointOfTheHead) {
+    RezChain design;
+    CRez* head = design.append(headOf(300));
+    head->addBend(100, 150, false);
+    head->addBend(100, -300, false);
+    CRez* cast = design.append(element(kind::monolith, "MONOLIT", 300, 300, 1200));
+    layOut(*head);
+    ASSERT_EQ(cast->level, 150);
+    EXPECT_EQ(descriptionSummary(*head), "1 x MONOLIT 300/600 - dl.1200");
+    cast->name.reset();
+    EXPECT_EQ(descriptionSummary(*head), "1 x  300/600 - dl.1200");
+}
+
+TEST(Properties, DescribeTheCurrentRecordAndTheOfferedElement) {
+    auto lintel = element(kind::precast, "KP 7/?/?", 70, 238, 1500, 150);
+    EXPECT_EQ(propertiesOfRecord(lintel.get(), 1200.5),
+              "Označení: KP 7/1500/?\r\nDélka: 1500, Šířka :  70, Výška: 238 [mm]\r\n"
+              "Uložení: 150 mm"_cz);
+    EXPECT_EQ(propertiesOfOffer(*lintel, 1200.51, true),
+              "Označení: KP 7/?/?\r\nDélka: 1500, Šířka :  70, Výška: 238 [mm]\r\n"
+              "Uložení: 149 mm"_cz);
+    lintel->letter = 'X';
+    EXPECT_EQ(propertiesOfRecord(lintel.get(), 1200).substr(0, 23), "Označení: KP 7/1500/? X"_cz);
+    EXPECT_EQ(propertiesOfOffer(*lintel, 1200, true).substr(0, 20), "Označení: KP 7/?/? X"_cz);
+    EXPECT_EQ(propertiesOfOffer(*lintel, 1200, false).substr(0, 20), "Označení: KP 7/?/?\r\n"_cz);
+    lintel->letter = 'x';
+    EXPECT_EQ(propertiesOfOffer(*lintel, 1200, true).substr(0, 20), "Označení: KP 7/?/?\r\n"_cz);
+    const auto insulation = element(kind::insulation, "IZOLACE", 80, 200, 1100);
+    EXPECT_EQ(propertiesOfRecord(insulation.get(), 1200),
+              "Označení: IZOLACE\r\nDélka: 1100, Tlouštka :  80, Výška: 200 [mm]\r\n"
+              "Uložení: -50 mm"_cz);
+
+    EXPECT_EQ(propertiesOfRecord(nullptr, 1200), "<Stěna>"_cz);
+    EXPECT_EQ(propertiesOfRecord(headOf(300).get(), 1200), "<Stěna>"_cz);
+    lintel->name.reset();
+    EXPECT_EQ(propertiesOfOffer(*lintel, 1200, true), "<NULL>");
+    EXPECT_EQ(propertiesOfRecord(lintel.get(), 1200).substr(0, 12), "Označení: \r\n"_cz);
+}
+
+TEST(Describe, TellsEveryFieldAndWhichRecordIsCurrent) {
+    const RezChain design = sampleDesign("A1");
+    const Text text = describeDesign(design.head(), design.head()->next);
+    for (const char* line :
+         {"record 0 kind -1\n", "record 0 label A1\n", "record 0 width 300\n",
+          "record 1 name KPV 7/145\n", "record 1 bearing 125\n", "record 1 weight 52200\n",
+          "record 1 letter X\n", "record 2 offset 70\n", "record 2 name \n", "bend 0 run 100\n",
+          "bend 1 step -30\n", "bend 1 flag 1\n", "current 1\n"}) {
+        EXPECT_NE(text.find(line), Text::npos) << line;
+    }
+    EXPECT_EQ(describeDesign(nullptr, nullptr), "current -1\n");
+}
+
+}  // namespace
+}  // namespace lx
