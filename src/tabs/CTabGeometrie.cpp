@@ -1,0 +1,83 @@
+#include "tabs/CTabGeometrie.h"
+
+#include "design/description.h"
+#include "resources/icons.h"
+#include "resources/strings.h"
+#include "resources/templates.h"
+#include "tabs/page_window.h"
+
+namespace lx {
+
+namespace {
+
+constexpr int bendButtons[] = {id::bendNone, id::bend1, id::bend2, id::bend3, id::bend4, id::bend5};
+
+// Most bytes that typing into the bubble field may produce, before and after the page is
+// initialised.
+constexpr int bubbleLimitAtFirst = 50;
+constexpr int bubbleLimit = 5;
+constexpr int freeText = -1;
+
+}  // namespace
+
+CTabGeometrie::CTabGeometrie(DesignServices& services)
+    : m_services(services),
+      m_window(makePageWindow(services, geometryTemplate)),
+      m_plan(m_window->get<Picture>(id::planPreview)),
+      m_description(m_window->get<Edit>(id::description)),
+      m_bubble(m_window->get<Edit>(id::bubbleName)),
+      m_bubbleField(services.context().platform, *m_window, m_bubble, bubbleLimitAtFirst, freeText),
+      m_insertBubble(m_window->get<CheckBox>(id::insertBubble)),
+      m_insertDescription(m_window->get<CheckBox>(id::insertDescription)),
+      m_insertFoldedSection(m_window->get<CheckBox>(id::insertFoldedSection)),
+      m_insertDiagonals(m_window->get<CheckBox>(id::insertDiagonals)) {
+    for (std::size_t i = 0; i < std::size(bendButtons); ++i) {
+        Button& button = m_window->get<Button>(bendButtons[i]);
+        dress(button, icon::bends[i], texts::bends[i]);
+        button.enable(false);
+    }
+    m_window->get<Button>(id::annotationSettings).enable(false);
+    m_bubble.onChange = [this] { bubbleChanged(); };
+    m_insertFoldedSection.onClick = [this] { redrawPlan(); };
+}
+
+void CTabGeometrie::initialise() {
+    m_bubbleField.setMaxLength(bubbleLimit);
+}
+
+void CTabGeometrie::RefreshDescription() {
+    const CRez* head = m_services.model().head();
+    if (head == nullptr) return;
+    m_description.setText(descriptionSummary(*head));
+    // A design without a label takes the proposed name.
+    const bool labelled = head->itemIndex != 0;
+    const Text name = labelled ? head->label() : m_services.context().values.proposedBubble;
+    if (m_bubble.text() != name) m_bubble.setText(name);
+    bubbleChanged();
+}
+
+// Also when the module itself fills the field: so a new design gets its label.
+void CTabGeometrie::bubbleChanged() {
+    const Text name = m_bubble.text();
+    if (CRez* head = m_services.model().head()) head->setLabel(name);
+    m_services.settings().storeBubbleName(name);
+}
+
+void CTabGeometrie::setAnnotation(const Annotation& annotation) {
+    m_insertFoldedSection.check(annotation.foldedSection);
+    m_insertDescription.check(annotation.description);
+    m_insertBubble.check(annotation.bubble);
+    m_insertDiagonals.check(annotation.diagonals);
+}
+
+Annotation CTabGeometrie::annotation() const {
+    return {m_insertFoldedSection.checked(), m_insertDescription.checked(),
+            m_insertBubble.checked(), m_insertDiagonals.checked()};
+}
+
+void CTabGeometrie::focusBubble() {
+    m_bubble.focus();
+    m_bubble.selectAll();
+}
+
+}  // namespace lx

@@ -1,0 +1,130 @@
+// A design dialog with small catalogues of its own, opened for a user who acts through the driver.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include "catalogue/catalogue_file.h"
+#include "composition/hand_over.h"
+#include "composition/library.h"
+#include "composition/projects.h"
+#include "design/CObr1.h"
+#include "resources/icons.h"
+#include "settings/profile.h"
+#include "tabs/page_factory.h"
+#include "tests/support/bench.h"
+#include "tests/support/designs.h"
+
+namespace lx {
+
+struct DesignDialog : testing::Test {
+    Bench bench;
+    ModuleValues values;
+    int resultA = 0;
+    int resultB = 0;
+    Text resultText;
+
+    void SetUp() override {
+        bench.platform().paintIcon = paintIcon;
+        values.openingWidth = 1200;
+        values.wallThickness = 300;
+        values.block.headShape = -1;
+        writeCatalogue(
+            CatalogueKind::precast,
+            {type("Tenké"), item(1, "KP 7/1000", 70, 1200), item(1, "KP 7/750", 70, 1220),
+             item(1, "KP 7/500", 70, 1100), item(1, "KP 36/1000", 365, 1200), type("Na míru"),
+             item(2, "KV 14/?", 140, 3000, -125)});
+        writeCatalogue(CatalogueKind::steel, {type("IPE", 1), item(1, "IPE 100", 55, 0),
+                                              type("UPN", 3), item(2, "UPN 80", 45, 0)});
+    }
+
+    struct Row {
+        bool isType;
+        std::int32_t group;
+        const char* name;
+        std::int32_t length, width, maxOpening;
+    };
+    static Row type(const char* name, std::int32_t shape = 0) {
+        return {true, 0, name, shape, 0, 0};
+    }
+    static Row item(std::int32_t group, const char* name, std::int32_t width,
+                    std::int32_t maxOpening, std::int32_t length = 1500) {
+        return {false, group, name, length, width, maxOpening};
+    }
+    void writeCatalogue(CatalogueKind kind, const std::vector<Row>& rows) {
+        Catalogue head;
+        Catalogue* end = &head;
+        std::int32_t types = 0;
+        for (const Row& row : rows) {
+            auto record = std::make_unique<CPreklItem>();
+            record->group = row.isType ? --types : row.group;
+            record->designation = fromUtf8(row.name);
+            record->length = row.length;
+            record->width = row.width;
+            record->height = row.isType ? 0 : 238;
+            record->maxOpening = row.maxOpening;
+            *end = std::move(record);
+            end = &(*end)->next;
+        }
+        ASSERT_EQ(saveCatalogueAs(head.get(), cataloguePath(kind, bench.host()), bench.files()), 0);
+    }
+
+    // Runs the dialog against the steps that bench.user() has been given.
+    int run() {
+        TabFactory factory;
+        const Context context{bench.platform(), bench.files(), bench.host(), values};
+        int answer = 0;
+        {
+            CObr1 dialog(context, Owner{}, factory);
+            dialog.resultA = resultA;
+            dialog.resultB = resultB;
+            answer = dialog.DoModal();
+            resultA = dialog.resultA;
+            resultB = dialog.resultB;
+            resultText = dialog.resultText;
+        }
+        EXPECT_EQ(bench.user().failure(), "");
+        EXPECT_EQ(values.precast, nullptr);
+        return answer;
+    }
+    int run(std::function<void(Driver&)> steps) {
+        bench.user().inDialog("Návrh překladu", std::move(steps));
+        return run();
+    }
+
+    Path path(std::string_view name) const { return bench.dataFolder() + Path(name); }
+    void set(std::string_view file, std::string_view section, std::string_view key,
+             std::string_view value) {
+        ASSERT_TRUE(Profile(bench.files(), path(file)).write(section, key, value));
+    }
+    Text get(std::string_view file, std::string_view section, std::string_view key) {
+        return Profile(bench.files(), path(file)).read(section, key, "none");
+    }
+    Path handOver() const { return bench.temporaryFolder() + Path(handOverFileName); }
+    // Removes it, as a host that picks it up.
+    RezChain takeHandOver() {
+        HandOverRead read = readHandOver(handOver(), bench.files());
+        bench.files().remove(handOver());
+        return std::move(read.design);
+    }
+    Path libraryFile() const { return bench.libraryFolder() + Path(libraryFileName); }
+    std::vector<LibraryEntry> stored(std::int32_t project = 0) {
+        return loadLibrary(libraryFile(), project, bench.files()).entries;
+    }
+};
+
+inline std::string namesOf(const RezChain& design) {
+    std::string names;
+    for (const CRez* one = design.empty() ? nullptr : design.head()->next; one; one = one->next) {
+        names += toUtf8(one->nameOrEmpty()) + " " + std::to_string(one->width) + ";";
+    }
+    return names;
+}
+
+// Controls that have no label or text of their own.
+inline constexpr const char* offerList = "#1203";
+inline constexpr const char* propertiesBox = "#1024";
+inline constexpr const char* bubbleField = "#1110";
+inline constexpr const char* descriptionField = "#1108";
+inline constexpr const char* tabControl = "#1020";
+
+}  // namespace lx
