@@ -1,0 +1,23 @@
+#include "entry/erase_choice.h"
+
+#include "settings/keys.h"
+
+namespace lx {
+
+EraseChoice storedChoice(const Profile& settings) {
+    const settings::IntKey& key = settings::lintelErase;
+    const int stored = settings.readInt(key.section, key.key, key.fallback);
+    const int elements = stored & (LX_ERASE_LINTEL | eraseParts);
+    return {elements, (elements & LX_ERASE_LINTEL) == 0};
+}
+
+EraseChoice toggleLintel(EraseChoice choice, bool checked) {
+    if (checked) return {LX_ERASE_LINTEL | eraseParts, false};
+    return {choice.elements & eraseParts, true};
+}
+
+void storeChoice(Profile& settings, EraseChoice choice) {
+    settings.writeInt(settings::lintelErase.section, settings::lintelErase.key, choice.elements);
+}
+
+}  // namespace lx

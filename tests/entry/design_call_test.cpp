@@ -1,0 +1,162 @@
+// The contract of the design call: what it refuses, what it hands back.
+#include <gtest/gtest.h>
+
+#include <limits>
+
+#include "tests/entry/fake_modules.h"
+
+namespace lx {
+namespace {
+
+constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+
+struct DesignCall : testing::Test {
+    LoadedModule module;
+    std::string text = std::string(LX_RESULT_TEXT_SIZE, '#');
+    std::int32_t a = 6;
+    std::int32_t b = 1;
+
+    int call(double opening, double wall, std::int32_t exterior = 0) {
+        OpeningBlock block{};
+        block.headShape = block.unread188 = -1;
+        return CallLXdata6(nullptr, 0, 0, 0, opening, wall, 0.0, text.data(), &a, &b, block,
+                           exterior);
+    }
+    host::Session& user() { return module.bench.user(); }
+};
+
+TEST_F(DesignCall, RefusesTheWallBeforeTheOpening) {
+    struct Case {
+        double opening, wall;
+        const char* message;
+    };
+    const char wide[] = "Šířka stěny je větší než 2.0 m nebo bylo vybráno více otvorů.";
+    const char thin[] = "Šířka stěny je menší než 0.07 m nebo nebyl vybrán žádný otvor.";
+    const char narrow[] = "Šířka otvoru je menší než 0.30 m nebo nebyl vybrán žádný otvor.";
+    const Case cases[] = {{100, 2000.001, wide}, {100, 69.9, thin},  {299.999, 70, narrow},
+                          {1200, nan, thin},     {nan, 300, narrow}, {-1e300, 2000, narrow}};
+    for (const Case& c : cases) {
+        user().then([&c](Driver& d) {
+            const host::MessageBoxLook look = d.messageBox();
+            EXPECT_EQ(look.text, c.message);
+            EXPECT_EQ(look.caption, "Upozornění");
+            EXPECT_EQ(look.icon, "stop");
+            d.answer("OK");
+        });
+        EXPECT_EQ(call(c.opening, c.wall), LX_DIALOG_CANCEL);
+        EXPECT_EQ(user().failure(), "");
+    }
+    EXPECT_EQ(text, std::string(LX_RESULT_TEXT_SIZE, '#'));
+    EXPECT_EQ(a, 6);
+    EXPECT_EQ(b, 1);
+    EXPECT_EQ(module.app.context().values.wallThickness, 0.0);
+}
+
+TEST_F(DesignCall, TheBoundsPassAndCancelHandsBackWhatCameIn) {
+    const std::pair<double, double> accepted[] = {{300, 2000}, {12000, 70}};
+    for (const auto& [opening, wall] : accepted) {
+        user().inDialog("Návrh překladu", [](Driver& d) { d.press("Zrušit"); });
+        EXPECT_EQ(call(opening, wall), LX_DIALOG_CANCEL);
+        EXPECT_EQ(user().failure(), "");
+        EXPECT_EQ(text.substr(0, text.find('\0')), "nezad\xE1no");
+        EXPECT_EQ(a, 6);
+        EXPECT_EQ(b, 1);
+        EXPECT_EQ(module.app.context().values.openingWidth, opening);
+    }
+}
+
+TEST_F(DesignCall, OkHandsBackNameDescriptionAndWhatToDraw) {
+    a = b = 0;
+    user().inDialog("Návrh překladu", [](Driver& d) {
+        d.selectTab("Geometrie");
+        d.focus("Označení bubliny:");
+        d.key("Ctrl+A");
+        d.type("P1");
+        d.focus("Popis:");
+        d.key("Ctrl+A");
+        d.type("D");
+        d.check("Bublinu", true);
+        d.check("Sklopený řez", true);
+        d.press("OK");
+    });
+    EXPECT_EQ(call(1200, 300), LX_DIALOG_OK);
+    EXPECT_EQ(user().failure(), "");
+    EXPECT_STREQ(text.c_str(), "P1\r\nD");
+    EXPECT_EQ(a, LX_INSERT_LINTEL | LX_INSERT_BUBBLE);
+    EXPECT_EQ(b, LX_FOLDED_SECTION);
+}
+
+TEST_F(DesignCall, CancelAfterARefusedOkHandsBackThatAttempt) {
+    user().inDialog("Návrh překladu", [](Driver& d) {
+        d.selectTab("Geometrie");
+        d.focus("Označení bubliny:");
+        d.key("Ctrl+A");
+        d.type("Č1");
+        d.press("OK");
+    });
+    user().then([](Driver& d) { d.answer("OK"); });
+    user().inDialog("Návrh překladu", [](Driver& d) { d.press("Zrušit"); });
+    EXPECT_EQ(call(1200, 300), LX_DIALOG_CANCEL);
+    EXPECT_EQ(user().failure(), "");
+    EXPECT_STREQ(text.c_str(),
+                 "\xC8"
+                 "1");
+    EXPECT_EQ(a, 6);
+    EXPECT_EQ(b, 1);
+}
+
+TEST_F(DesignCall, NullPointersAreNotFollowed) {
+    user().inDialog("Návrh překladu", [](Driver& d) { d.press("Zrušit"); });
+    EXPECT_EQ(CallLXdata6(nullptr, 0, 0, 0, 1200, 300, nan, nullptr, nullptr, nullptr, {}, 0),
+              LX_DIALOG_CANCEL);
+    EXPECT_EQ(user().failure(), "");
+    EXPECT_EQ(module.app.context().values.level, 0.0);
+}
+
+TEST(ResultText, IsCutToItsBuffer) {
+    std::string buffer(LX_RESULT_TEXT_SIZE + 8, '#');
+    copyResultText(std::string(LX_RESULT_TEXT_SIZE - 1, 'x'), buffer.data());
+    EXPECT_EQ(buffer, std::string(1023, 'x') + '\0' + "########");
+    copyResultText(std::string(5000, 'y'), buffer.data());
+    EXPECT_EQ(buffer, std::string(1023, 'y') + '\0' + "########");
+}
+
+// A platform without memory left for a window.
+struct ExhaustedPlatform : Platform {
+    std::unique_ptr<Dialog> createDialog(const DialogTemplate&, Owner) override {
+        throw std::bad_alloc();
+    }
+    MessageAnswer messageBox(Owner, std::string_view, std::string_view, MessageIcon,
+                             MessageButtons) override {
+        throw std::bad_alloc();
+    }
+    bool setClipboardText(std::string_view) override { return false; }
+    Screen screen() override { return {}; }
+    void beep() override {}
+};
+
+TEST(Exports, ExceptionsStopAndTheNextCallIsHeard) {
+    ExhaustedPlatform platform;
+    FakeModules modules;
+    CLXdata6dlgApp app(platform, systemFiles(), modules);
+    app.InitInstance();
+    setApplication(&app);
+    std::int32_t a = 3;
+    std::string text(LX_RESULT_TEXT_SIZE, '#');
+    for (int round = 0; round < 2; ++round) {
+        EXPECT_EQ(LintelErase(nullptr), 0);
+        EXPECT_EQ(CallLXdata6(nullptr, 0, 0, 0, 1200, 300, 0, text.data(), &a, nullptr, {}, 0),
+                  LX_DIALOG_FAILED);
+        EXPECT_EQ(CallLXdata6(nullptr, 0, 0, 0, 1200, 1, 0, nullptr, nullptr, nullptr, {}, 0),
+                  LX_DIALOG_FAILED);
+    }
+    EXPECT_STREQ(text.c_str(), "nezad\xE1no");
+    EXPECT_EQ(a, 3);
+    setApplication(nullptr);
+    EXPECT_EQ(LintelErase(nullptr), 0);
+    EXPECT_EQ(CallLXdata6Base(nullptr), LX_DIALOG_CANCEL);
+    EXPECT_EQ(mergeLibraryFiles(nullptr, "x", nullptr, 3), LX_MERGE_NO_TARGET);
+}
+
+}  // namespace
+}  // namespace lx

@@ -1,0 +1,121 @@
+// The erase dialog as a user meets it, from the exported function to what the host gets.
+#include <gtest/gtest.h>
+
+#include "settings/profile.h"
+#include "tests/entry/fake_modules.h"
+
+namespace lx {
+namespace {
+
+constexpr char title[] = "Vymazání překladu";
+
+struct EraseDialog : testing::Test {
+    LoadedModule module;
+    Profile settings{module.bench.files(), module.bench.dataFolder() + "VD_preklady.dat"};
+
+    // Acts in the dialog of one call and returns what the host gets.
+    int erase(std::function<void(Driver&)> acts) {
+        module.bench.user().inDialog(title, std::move(acts));
+        const int result = LintelErase(nullptr);
+        EXPECT_EQ(module.bench.user().failure(), "");
+        return result;
+    }
+    // The boxes in order: "1" or "0" when checked or not, "-" behind a disabled one.
+    static std::string boxes(Driver& d) {
+        std::string look;
+        for (const char* box : {"překlad", "sklopený řez", "bublina", "popis"}) {
+            look += d.checked(box) ? "1" : "0";
+            if (!d.enabled(box)) look += "-";
+        }
+        return look;
+    }
+    Text stored() { return settings.read("SETTINGS", "LINTEL_ERASE", "none"); }
+};
+
+TEST_F(EraseDialog, ShowsTheStoredChoiceAndReturnsItUnchanged) {
+    struct Case {
+        const char* stored;
+        const char* boxes;
+        int result;
+    };
+    const Case cases[] = {{nullptr, "11-1-1-", 15}, {"15", "11-1-1-", 15}, {"6", "0110", 6},
+                          {"1", "10-0-0-", 1},      {"0", "0000", 0},      {"abc", "0000", 0},
+                          {"5x", "10-1-0-", 5},     {"16", "0000", 0}};
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.stored ? c.stored : "nothing");
+        if (c.stored) settings.write("SETTINGS", "LINTEL_ERASE", c.stored);
+        const int result = erase([&c](Driver& d) {
+            EXPECT_EQ(boxes(d), c.boxes);
+            EXPECT_EQ(d.defaultButton(), "OK");
+            d.key("Enter");
+        });
+        EXPECT_EQ(result, c.result);
+        EXPECT_EQ(stored(), std::to_string(c.result));
+    }
+}
+
+TEST_F(EraseDialog, TheLintelByHandTakesItsPartsAndGivesThemBackAsTheyStand) {
+    settings.write("SETTINGS", "LINTEL_ERASE", "6");
+    EXPECT_EQ(erase([](Driver& d) {
+                  d.check("překlad", true);
+                  EXPECT_EQ(boxes(d), "11-1-1-");
+                  d.press("OK");
+              }),
+              15);
+    EXPECT_EQ(stored(), "15");
+    EXPECT_EQ(erase([](Driver& d) {
+                  d.check("překlad", false);
+                  EXPECT_EQ(boxes(d), "0111");
+                  d.check("bublina", false);
+                  d.press("OK");
+              }),
+              10);
+    EXPECT_EQ(stored(), "10");
+}
+
+TEST_F(EraseDialog, StornoEscAndTheCrossChangeNothing) {
+    settings.write("SETTINGS", "LINTEL_ERASE", "6");
+    const std::function<void(Driver&)> ways[] = {[](Driver& d) { d.press("Storno"); },
+                                                 [](Driver& d) { d.key("Esc"); },
+                                                 [](Driver& d) { d.closeDialog(); }};
+    for (const auto& leave : ways) {
+        EXPECT_EQ(erase([&leave](Driver& d) {
+                      d.check("popis", true);
+                      leave(d);
+                  }),
+                  LX_ERASE_CANCELLED);
+        EXPECT_EQ(stored(), "6");
+    }
+}
+
+TEST_F(EraseDialog, HelpShowsItsTopicAndStaysOpen) {
+    erase([](Driver& d) {
+        EXPECT_EQ(d.layoutFaults(), std::vector<std::string>());
+        d.press("Nápověda");
+        EXPECT_EQ(d.title(), title);
+        d.press("OK");
+    });
+    EXPECT_EQ(hostSide().helpRequest, "0 " + module.bench.folder() + "VORDANLT.HLP 1 149");
+}
+
+TEST_F(EraseDialog, ASecondCallWhileOneIsOpenTouchesNothing) {
+    char text[] = "as it was";
+    std::int32_t a = 5;
+    std::int32_t b = 7;
+    EXPECT_EQ(erase([&](Driver& d) {
+                  EXPECT_EQ(LintelErase(nullptr), LX_ERASE_CANCELLED);
+                  EXPECT_EQ(CallLXdata6(nullptr, 0, 0, 0, 1200, 300, 0, text, &a, &b, {}, 0),
+                            LX_DIALOG_CANCEL);
+                  EXPECT_EQ(d.title(), title);
+                  d.press("OK");
+              }),
+              15);
+    EXPECT_STREQ(text, "as it was");
+    EXPECT_EQ(a, 5);
+    EXPECT_EQ(b, 7);
+    // The first one has given the module free again.
+    EXPECT_EQ(erase([](Driver& d) { d.press("OK"); }), 15);
+}
+
+}  // namespace
+}  // namespace lx
