@@ -103,6 +103,8 @@ public:
     virtual std::vector<std::string> regions(
         ControlName picture) = 0;  // "name left top right bottom"
     virtual void resizeDialog(ScreenSize outer) = 0;
+    virtual void moveDialog(ScreenPoint topLeft) = 0;
+    virtual void setDialogState(std::string_view state) = 0;  // "normal", "maximized", "minimized"
     // Lets the dialog's timers run for that long (headless: on its virtual clock).
     virtual void wait(int milliseconds) = 0;
 
@@ -151,6 +153,16 @@ public:
     // at rest; it performs acts, and answers false when it has nothing to do for now. An act that
     // opens another dialog returns only after that has closed; next is called again meanwhile.
     virtual void drive(std::function<bool(Driver&)> next) = 0;
+    // Ends the top dialog, message box or popup as if cancelled, whatever state its buttons are in;
+    // nothing when none is open. For giving up: next is called again for what stood under it.
+    virtual void cancelTop() = 0;
+    // When next has answered false and still nothing has closed the dialog after limit() (headless:
+    // when no timer is left that could), the driver cancels every dialog and keeps here which ones
+    // had nobody to act, one a line; empty when none. The next drive() clears it.
+    virtual std::string abandoned() = 0;
+    // Returns when next is not being run. Call it before reading what next writes, once the modal
+    // call has returned: on real windows next may run on a thread of its own and be behind.
+    virtual void settle() = 0;
     // Longest wait for anything, in milliseconds.
     virtual int limit() const = 0;
 };

@@ -1,0 +1,61 @@
+// Plays scenarios: reads one line after another, sets the host up, calls the module, acts in its
+// dialogs and compares what is there with what is expected.
+#pragma once
+
+#include <functional>
+#include <iosfwd>
+#include <memory>
+#include <string>
+
+#include "host/calls.h"
+#include "host/driver/driver.h"
+#include "host/services.h"
+
+namespace lx::host {
+
+// How the module comes into the process. load is called before the first call of a scenario and
+// after each "unload", when folders and host are set up; it may throw std::runtime_error.
+struct ModuleSource {
+    std::function<ModuleCalls(const HostSettings& settings)> load;
+    std::function<void()> unload;
+    void* parentWindow = nullptr;
+};
+
+struct PlayerFolders {
+    std::string out;   // a scenario "first.scenario" works in out/first, which is emptied first
+    std::string data;  // the sample data
+};
+
+class Player {
+public:
+    Player(HostServices& services, ModuleSource module, Driver& driver, PlayerFolders folders,
+           std::ostream& output);
+    ~Player();
+    Player(const Player&) = delete;
+    Player& operator=(const Player&) = delete;
+
+    // Plays one file (UTF-8 name); the module is unloaded at its end. False when an expectation or
+    // a line failed: failure() then says "file:line: what was expected, what was there", and the
+    // rest of that scenario was left out.
+    bool play(const std::string& file);
+    const std::string& failure() const;
+
+private:
+    class Run;
+
+    HostServices& m_services;
+    ModuleSource m_module;
+    Driver& m_driver;
+    PlayerFolders m_folders;
+    std::ostream& m_output;
+    std::string m_failure;
+};
+
+// The whole of a stand-in program behind its platform: plays the scenarios or makes the call of the
+// options, prints what came out, and gives the process's exit code: 0 all held, 1 an expectation
+// failed, 2 a wrong command line or a module that could not be loaded.
+struct Options;
+int runStandIn(Options options, HostServices& services, const ModuleSource& module, Driver& driver,
+               std::ostream& output, std::ostream& errors);
+
+}  // namespace lx::host

@@ -1,0 +1,62 @@
+// A stand-in program from its options to its exit code.
+#include <ostream>
+#include <stdexcept>
+
+#include "host/options.h"
+#include "host/player.h"
+
+namespace lx::host {
+
+namespace {
+
+constexpr int allHeld = 0;
+constexpr int expectationFailed = 1;
+constexpr int nothingRun = 2;
+
+int playAll(const Options& options, HostServices& services, const ModuleSource& module,
+            Driver& driver, std::ostream& output, std::ostream& errors) {
+    Player player(services, module, driver, {options.out, options.data}, output);
+    int code = allHeld;
+    for (const std::string& scenario : options.scenarios) {
+        output << scenario << std::endl;
+        if (player.play(scenario)) {
+            output << "held\n" << std::flush;
+        } else {
+            errors << player.failure() << std::endl;
+            code = expectationFailed;
+        }
+    }
+    return code;
+}
+
+int callOnce(Options& options, HostServices& services, const ModuleSource& module,
+             std::ostream& output, std::ostream& errors) {
+    const std::string problem = prepareFolders(options);
+    if (!problem.empty()) {
+        errors << problem << std::endl;
+        return nothingRun;
+    }
+    services.settings = options.host;
+    try {
+        const ModuleCalls calls = module.load(services.settings);
+        output << report(run(calls, *options.call, module.parentWindow));
+        for (const int topic : services.helpTopics) output << "help topic " << topic << "\n";
+        for (const std::string& line : services.lockLog()) output << "lock " << line << "\n";
+        output << std::flush;
+    } catch (const std::runtime_error& error) {
+        errors << error.what() << std::endl;
+        return nothingRun;
+    }
+    module.unload();
+    return allHeld;
+}
+
+}  // namespace
+
+int runStandIn(Options options, HostServices& services, const ModuleSource& module, Driver& driver,
+               std::ostream& output, std::ostream& errors) {
+    if (options.scenarios.empty()) return callOnce(options, services, module, output, errors);
+    return playAll(options, services, module, driver, output, errors);
+}
+
+}  // namespace lx::host

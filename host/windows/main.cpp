@@ -1,0 +1,106 @@
+// VORDANLT.EXE: the stand-in host on Windows. Loads lxdata6dlg.dll from its own folder, plays
+// scenarios in its dialogs, or makes one call that is the user's to act in.
+#include <windows.h>
+
+#include <fcntl.h>
+#include <io.h>
+#include <shellapi.h>
+
+#include <cstdio>
+#include <iostream>
+
+#include "host/driver/windows/windows_driver.h"
+#include "host/options.h"
+#include "host/paths.h"
+#include "host/windows/loaded_module.h"
+
+// What the module looks for in its host's program.
+extern "C" __declspec(dllexport) void** __cdecl GetExport2D() {
+    return lx::host::exportTable();
+}
+
+extern "C" __declspec(dllexport) int __cdecl GetProfilePath(int reserved, char* buffer, int size) {
+    return lx::host::profilePath(reserved, buffer, size);
+}
+
+// What VORDAN2D.ARX and vdhelp.dll of this host hand on to it.
+extern "C" __declspec(dllexport) int __cdecl StandInArxProfilePath(int reserved, char* buffer,
+                                                                   int size) {
+    return lx::host::arxProfilePath(reserved, buffer, size);
+}
+
+extern "C" __declspec(dllexport) int __cdecl StandInHelp(void* owner, const char* file,
+                                                         unsigned command, std::uintptr_t topic) {
+    return lx::host::htmlHelp(owner, file, command, topic);
+}
+
+extern "C" __declspec(dllexport) int __cdecl StandInHelpWanted() {
+    return lx::host::helpLibraryWanted() ? 1 : 0;
+}
+
+namespace {
+
+using namespace lx::host;
+
+// In UTF-8, without the program's name.
+std::vector<std::string> commandLine() {
+    int count = 0;
+    wchar_t** const words = CommandLineToArgvW(GetCommandLineW(), &count);
+    std::vector<std::string> arguments;
+    for (int i = 1; i < count; ++i) arguments.push_back(utf8FromPath(words[i]));
+    LocalFree(words);
+    return arguments;
+}
+
+std::string programFolder() {
+    std::wstring name(MAX_PATH, L'\0');
+    DWORD length = 0;
+    while ((length = GetModuleFileNameW(nullptr, name.data(), static_cast<DWORD>(name.size()))) ==
+           name.size()) {
+        name.resize(name.size() * 2);
+    }
+    name.resize(length);
+    return utf8FromPath(std::filesystem::path(name).parent_path());
+}
+
+// The host program's own window, in front of which the dialogs stand.
+HWND makeParentWindow() {
+    WNDCLASSW look{};
+    look.lpfnWndProc = DefWindowProcW;
+    look.hInstance = GetModuleHandleW(nullptr);
+    look.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+    look.hbrBackground = GetSysColorBrush(COLOR_APPWORKSPACE);
+    look.lpszClassName = L"VORDANLT";
+    RegisterClassW(&look);
+    constexpr int width = 1024;
+    constexpr int height = 768;
+    return CreateWindowExW(0, look.lpszClassName, L"Stand-in", WS_OVERLAPPEDWINDOW | WS_VISIBLE,
+                           CW_USEDEFAULT, CW_USEDEFAULT, width, height, nullptr, nullptr,
+                           look.hInstance, nullptr);
+}
+
+}  // namespace
+
+int main() {
+    SetConsoleOutputCP(CP_UTF8);
+    // Line ends as on every platform.
+    _setmode(_fileno(stdout), _O_BINARY);
+    _setmode(_fileno(stderr), _O_BINARY);
+    const std::string folder = programFolder();
+    const Options options = parseOptions(commandLine(), folder);
+    if (options.help) {
+        std::cout << optionsHelp("VORDANLT.EXE");
+        return 0;
+    }
+    if (!options.error.empty()) {
+        std::cerr << options.error << "\nVORDANLT.EXE --help tells what there is." << std::endl;
+        return 2;
+    }
+    const HWND parent = makeParentWindow();
+    HostServices services;
+    WindowsDriver driver;
+    const int code =
+        runStandIn(options, services, moduleFromFile(folder, parent), driver, std::cout, std::cerr);
+    DestroyWindow(parent);
+    return code;
+}

@@ -1,0 +1,228 @@
+// Scenarios played on a small module of their own: what is acted and read in dialogs, and that
+// whatever fails says where.
+#include "host/player.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <sstream>
+
+#include "host/paths.h"
+#include "tests/support/bench.h"
+
+namespace lx::host {
+namespace {
+
+constexpr int boxId = 100;
+constexpr int fieldId = 102;
+constexpr int listId = 104;
+constexpr int moreId = 105;
+
+constexpr ControlTemplate sampleControls[] = {
+    {ControlKind::checkBox, boxId, "zaškrtnout"_cz, {5, 5, 80, 10}, 0},
+    {ControlKind::label, 101, "Název:"_cz, {5, 20, 40, 8}, 0},
+    {ControlKind::edit, fieldId, "", {50, 18, 80, 12}, 0},
+    {ControlKind::label, 103, "Seznam:"_cz, {5, 35, 40, 8}, 0},
+    {ControlKind::listBox, listId, "", {50, 35, 80, 40}, 0},
+    {ControlKind::button, moreId, "Další..."_cz, {5, 80, 50, 14}, 0},
+    {ControlKind::button, id::ok, "OK", {60, 80, 50, 14}, style::defaultButton},
+    {ControlKind::button, id::cancel, "Zrušit"_cz, {115, 80, 50, 14}, 0},
+};
+constexpr DialogTemplate sampleTemplate{"sample", "Ukázka"_cz, 180, 100, sampleControls};
+
+Platform* g_platform = nullptr;
+int g_loads = 0;
+
+void append(ListBox& list, std::string_view text, std::optional<Color> color = {},
+            std::optional<Color> background = {}) {
+    ListRow row;
+    row.text = text;
+    row.textColor = color;
+    row.selectedBackground = background;
+    list.append(row);
+}
+
+// LintelErase of the small module: a dialog whose "Další..." asks whether another one is to open.
+int runSample(Dialog* owner) {
+    const auto dialog = g_platform->createDialog(sampleTemplate, {owner, nullptr});
+    auto& list = dialog->get<ListBox>(listId);
+    append(list, "jedna", Color{233, 17, 12}, Color{1, 2, 3});
+    append(list, "dvě"_cz);
+    dialog->get<Button>(moreId).onClick = [&] {
+        const MessageAnswer answer =
+            g_platform->messageBox({dialog.get(), nullptr}, "Opravdu?", "Otázka"_cz,
+                                   MessageIcon::question, MessageButtons::yesNo);
+        if (answer == MessageAnswer::yes) append(list, std::to_string(runSample(dialog.get())));
+    };
+    const int result = dialog->runModal();
+    return dialog->get<CheckBox>(boxId).checked() ? 10 + result : result;
+}
+
+int LX_STDCALL sampleErase(void*) {
+    return runSample(nullptr);
+}
+
+class PlayerTest : public ::testing::Test {
+protected:
+    PlayerTest() { g_platform = &bench.platform(); }
+
+    // Plays these lines and answers the failure without the folder before the file's name.
+    std::string play(const std::string& lines) {
+        const std::string file = utf8FromSystemPath(bench.folder()) + "test.scenario";
+        writeFile(pathFromUtf8(file), lines);
+        ModuleSource module;
+        module.load = [](const HostSettings&) {
+            ++g_loads;
+            ModuleCalls calls;
+            calls.LintelErase = sampleErase;
+            return calls;
+        };
+        module.unload = [] {};
+        output.str("");
+        Player player(services, module, bench.driver(),
+                      {utf8FromSystemPath(bench.folder()) + "out", "."}, output);
+        const bool held = player.play(file);
+        EXPECT_EQ(held, player.failure().empty());
+        const std::string& failure = player.failure();
+        return failure.rfind(file, 0) == 0 ? failure.substr(file.size() - 13) : failure;
+    }
+
+    Bench bench;
+    HostServices services;
+    std::ostringstream output;
+};
+
+TEST_F(PlayerTest, ActsAndExpectsInDialogsAndWhatOpensInThem) {
+    EXPECT_EQ(play("call LintelErase\n"
+                   "dialog \"Ukázka\"\n"
+                   "check \"zaškrtnout\"\n"
+                   "focus \"Název\"\n"
+                   "type \"Žlutý\"\n"
+                   "key Backspace\n"
+                   "expect text \"Název:\" is \"Žlut\"\n"
+                   "expect row-color \"Seznam\" 0 is 233,17,12\n"
+                   "expect row-background \"Seznam\" 0 is 1,2,3\n"
+                   "select \"Seznam\" \"dvě\"\n"
+                   "expect selected \"Seznam\" is 1\n"
+                   "press \"Další...\"\n"
+                   "expect message is \"Opravdu?\"\n"
+                   "expect message-caption is \"Otázka\"\n"
+                   "expect message-icon is question\n"
+                   "expect message-buttons is Yes No\n"
+                   "answer Yes\n"
+                   "dialog \"Ukázka\"\n"
+                   "expect text \"Název\" is \"\"\n"
+                   "close\n"
+                   "expect rows \"Seznam\" is jedna \"dvě\" 2\n"
+                   "expect rows \"Seznam\" has \"dvě\"\n"
+                   "expect rows \"Seznam\" lacks \"tři\"\n"
+                   "expect focus contains \"Další\"\n"
+                   "print rows \"Seznam\"\n"
+                   "press OK\n"
+                   "returns 11\n"
+                   "expect result is 11\n"),
+              "");
+    EXPECT_EQ(output.str(), "rows Seznam:\n  jedna\n  dvě\n  2\nLintelErase\nresult 11\n");
+}
+
+TEST_F(PlayerTest, AFailedExpectationSaysWhereAndWhatWasThere) {
+    EXPECT_EQ(play("\ncall LintelErase\n"
+                   "expect rows \"Seznam\" is jedna\n"
+                   "press OK\nreturns 1\n"),
+              "test.scenario:3: expected \"rows\" \"Seznam\" is \"jedna\", "
+              "there is \"jedna\" \"dvě\"");
+    EXPECT_FALSE(bench.driver().anyDialogOpen()) << "the call is brought to its end";
+    EXPECT_EQ(play("call LintelErase\npress OK\nreturns 2\n"),
+              "test.scenario:3: expected result 2, there is 1");
+    EXPECT_EQ(play("expect file data:x is present\n"),
+              "test.scenario:1: expected \"file\" \"data:x\" is \"present\", there is \"absent\"");
+}
+
+TEST_F(PlayerTest, AFailureInANestedDialogEndsAllOfThem) {
+    const std::string failure = play(
+        "call LintelErase\npress \"Další...\"\nanswer Yes\n"
+        "dialog \"Ukázka\"\nexpect enabled \"OK\" is no\n"
+        "press OK\nreturns any\n");
+    EXPECT_EQ(failure, "test.scenario:5: expected \"enabled\" \"OK\" is \"no\", there is \"yes\"");
+    EXPECT_FALSE(bench.driver().anyDialogOpen());
+}
+
+TEST_F(PlayerTest, ALineThatNobodyCanActFails) {
+    const std::string failure =
+        play("call LintelErase\npress \"Nic takového\"\npress OK\nreturns 1\n");
+    EXPECT_EQ(failure.rfind("test.scenario:2: ", 0), 0U) << failure;
+    EXPECT_NE(failure.find("Nic takového"), std::string::npos) << failure;
+}
+
+TEST_F(PlayerTest, LinesLeftWhenTheCallIsOverFail) {
+    EXPECT_EQ(play("call LintelErase\npress OK\npress \"Zrušit\"\nreturns 1\n"),
+              "test.scenario:3: the call was over before this line, with result 1");
+}
+
+TEST_F(PlayerTest, MistakesAreFoundBeforeAnythingIsPlayed) {
+    const int loads = g_loads;
+    const std::pair<const char*, const char*> mistakes[] = {
+        {"dance", "nothing is called \"dance\""},
+        {"press OK", "\"press\" needs a dialog"},
+        {"call Nothing", "\"Nothing\" is none of the module's functions"},
+        {"call CallLXdata6 width", "a value is missing"},
+        {"returns 1", "there is no call that could return"},
+        {"expect colour is 1", "nothing is called \"colour\""},
+        {"expect files out: is-like 1", "\"is-like\" is no comparison"},
+        {"expect files out: has a b", "has takes one text"},
+        {"copy data:a", "\"copy\" takes 2 words, not 1"},
+        {"call LintelErase\nexpect result is 1\nreturns 1", "\"expect\" stands behind"},
+        {"call LintelErase\npress OK", "\"returns\" is missing"},
+    };
+    for (const auto& [line, wanted] : mistakes) {
+        const std::string failure =
+            play(std::string("call LintelErase\npress OK\nreturns 1\n") + line);
+        EXPECT_NE(failure.find(wanted), std::string::npos) << line << ": " << failure;
+        EXPECT_EQ(failure.rfind("test.scenario:", 0), 0U) << failure;
+    }
+    EXPECT_EQ(g_loads, loads);
+}
+
+TEST_F(PlayerTest, FilesAndSettingsAreSetUpAndCompared) {
+    EXPECT_EQ(play("file data:a.txt \"[S]\\r\\n\" \"k=ž\\r\\n\"\n"
+                   "expect file-size data:a.txt is 10\n"
+                   "expect file-bytes data:a.txt is \"5B 53 5D 0D 0A 6B 3D 9E 0D 0A\"\n"
+                   "setting data:a.txt S other 5\n"
+                   "expect setting data:a.txt s K is ž\n"
+                   "expect file-text data:a.txt is [S] \"k=ž\" other=5\n"
+                   "copy data:a.txt library:b.txt\n"
+                   "expect same data:a.txt library:b.txt is yes\n"
+                   "cut library:b.txt 4\n"
+                   "expect same data:a.txt library:b.txt contains \"first difference at 4\"\n"
+                   "bytes temp:c 00 ff\nexpect file-bytes temp:c is \"00 FF\"\n"
+                   "remove temp:c\nexpect files temp: is\n"
+                   "expect files out: is library catalogue profile temp\n")
+                  .find("test.scenario:14: expected \"files\" \"out:\""),
+              0U)
+        << "names are sorted";
+    EXPECT_EQ(play("expect files library: is\n"), "") << "each scenario begins with empty folders";
+    EXPECT_EQ(play("cut data:a 3\n").rfind("test.scenario:1: cannot read", 0), 0U);
+    EXPECT_EQ(play("file nowhere:a b\n").rfind("test.scenario:1: ", 0), 0U);
+}
+
+TEST_F(PlayerTest, TheModuleIsLoadedOnceUntilUnloaded) {
+    const int loads = g_loads;
+    const std::string call = "call LintelErase\npress OK\nreturns 1\n";
+    EXPECT_EQ(play(call + call + "unload\n" + call), "");
+    EXPECT_EQ(g_loads, loads + 2);
+}
+
+TEST_F(PlayerTest, HostSettingsOfOneScenarioDoNotReachTheNext) {
+    EXPECT_EQ(play("host units 25\nhost library none\nhost profile profile:/\n"), "");
+    EXPECT_EQ(services.settings.units, 25);
+    EXPECT_EQ(services.settings.library, std::nullopt);
+    EXPECT_EQ(services.settings.profile.back(), '/');
+    EXPECT_EQ(play("expect locks is\n"), "");
+    EXPECT_EQ(services.settings.units, 1000);
+    EXPECT_TRUE(services.settings.library);
+    EXPECT_EQ(play("host units many\n"),
+              "test.scenario:1: \"units\" is a whole number or \"none\"");
+}
+
+}  // namespace
+}  // namespace lx::host

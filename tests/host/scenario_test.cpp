@@ -1,0 +1,146 @@
+// The language's lines, includes and settings files, and the command line that shares its names.
+#include "host/scenario.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+
+#include "host/ini_text.h"
+#include "host/options.h"
+#include "host/paths.h"
+
+namespace lx::host {
+namespace {
+
+using Words = std::vector<std::string>;
+
+TEST(ScenarioWords, QuotesEscapesAndComments) {
+    EXPECT_EQ(splitWords("  press \"Nový typ\"\t#17 is a comment"), (Words{"press", "Nový typ"}));
+    EXPECT_EQ(splitWords("press \"#17\" a#b"), (Words{"press", "#17", "a#b"}));
+    EXPECT_EQ(splitWords(R"(expect text "" is "a\r\nb\t\"\\")"),
+              (Words{"expect", "text", "", "is", "a\r\nb\t\"\\"}));
+    EXPECT_EQ(splitWords("wait 50\r"), (Words{"wait", "50"}));
+    for (const char* wrong : {"\"open", "\"open\\", "a \"b\"c", "ab\"c\"", R"("\q")"}) {
+        EXPECT_THROW(splitWords(wrong), std::invalid_argument) << wrong;
+    }
+    const std::string hard = "a\r\n\t\"\\ #";
+    EXPECT_EQ(splitWords(inQuotes(hard)), Words{hard});
+}
+
+class ScenarioFiles : public ::testing::Test {
+protected:
+    std::string read() {
+        std::string places;
+        const auto lines = readScenario("main", [this](const std::string& name) {
+            const auto found = files.find(name);
+            return found == files.end() ? std::nullopt : std::optional(found->second);
+        });
+        for (const ScenarioLine& line : lines) places += line.place() + " " + line.words[0] + ";";
+        return places;
+    }
+    std::string failure() {
+        try {
+            read();
+        } catch (const ScenarioError& error) {
+            return error.what();
+        }
+        return {};
+    }
+    std::map<std::string, std::string> files;
+};
+
+TEST_F(ScenarioFiles, IncludedLinesKeepTheirOwnPlaces) {
+    files["main"] = "\xEF\xBB\xBFone\n\n# nothing\ninclude other\nfour";
+    files["other"] = "\nsecond\n";
+    EXPECT_EQ(read(), "main:1 one;other:2 second;main:5 four;");
+}
+
+TEST_F(ScenarioFiles, WhatCannotBeReadSaysWhere) {
+    EXPECT_EQ(failure(), "cannot read main");
+    files["main"] = "one\ninclude nowhere\n";
+    EXPECT_EQ(failure(), "main:2: cannot read nowhere");
+    files["main"] = "one\ntwo \"open\n";
+    EXPECT_EQ(failure(), "main:2: the closing quote is missing");
+    files["main"] = "include main\n";
+    EXPECT_EQ(failure(), "main:1: includes go too deep");
+}
+
+TEST(IniText, FindsAndPutsValues) {
+    const std::string file = "[One]\r\na = 1 \r\n\r\n[two]\r\nB=x=y\r\n";
+    EXPECT_EQ(iniValue(file, "ONE", "A"), "1");
+    EXPECT_EQ(iniValue(file, "Two", "b"), "x=y");
+    EXPECT_EQ(iniValue(file, "one", "b"), std::nullopt);
+    EXPECT_EQ(iniWithValue(file, "one", "c", "3"),
+              "[One]\r\na = 1 \r\nc=3\r\n\r\n[two]\r\nB=x=y\r\n");
+    EXPECT_EQ(iniWithValue(file, "TWO", "b", "z"), "[One]\r\na = 1 \r\n\r\n[two]\r\nb=z\r\n");
+    EXPECT_EQ(iniWithValue(file, "two", "c", "3"), file + "c=3\r\n");
+    EXPECT_EQ(iniWithValue("", "s", "k", "v"), "[s]\r\nk=v\r\n");
+}
+
+Options parse(const Words& arguments) {
+    return parseOptions(arguments, "/programs");
+}
+
+TEST(CommandLine, SetsHostOpeningAndBlock) {
+    const Options options = parse({"--width",
+                                   "1200.5",
+                                   "--block.headShape",
+                                   "4",
+                                   "--block.triple1",
+                                   "1,2.5,-3",
+                                   "--units",
+                                   "none",
+                                   "--lock",
+                                   "2",
+                                   "--styles",
+                                   "A;B",
+                                   "--title",
+                                   "none",
+                                   "CallLXdata6",
+                                   "--wall",
+                                   "450",
+                                   "--exterior",
+                                   "on",
+                                   "--B",
+                                   "1"});
+    ASSERT_EQ(options.error, "");
+    ASSERT_TRUE(options.call);
+    const Opening& opening = options.call->opening;
+    EXPECT_EQ(opening.width, 1200.5);
+    EXPECT_EQ(opening.wall, 450);
+    EXPECT_TRUE(opening.exterior);
+    EXPECT_EQ(opening.b, 1);
+    EXPECT_EQ(opening.block.headShape, 4);
+    EXPECT_EQ(opening.block.unread188, -1);
+    EXPECT_EQ(opening.block.triple1[1], 2.5);
+    EXPECT_EQ(opening.block.triple1[2], -3);
+    EXPECT_EQ(options.host.units, std::nullopt);
+    EXPECT_EQ(options.host.title, std::nullopt);
+    EXPECT_EQ(options.host.libraryLock, 2);
+    EXPECT_EQ(options.host.catalogueLock, 2);
+    EXPECT_EQ(options.host.styles, (std::vector<std::string>{"A", "B"}));
+    EXPECT_EQ(options.data, asFolder("/programs") + "data");
+}
+
+TEST(CommandLine, MergeTakesItsThreeArguments) {
+    const Options options = parse({"mergeLibraryFiles", "new.dat", "none", "3"});
+    ASSERT_EQ(options.error, "");
+    EXPECT_EQ(options.call->source, "new.dat");
+    EXPECT_EQ(options.call->folder, std::nullopt);
+    EXPECT_EQ(options.call->mode, 3);
+}
+
+TEST(CommandLine, RefusesWhatCannotBeMeant) {
+    for (const Words& wrong :
+         {Words{}, Words{"--units"}, Words{"--units", "many", "LintelErase"},
+          Words{"--nothing", "1", "LintelErase"}, Words{"LintelErase", "CallLXdata6"},
+          Words{"mergeLibraryFiles", "a", "b"}, Words{"mergeLibraryFiles", "a", "b", "c"},
+          Words{"--play", "a", "LintelErase"}, Words{"--block.headShape", "40000", "CallLXdata6"},
+          Words{"--block.triple1", "1,2", "CallLXdata6"}, Words{"--exterior", "1", "CallLXdata6"},
+          Words{"--title", "\xE4\xB8\xAD", "LintelErase"}}) {
+        EXPECT_NE(parse(wrong).error, "") << ::testing::PrintToString(wrong);
+    }
+}
+
+}  // namespace
+}  // namespace lx::host

@@ -1,0 +1,125 @@
+#include "tests/support/bench.h"
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+
+namespace lx {
+
+namespace fs = std::filesystem;
+
+std::optional<Path> FakeHost::folder(HostFolder id) {
+    if (!hasServices) return std::nullopt;
+    return id == HostFolder::library ? library : catalogue;
+}
+
+int FakeHost::requestLock(HostResource resource, int mode) {
+    lockRequests.push_back({resource, mode});
+    return lockAnswer[resource];
+}
+
+void FakeHost::releaseLock(HostResource resource, int code) {
+    lockReleases.push_back({resource, code});
+}
+
+Text FakeHost::title() {
+    return hasServices ? titleText : "ERROR";
+}
+
+Text FakeHost::variable(const char* name) {
+    const auto found = variables.find(name);
+    return hasServices && found != variables.end() ? found->second : Text();
+}
+
+int FakeHost::unitsPerMetre() {
+    return hasServices ? units : 0;
+}
+
+std::vector<Text> FakeHost::textStyles() {
+    return hasServices ? styles : std::vector<Text>();
+}
+
+int FakeHost::showHelp(int topic) {
+    helpTopics.push_back(topic);
+    return helpAnswer;
+}
+
+class Bench::OwnTemporaryFolder {
+public:
+    explicit OwnTemporaryFolder(const Path& own) : m_before(systemFiles().temporaryFolder()) {
+        setTemporaryFolder(own);
+    }
+    ~OwnTemporaryFolder() { setTemporaryFolder(m_before); }
+    OwnTemporaryFolder(const OwnTemporaryFolder&) = delete;
+    OwnTemporaryFolder& operator=(const OwnTemporaryFolder&) = delete;
+
+private:
+    Path m_before;
+};
+
+namespace {
+
+Path freshFolder() {
+    static unsigned number = 0;
+    const Path base = systemFiles().temporaryFolder() + "lxtest-" +
+                      std::to_string(processNumber()) + "-" + std::to_string(++number);
+    fs::remove_all(base);
+    return base + std::string(separator);
+}
+
+}  // namespace
+
+Bench::Bench() : m_folder(freshFolder()) {
+    for (const Path& folder :
+         {dataFolder(), libraryFolder(), catalogueFolder(), temporaryFolder()}) {
+        fs::create_directories(folder);
+    }
+    m_temporary = std::make_unique<OwnTemporaryFolder>(temporaryFolder());
+    m_host.data = dataFolder();
+    m_host.library = libraryFolder();
+    m_host.catalogue = catalogueFolder();
+    m_platform = makeTestPlatform();
+    m_driver = makeTestDriver(*m_platform);
+    m_user = std::make_unique<host::Session>(*m_driver);
+}
+
+Bench::~Bench() {
+    m_user.reset();
+    m_driver.reset();
+    m_platform.reset();
+    m_temporary.reset();
+    std::error_code ignored;
+    fs::remove_all(m_folder, ignored);
+}
+
+Path Bench::dataFolder() const {
+    return m_folder + "DAT" + std::string(separator);
+}
+
+Path Bench::libraryFolder() const {
+    return m_folder + "library" + std::string(separator);
+}
+
+Path Bench::catalogueFolder() const {
+    return m_folder + "catalogue" + std::string(separator);
+}
+
+Path Bench::temporaryFolder() const {
+    return m_folder + "temp" + std::string(separator);
+}
+
+void Bench::write(const Path& path, std::string_view bytes) {
+    std::ofstream file(path, std::ios::binary | std::ios::trunc);
+    file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    file.close();
+    if (!file) throw std::runtime_error("cannot write " + path);
+}
+
+std::optional<Bytes> Bench::read(const Path& path) {
+    std::ifstream file(path, std::ios::binary);
+    if (!file) return std::nullopt;
+    return Bytes(std::istreambuf_iterator<char>(file), {});
+}
+
+}  // namespace lx

@@ -1,0 +1,124 @@
+// What a test stands on: a platform, a user who acts on it, a host whose answers can be set, and a
+// folder of its own. The same source runs on the headless platform and on real windows.
+#pragma once
+
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "host/driver/driver.h"
+#include "host/driver/session.h"
+#include "platform/files.h"
+#include "platform/host.h"
+#include "platform/platform.h"
+
+namespace lx {
+
+using host::Driver;
+using host::DriverError;
+using host::RowLook;
+using host::ScreenPoint;
+using host::ScreenSize;
+
+// A host of plain members: tests set what it answers and read what it was asked.
+class FakeHost : public Host {
+public:
+    struct LockRequest {
+        HostResource resource;
+        int mode;
+        bool operator==(const LockRequest&) const = default;
+    };
+    struct LockRelease {
+        HostResource resource;
+        int code;
+        bool operator==(const LockRelease&) const = default;
+    };
+
+    // ---- answers
+    bool hasServices = true;        // false: no service table, so nothing below but data is told
+    std::optional<Path> library;    // none: the folder lookup fails
+    std::optional<Path> catalogue;  // none: the folder lookup fails
+    Path data;
+    std::map<HostResource, int> lockAnswer{{HostResource::library, 1},
+                                           {HostResource::catalogue, 1}};
+    Text titleText = "Stand-in";
+    std::map<std::string, Text> variables;
+    int units = 1000;
+    std::vector<Text> styles;
+    int helpAnswer = 1;
+
+    // ---- what it was asked, in order
+    std::vector<LockRequest> lockRequests;
+    std::vector<LockRelease> lockReleases;
+    std::vector<int> helpTopics;
+
+    std::optional<Path> folder(HostFolder id) override;
+    const Path& dataFolder() const override { return data; }
+    bool present() override { return hasServices; }
+    int requestLock(HostResource resource, int mode) override;
+    void releaseLock(HostResource resource, int code) override;
+    Text title() override;
+    Text variable(const char* name) override;
+    int unitsPerMetre() override;
+    std::vector<Text> textStyles() override;
+    int showHelp(int topic) override;
+};
+
+// Makes its folder, fresh and empty, with the subfolders below; makes temporary files of this
+// process go there; removes all of it at the end. The host answers with these folders at first.
+// Make one Bench at a time.
+class Bench {
+public:
+    Bench();
+    ~Bench();
+    Bench(const Bench&) = delete;
+    Bench& operator=(const Bench&) = delete;
+
+    Platform& platform() { return *m_platform; }
+    Files& files() { return systemFiles(); }
+    FakeHost& host() { return m_host; }
+    // The user: steps to be done in the dialogs that the test is about to open.
+    host::Session& user() { return *m_user; }
+    Driver& driver() { return *m_driver; }
+
+    // Each ends in a separator.
+    const Path& folder() const { return m_folder; }
+    Path dataFolder() const;
+    Path libraryFolder() const;
+    Path catalogueFolder() const;
+    Path temporaryFolder() const;
+
+    // Whole files; write creates or replaces. read gives none when there is no such file.
+    void write(const Path& path, std::string_view bytes);
+    std::optional<Bytes> read(const Path& path);
+
+private:
+    class OwnTemporaryFolder;
+
+    Path m_folder;
+    std::unique_ptr<OwnTemporaryFolder> m_temporary;
+    FakeHost m_host;
+    std::unique_ptr<Platform> m_platform;
+    std::unique_ptr<Driver> m_driver;
+    std::unique_ptr<host::Session> m_user;
+};
+
+// Of this platform.
+std::unique_ptr<Platform> makeTestPlatform();
+std::unique_ptr<Driver> makeTestDriver(Platform& platform);
+// Sets (or, with none, removes) the environment variables that name the system's temporary folder.
+void setTemporaryFolder(const std::optional<Path>& folder);
+// A number that no other process has now.
+unsigned long processNumber();
+// With the system's own separators.
+inline constexpr std::string_view separator =
+#if defined(_WIN32)
+    "\\";
+#else
+    "/";
+#endif
+
+}  // namespace lx
