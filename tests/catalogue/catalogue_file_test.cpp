@@ -35,12 +35,6 @@ Catalogue sampleCatalogue() {
     return head;
 }
 
-int countRecords(const CPreklItem* record) {
-    int count = 0;
-    for (; record; record = record->next.get()) ++count;
-    return count;
-}
-
 TEST(CatalogueFile, RecordsStandInTheFileByteForByte) {
     const Catalogue head = sampleCatalogue();
     const Bytes bytes = catalogueBytes(head.get());
@@ -109,15 +103,15 @@ TEST(CatalogueFile, NoiseIsReadWithoutHarm) {
         Bytes noise(static_cast<std::size_t>(random() % 2000), '\0');
         for (char& c : noise) c = static_cast<char>(random() % 3 == 0 ? 0 : random());
         const CatalogueRead read = parseCatalogue(CatalogueKind::precast, noise);
-        EXPECT_LE(countRecords(read.head.get()), static_cast<int>(noise.size() / 39));
         const Bytes again = catalogueBytes(read.head.get());
+        EXPECT_LE(again.size(), noise.size());
         EXPECT_FALSE(parseCatalogue(CatalogueKind::precast, again).damaged);
     }
 }
 
 TEST(CatalogueFile, LongChainsAreCopiedAndDestroyedWithoutRecursion) {
     Bytes bytes = catalogueBytes(sampleCatalogue().get());
-    while (bytes.size() < 20'000'000) bytes += Bytes(bytes);
+    while (bytes.size() < 8'000'000) bytes += Bytes(bytes);
     CatalogueRead read = parseCatalogue(CatalogueKind::precast, bytes);
     Catalogue copy = copyCatalogue(read.head.get());
     read.head.reset();

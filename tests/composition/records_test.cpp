@@ -74,7 +74,8 @@ TEST(Records, AChainKeepsItsEndsThroughEveryChange) {
     EXPECT_EQ(moved.head(), b);
     const CRez* added = moved.append(layer(0, 5));
     EXPECT_EQ(c->next, added);
-    EXPECT_EQ(chain.append(layer(0, 6)), chain.head());
+    const CRez* alone = chain.append(layer(0, 6));
+    EXPECT_EQ(chain.head(), alone);
 }
 
 }  // namespace
