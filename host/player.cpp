@@ -18,8 +18,9 @@ Words behind(const Words& words, std::size_t count) {
     return {words.begin() + static_cast<std::ptrdiff_t>(count), words.end()};
 }
 
-// "call FUNCTION ...", the files named as in a scenario.
-CallRequest requestOf(const ScenarioFolders& folders, Opening& opening, const Words& words) {
+// "call FUNCTION ...", the files named as in a scenario. Values of an opening named here are those
+// of this call alone.
+CallRequest requestOf(const ScenarioFolders& folders, Opening opening, const Words& words) {
     CallRequest request;
     request.function = functionNamed(words[1]).value();
     if (request.function == Function::merge) {

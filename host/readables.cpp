@@ -80,8 +80,7 @@ std::string bytesOf(PlayContext& context, const std::string& reference) {
     return std::move(*bytes);
 }
 
-Words hexLines(const std::string& bytes) {
-    constexpr std::size_t perLine = 16;
+Words hexLines(const std::string& bytes, std::size_t perLine = 16) {
     constexpr char digits[] = "0123456789ABCDEF";
     Words lines;
     for (std::size_t i = 0; i < bytes.size(); ++i) {
@@ -93,6 +92,17 @@ Words hexLines(const std::string& bytes) {
         line += digits[byte % 16];
     }
     return lines;
+}
+
+Words filePart(PlayContext& context, const Words& words) {
+    const std::string bytes = bytesOf(context, words[0]);
+    const int offset = wholeNumber(words[1]);
+    const int count = wholeNumber(words[2]);
+    if (offset < 0 || count < 1 || bytes.size() < static_cast<std::size_t>(offset)) {
+        throw std::runtime_error("the file has " + std::to_string(bytes.size()) + " bytes");
+    }
+    const auto size = static_cast<std::size_t>(count);
+    return hexLines(bytes.substr(static_cast<std::size_t>(offset), size), size);
 }
 
 Words sameFiles(PlayContext& context, const Words& words) {
@@ -198,6 +208,7 @@ const std::vector<Readable>& readables() {
          [](C& c, const W& w) { return one(std::to_string(bytesOf(c, w[0]).size())); }},
         {"file-text", 1, any, [](C& c, const W& w) { return linesOf(toUtf8(bytesOf(c, w[0]))); }},
         {"file-bytes", 1, any, [](C& c, const W& w) { return hexLines(bytesOf(c, w[0])); }},
+        {"file-part", 3, any, filePart},
         {"same", 2, any, sameFiles},
         {"setting", 3, any, settingValue},
     };

@@ -42,10 +42,11 @@ struct MessageBoxLook {
     std::vector<std::string> buttons;  // "OK", "Cancel", "Yes", "No"
 };
 
-// How a control is named, tried in this order: "#17" its id; its own text without "&" (buttons,
-// boxes, labels' own text is not a match); the label before it in Tab order, with or without ":"
-// (edits, lists, boxes); its tooltip. Visible controls of the top dialog and of its shown page come
-// before hidden ones.
+// How a control is named, tried in this order: "#17" its id; its own text without "&" (buttons and
+// boxes; pictures and lists may have a name that is not to be seen, such as "section"; labels' own
+// text is not a match); the label before it in Tab order, with or without ":" (edits, lists,
+// boxes); its tooltip; the title of a group box. Visible controls of the top dialog and of its
+// shown page come before hidden ones.
 using ControlName = std::string_view;
 
 class Driver {
@@ -123,7 +124,9 @@ public:
     virtual std::string editSelection(
         ControlName edit) = 0;  // "begin-end", or the selected characters' count 0
     virtual std::string tooltip(ControlName control) = 0;
-    virtual std::string cursor(ControlName picture) = 0;  // "arrow", "hand", "upArrow", ...
+    // "arrow", "hand", "upArrow", "splitLeftRight", "splitUpDown" or "text"; "" = where the mouse
+    // was last moved to over the dialog itself.
+    virtual std::string cursor(ControlName picture) = 0;
     virtual std::string clipboard() = 0;
     virtual std::vector<std::string> headings(
         ControlName list) = 0;  // index order, arrow as " ^" or " v"
@@ -160,8 +163,8 @@ public:
     // when no timer is left that could), the driver cancels every dialog and keeps here which ones
     // had nobody to act, one a line; empty when none. The next drive() clears it.
     virtual std::string abandoned() = 0;
-    // Returns when next is not being run. Call it before reading what next writes, once the modal
-    // call has returned: on real windows next may run on a thread of its own and be behind.
+    // Brings every next that still waits for something to its end. Call it before reading what next
+    // writes, once the modal call has returned: on real windows next may be behind.
     virtual void settle() = 0;
     // Longest wait for anything, in milliseconds.
     virtual int limit() const = 0;

@@ -19,8 +19,8 @@ std::optional<Text> readText(BinaryReader& reader, bool& damaged) {
 }
 
 void writeText(const std::optional<Text>& text, BinaryWriter& writer) {
-    std::string_view bytes = text ? std::string_view(*text) : std::string_view();
-    bytes = bytes.substr(0, catalogueTextLimit);
+    std::string_view bytes;
+    if (text) bytes = std::string_view(*text).substr(0, catalogueTextLimit);
     // A zero inside would end the text early and shift everything behind it.
     writer.zeroTerminated(bytes.substr(0, bytes.find('\0')));
 }

@@ -13,7 +13,7 @@ constexpr std::size_t labelLength = 3;
 }  // namespace
 
 bool LibraryEntries::next() {
-    if (m_torn || m_next >= m_bytes.size()) return false;
+    if (m_next >= m_bytes.size()) return false;
     m_start = m_next;
     m_torn = true;
     const std::string_view rest = m_bytes.substr(m_start);

@@ -66,7 +66,8 @@ public:
     void setLabel(std::string_view text);
     // name, or an empty text where there is none
     std::string_view nameOrEmpty() const {
-        return name ? std::string_view(*name) : std::string_view();
+        if (!name) return {};
+        return *name;
     }
 
     std::int32_t bearing = 0;  // mm; not 0: the length follows the opening by this much at each end

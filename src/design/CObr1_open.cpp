@@ -103,14 +103,15 @@ void CObr1::makePages() {
     // dialog has read.
     m_library.readOnly();
     m_libraryPage = m_factory.makeLibrary(*this);
+    // The area for a page is known when all tabs are there: they may take several rows.
+    TabControl& tabs = m_window->get<TabControl>(id::tabs);
+    for (DesignPage* one : pages()) tabs.addTab(one->window().title());
     for (DesignPage* one : pages()) place(*one);
 }
 
 void CObr1::place(DesignPage& page) {
-    TabControl& tabs = m_window->get<TabControl>(id::tabs);
-    tabs.addTab(page.window().title());
     page.window().show(false);
-    page.window().setArea(tabs.displayArea());
+    page.window().setArea(m_window->get<TabControl>(id::tabs).displayArea());
 }
 
 void CObr1::fillTypeBoxes() {

@@ -25,7 +25,8 @@ std::int32_t sum(std::int32_t length, std::int32_t bearing) {
 
 // What a new layer starts from: the current layer, or nothing behind the head.
 std::unique_ptr<CRez> likeCurrent(const CRez& current) {
-    return current.isHead() ? std::make_unique<CRez>() : std::make_unique<CRez>(current);
+    if (current.isHead()) return std::make_unique<CRez>();
+    return std::make_unique<CRez>(current);
 }
 
 }  // namespace

@@ -81,11 +81,13 @@ Text formatFixed(double value, int decimals) {
     Decimal number = shortestDecimal(std::fabs(value));
     // One digit in front takes the carry of 9.99; places before the first digit are zeros.
     if (number.exponent < 0) {
-        number.digits.insert(0, static_cast<std::size_t>(-number.exponent), '0');
+        const int zeros = -number.exponent;
+        number.digits.insert(0, static_cast<std::size_t>(zeros), '0');
         number.exponent = 0;
     }
     number.digits.insert(0, 1, '0');
-    const auto keep = static_cast<std::size_t>(1 + number.exponent + decimals);
+    const std::size_t whole = static_cast<std::size_t>(number.exponent) + 1;
+    const std::size_t keep = whole + static_cast<std::size_t>(decimals);
     const bool roundUp = keep < number.digits.size() && number.digits[keep] >= '5';
     number.digits.resize(keep, '0');
     if (roundUp) {
@@ -94,7 +96,6 @@ Text formatFixed(double value, int decimals) {
         ++number.digits[i];
     }
     Text result = std::signbit(value) ? "-" : "";
-    const auto whole = static_cast<std::size_t>(1 + number.exponent);
     const std::size_t first = std::min(number.digits.find_first_not_of('0'), whole - 1);
     result.append(number.digits, first, whole - first);
     if (decimals > 0) result.append(1, '.').append(number.digits, whole);

@@ -29,5 +29,10 @@ constexpr ControlTemplate radioButton(int id, std::string_view text, UnitRect ar
 constexpr ControlTemplate plain(ControlKind kind, int id, UnitRect area, unsigned style = 0) {
     return {kind, id, {}, area, style};
 }
+// Pictures and lists that no label names: the name is not to be seen, programs find them by it.
+constexpr ControlTemplate named(ControlKind kind, int id, std::string_view name, UnitRect area,
+                                unsigned style = 0) {
+    return {kind, id, name, area, style};
+}
 
 }  // namespace lx::controls

@@ -10,7 +10,7 @@ namespace {
 // The tab control holds the largest page below two rows of tabs.
 constexpr ControlTemplate designControls[] = {
     plain(ControlKind::tabControl, id::tabs, {333, 7, 200, 296}),
-    plain(ControlKind::picture, id::sectionPreview, {7, 7, 319, 243},
+    named(ControlKind::picture, id::sectionPreview, "section", {7, 7, 319, 243},
           style::focusable | style::border),
     plain(ControlKind::editableCombo, id::inPlaceBox, {12, 20, 48, 12}, style::hidden),
     label(id::propertiesLabel, "Vlastnosti:"_cz, {7, 256, 60, 8}),
@@ -25,7 +25,8 @@ constexpr ControlTemplate designControls[] = {
 };
 
 constexpr ControlTemplate geometryControls[] = {
-    plain(ControlKind::picture, id::planPreview, {4, 4, 180, 96}, style::focusable | style::border),
+    named(ControlKind::picture, id::planPreview, "plan", {4, 4, 180, 96},
+          style::focusable | style::border),
     iconButton(id::bendNone, {4, 104, 28, 22}),
     iconButton(id::bend1, {34, 104, 28, 22}),
     iconButton(id::bend2, {64, 104, 28, 22}),
@@ -48,7 +49,8 @@ constexpr ControlTemplate precastControls[] = {
     button(id::precastCompose, "Skladba automaticky"_cz, {4, 4, 178, 14}),
     label(id::precastTypeLabel, "Typ:"_cz, {4, 24, 30, 8}),
     plain(ControlKind::dropDownList, id::precastType, {36, 22, 146, 12}),
-    plain(ControlKind::listBox, id::precastOffer, {36, 40, 146, 113}, style::verticalScroll),
+    named(ControlKind::listBox, id::precastOffer, "offer", {36, 40, 146, 113},
+          style::verticalScroll),
     iconButton(id::precastAdd, {4, 40, 26, 26}),
     iconButton(id::precastRemove, {4, 69, 26, 26}, style::disabled),
     iconButton(id::precastInsulation, {4, 98, 26, 26}, style::disabled),
@@ -60,7 +62,7 @@ constexpr ControlTemplate steelControls[] = {
     button(id::steelCompose, "Skladba automaticky"_cz, {4, 4, 178, 14}),
     label(id::steelTypeLabel, "Typ:"_cz, {4, 24, 30, 8}),
     plain(ControlKind::dropDownList, id::steelType, {36, 22, 146, 12}),
-    plain(ControlKind::listBox, id::steelOffer, {36, 40, 146, 113}, style::verticalScroll),
+    named(ControlKind::listBox, id::steelOffer, "offer", {36, 40, 146, 113}, style::verticalScroll),
     iconButton(id::steelAdd, {4, 40, 26, 26}),
     iconButton(id::steelRemove, {4, 69, 26, 26}),
     iconButton(id::steelInsulation, {4, 98, 26, 26}),
@@ -80,7 +82,8 @@ constexpr ControlTemplate libraryControls[] = {
     button(id::newProject, "Nová..."_cz, {138, 3, 44, 14}),
     label(id::storedLabel, "Použité překlady:"_cz, {4, 23, 84, 8}),
     button(id::makeDefault, "Nastavit jako výchozí"_cz, {92, 20, 90, 12}, style::hidden),
-    plain(ControlKind::listBox, id::storedDesigns, {4, 34, 178, 121}, style::verticalScroll),
+    named(ControlKind::listBox, id::storedDesigns, "stored designs", {4, 34, 178, 121},
+          style::verticalScroll),
     checkBox(id::checkBearing, "Kontrola min. délky uložení prefa překladů"_cz, {4, 160, 178, 10}),
 };
 

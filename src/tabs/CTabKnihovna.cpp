@@ -17,8 +17,6 @@ CTabKnihovna::CTabKnihovna(DesignServices& services)
     for (const int control : {id::projects, id::newProject, id::storedDesigns, id::makeDefault}) {
         m_window->item(control).enable(false);
     }
-    showProjects();
-    showDesigns();
 }
 
 void CTabKnihovna::showProjects() {

@@ -17,6 +17,9 @@ TEST(Records, ACopyStandsAlone) {
     EXPECT_EQ(head.bends->next->step, -30);
     EXPECT_TRUE(head.bends->next->flag);
 
+    design.head()->itemIndex = -1;
+    EXPECT_EQ(design.head()->label().size(), 3U);
+
     CRez lintel(*design.head()->next);
     EXPECT_EQ(lintel.level, 0);
     EXPECT_EQ(lintel.next, nullptr);

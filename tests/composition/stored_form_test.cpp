@@ -81,6 +81,9 @@ TEST(StoredForm, CutShortAnywhereKeepsWhatWasRead) {
         EXPECT_EQ(designBytes(head).substr(0, start), bytes.substr(0, start)) << size;
         EXPECT_TRUE(size < 16 || head->width == 300) << size;
     }
+    // A bend without its run, and a letter that is not there.
+    EXPECT_FALSE(readBytes(bytes.substr(0, 52 + 7)).design.head()->bends);
+    EXPECT_EQ(readBytes(bytes.substr(0, 145)).design.last()->letter, ' ');
 }
 
 TEST(StoredForm, WhatIsNoDesignIsLeftOut) {

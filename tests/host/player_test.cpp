@@ -196,10 +196,8 @@ TEST_F(PlayerTest, FilesAndSettingsAreSetUpAndCompared) {
                    "expect same data:a.txt library:b.txt contains \"first difference at 4\"\n"
                    "bytes temp:c 00 ff\nexpect file-bytes temp:c is \"00 FF\"\n"
                    "remove temp:c\nexpect files temp: is\n"
-                   "expect files out: is library catalogue profile temp\n")
-                  .find("test.scenario:14: expected \"files\" \"out:\""),
-              0U)
-        << "names are sorted";
+                   "expect files out: is catalogue library profile temp\n"),
+              "");
     EXPECT_EQ(play("expect files library: is\n"), "") << "each scenario begins with empty folders";
     EXPECT_EQ(play("cut data:a 3\n").rfind("test.scenario:1: cannot read", 0), 0U);
     EXPECT_EQ(play("file nowhere:a b\n").rfind("test.scenario:1: ", 0), 0U);

@@ -37,6 +37,8 @@ TEST_F(DesignDialog, OpensWithAProposedNameAndCancelLeavesTheRestAsItWas) {
     EXPECT_EQ(resultText, "");
     EXPECT_EQ(resultA, 6);
     EXPECT_EQ(resultB, 1);
+    // Asked for although nothing is written.
+    EXPECT_EQ(bench.host().lockRequests.size(), 1U);
     EXPECT_EQ(get(dialogFile, "DLG_SET", "num_bub"), "ABCDE");
     EXPECT_EQ(get(dialogFile, "DLG_SET", "tab"), "none");
     EXPECT_FALSE(bench.read(path(userFile)));

@@ -309,7 +309,10 @@ void HeadlessDriver::key(std::string_view name) {
 
 void HeadlessDriver::mouseMove(ControlName name, ScreenPoint p, bool leftDown) {
     attempt([&] {
-        if (name.empty()) return dialog().userMouseMove({p.x, p.y}, leftDown);
+        if (name.empty()) {
+            m_mouse = Point{p.x, p.y};
+            return dialog().userMouseMove({p.x, p.y}, leftDown);
+        }
         picture(name).userMouseMove({p.x, p.y}, leftDown);
     });
 }

@@ -3,6 +3,7 @@
 
 #include <deque>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -106,6 +107,7 @@ private:
 
     HeadlessPlatform& m_platform;
     std::function<bool(Driver&)> m_next;
+    std::optional<Point> m_mouse;            // last in a dialog's own client area
     std::deque<std::string> m_popupChoices;  // for menus that are yet to open
     std::size_t m_strandedBefore = 0;
 };

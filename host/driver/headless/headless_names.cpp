@@ -30,7 +30,9 @@ bool isNamedByLabel(ControlKind kind) {
 
 bool isNamedByItsText(ControlKind kind) {
     return kind == ControlKind::button || kind == ControlKind::iconButton ||
-           kind == ControlKind::checkBox || kind == ControlKind::radioButton;
+           kind == ControlKind::checkBox || kind == ControlKind::radioButton ||
+           kind == ControlKind::picture || kind == ControlKind::listBox ||
+           kind == ControlKind::listView;
 }
 
 std::string kindName(ControlKind kind) {

@@ -237,7 +237,9 @@ std::string HeadlessDriver::tooltip(ControlName name) {
 }
 
 std::string HeadlessDriver::cursor(ControlName name) {
-    return cursorName(name.empty() ? dialog().cursor() : picture(name).cursor());
+    if (!name.empty()) return cursorName(picture(name).cursor());
+    const HeadlessDialog& top = dialog();
+    return cursorName(m_mouse && top.onCursor ? top.cursorAt(*m_mouse) : top.cursor());
 }
 
 std::string HeadlessDriver::clipboard() {

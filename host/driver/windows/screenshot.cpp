@@ -11,10 +11,14 @@ namespace {
 
 constexpr int margin = 12;  // pixels of what stands around
 
+// Dialogs, message boxes, menus and tooltips pop up; the host program's own window does not.
 BOOL CALLBACK addArea(HWND window, LPARAM parameter) {
     auto& all = *reinterpret_cast<RECT*>(parameter);
     RECT area{};
-    if (IsWindowVisible(window) && GetWindowRect(window, &area)) UnionRect(&all, &all, &area);
+    const bool popsUp = (GetWindowLongPtrW(window, GWL_STYLE) & WS_POPUP) != 0;
+    if (popsUp && IsWindowVisible(window) && GetWindowRect(window, &area)) {
+        UnionRect(&all, &all, &area);
+    }
     return TRUE;
 }
 

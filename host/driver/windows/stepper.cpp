@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "host/driver/driver.h"
 #include "host/driver/windows/menus.h"
 
 namespace lx::host {
@@ -81,7 +82,7 @@ Stepper::Stepper(int limitMilliseconds) : m_limit(limitMilliseconds) {}
 Stepper::~Stepper() {
     drive(nullptr);
     for (const auto& level : m_spare) DeleteFiber(level->fiber);
-    if (m_converted) ConvertFiberToThread();
+    if (m_windowsFiber != nullptr) ConvertFiberToThread();
 }
 
 void Stepper::drive(std::function<void()> next) {
@@ -94,9 +95,8 @@ void Stepper::drive(std::function<void()> next) {
     if (active == this) active = nullptr;
     if (!m_next) return;
     if (m_windowsFiber == nullptr) {
-        m_converted = !IsThreadAFiber();
-        m_windowsFiber = m_converted ? ConvertThreadToFiberEx(nullptr, FIBER_FLAG_FLOAT_SWITCH)
-                                     : GetCurrentFiber();
+        m_windowsFiber = ConvertThreadToFiberEx(nullptr, FIBER_FLAG_FLOAT_SWITCH);
+        if (m_windowsFiber == nullptr) throw DriverError("the thread of the windows has a driver");
     }
     active = this;
     m_timer = SetTimer(nullptr, 0, tickMilliseconds, onTimer);

@@ -69,7 +69,6 @@ private:
     UINT_PTR m_timer = 0;
     HHOOK m_hook = nullptr;
     void* m_windowsFiber = nullptr;
-    bool m_converted = false;
     // The steps under way, each in front of what the one before it opened.
     std::vector<std::unique_ptr<Level>> m_levels;
     std::vector<std::unique_ptr<Level>> m_spare;

@@ -74,7 +74,8 @@ bool isNamedByLabel(Kind kind) {
 }
 
 bool isNamedByItsText(Kind kind) {
-    return kind == Kind::pushButton || kind == Kind::checkBox || kind == Kind::radioButton;
+    return kind == Kind::pushButton || kind == Kind::checkBox || kind == Kind::radioButton ||
+           kind == Kind::picture || kind == Kind::listBox || kind == Kind::listView;
 }
 
 void collect(HWND parent, std::vector<HWND>& found) {
@@ -153,7 +154,7 @@ std::string kindName(Kind kind) {
     return names[static_cast<std::size_t>(kind)];
 }
 
-std::string inQuotes(std::string_view text) {
+std::string quotedName(std::string_view text) {
     return "\"" + std::string(text) + "\"";
 }
 

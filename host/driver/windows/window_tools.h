@@ -33,7 +33,7 @@ enum class Kind {
 Kind kindOf(HWND window);
 std::string kindName(Kind kind);
 
-std::string inQuotes(std::string_view text);
+std::string quotedName(std::string_view text);
 std::string windowText(HWND window);
 // Without the "&" of a mnemonic.
 std::string plainText(HWND window);

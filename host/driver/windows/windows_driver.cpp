@@ -75,7 +75,7 @@ HWND WindowsDriver::topDialog() {
 HWND WindowsDriver::actingDialog() {
     const HWND dialog = topDialog();
     if (m_stepper->popup() != nullptr) {
-        throw DriverError("a popup menu is open in front of " + inQuotes(windowText(dialog)));
+        throw DriverError("a popup menu is open in front of " + quotedName(windowText(dialog)));
     }
     return dialog;
 }
@@ -84,7 +84,8 @@ HWND WindowsDriver::control(ControlName name) {
     const HWND dialog = topDialog();
     const HWND found = findControl(dialog, name);
     if (found == nullptr) {
-        throw DriverError("there is no control " + inQuotes(name) + " in " + dumpControls(dialog));
+        throw DriverError("there is no control " + quotedName(name) + " in " +
+                          dumpControls(dialog));
     }
     return found;
 }
@@ -92,7 +93,7 @@ HWND WindowsDriver::control(ControlName name) {
 HWND WindowsDriver::reachable(ControlName name, std::string_view act) {
     actingDialog();
     const HWND window = control(name);
-    const std::string what = std::string(act) + " " + inQuotes(name) + ": the control is ";
+    const std::string what = std::string(act) + " " + quotedName(name) + ": the control is ";
     if (!IsWindowVisible(window)) throw DriverError(what + "hidden");
     if (!IsWindowEnabled(window) || !IsWindowEnabled(GetParent(window))) {
         throw DriverError(what + "disabled");
@@ -124,7 +125,7 @@ void WindowsDriver::expectDialog(std::string_view wanted) {
     const HWND dialog = m_stepper->dialog();
     const std::string there =
         dialog == nullptr ? std::string("no dialog is open") : "on top is " + dumpControls(dialog);
-    throw DriverError("waited for the dialog " + inQuotes(wanted) + ", but " + there);
+    throw DriverError("waited for the dialog " + quotedName(wanted) + ", but " + there);
 }
 
 bool WindowsDriver::anyDialogOpen() {
@@ -144,7 +145,7 @@ MessageBoxLook WindowsDriver::messageBox() {
         const HWND dialog = m_stepper->dialog();
         throw DriverError("waited for a message box, but " +
                           (dialog == nullptr ? std::string("no dialog is open")
-                                             : "on top is " + inQuotes(windowText(dialog))));
+                                             : "on top is " + quotedName(windowText(dialog))));
     }
     const HWND box = m_stepper->dialog();
     MessageBoxLook look;
@@ -168,8 +169,8 @@ void WindowsDriver::answer(std::string_view button) {
         m_stepper->rest();
         return;
     }
-    throw DriverError("the message box " + inQuotes(look.text) + " has no button " +
-                      inQuotes(button));
+    throw DriverError("the message box " + quotedName(look.text) + " has no button " +
+                      quotedName(button));
 }
 
 void WindowsDriver::closeDialog() {
@@ -207,7 +208,7 @@ ScreenSize WindowsDriver::dialogSize() {
 void WindowsDriver::resizeDialog(ScreenSize outer) {
     const HWND dialog = actingDialog();
     if ((GetWindowLongPtrW(dialog, GWL_STYLE) & WS_THICKFRAME) == 0) {
-        throw DriverError("the dialog " + inQuotes(windowText(dialog)) + " cannot be resized");
+        throw DriverError("the dialog " + quotedName(windowText(dialog)) + " cannot be resized");
     }
     MINMAXINFO bounds{};
     SendMessageW(dialog, WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&bounds));
@@ -315,7 +316,7 @@ bool WindowsDriver::step(const std::function<bool(Driver&)>& next) {
     m_givenUp = true;
     if (!m_abandoned.empty()) m_abandoned += "\n";
     m_abandoned += m_stepper->popup() != nullptr ? std::string("a popup menu")
-                                                 : inQuotes(windowText(m_stepper->dialog()));
+                                                 : quotedName(windowText(m_stepper->dialog()));
     return true;
 }
 

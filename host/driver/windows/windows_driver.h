@@ -107,6 +107,7 @@ private:
 
     int m_limit;
     std::unique_ptr<Stepper> m_stepper;
+    std::string m_mouseAt;                   // "x y", last in a dialog's own client area
     std::vector<std::string> m_armedPopups;  // chosen as menus open
     std::string m_abandoned;
     unsigned long long m_idleSince = 0;  // 0 = a step was done last

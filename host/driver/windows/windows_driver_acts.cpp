@@ -41,6 +41,22 @@ std::wstring withSingleLineEnds(std::wstring_view text) {
     return result;
 }
 
+// The control in that window that the mouse would meet there; labels and frames let it through.
+HWND childAt(HWND window, POINT p) {
+    MapWindowPoints(window, nullptr, &p, 1);
+    for (HWND child = GetWindow(window, GW_CHILD); child != nullptr;
+         child = GetWindow(child, GW_HWNDNEXT)) {
+        RECT area{};
+        GetWindowRect(child, &area);
+        const Kind kind = kindOf(child);
+        if (IsWindowVisible(child) && PtInRect(&area, p) && kind != Kind::label &&
+            kind != Kind::groupBox && kind != Kind::icon) {
+            return child;
+        }
+    }
+    return nullptr;
+}
+
 bool isChecked(HWND box) {
     return SendMessageW(box, BM_GETCHECK, 0, 0) == BST_CHECKED;
 }
@@ -53,7 +69,7 @@ void WindowsDriver::press(ControlName button) {
     const HWND window = reachable(button, "press");
     if (!isPushButton(window) && kindOf(window) != Kind::checkBox &&
         kindOf(window) != Kind::radioButton) {
-        throw DriverError("press " + inQuotes(button) + ": a " + kindName(kindOf(window)) +
+        throw DriverError("press " + quotedName(button) + ": a " + kindName(kindOf(window)) +
                           " cannot be pressed");
     }
     PostMessageW(window, BM_CLICK, 0, 0);
@@ -64,12 +80,12 @@ void WindowsDriver::check(ControlName box, bool on) {
     const HWND window = reachable(box, "check");
     const Kind kind = kindOf(window);
     if (kind != Kind::checkBox && kind != Kind::radioButton) {
-        throw DriverError("check " + inQuotes(box) + ": a " + kindName(kind) +
+        throw DriverError("check " + quotedName(box) + ": a " + kindName(kind) +
                           " cannot be checked");
     }
     if (isChecked(window) == on) return;
     if (!on && kind == Kind::radioButton) {
-        throw DriverError("check " + inQuotes(box) + ": a radio button cannot be cleared");
+        throw DriverError("check " + quotedName(box) + ": a radio button cannot be cleared");
     }
     PostMessageW(window, BM_CLICK, 0, 0);
     m_stepper->rest();
@@ -84,10 +100,10 @@ bool WindowsDriver::checked(ControlName box) {
 HWND WindowsDriver::list(ControlName name, int row) {
     const HWND window = control(name);
     if (!isList(window)) {
-        throw DriverError(inQuotes(name) + " is a " + kindName(kindOf(window)) + ", not a list");
+        throw DriverError(quotedName(name) + " is a " + kindName(kindOf(window)) + ", not a list");
     }
     if (row >= rowCountOf(window) || row < 0) {
-        throw DriverError("row " + std::to_string(row) + " of " + inQuotes(name) +
+        throw DriverError("row " + std::to_string(row) + " of " + quotedName(name) +
                           ": the list has " + std::to_string(rowCountOf(window)) + " rows");
     }
     return window;
@@ -96,7 +112,7 @@ HWND WindowsDriver::list(ControlName name, int row) {
 HWND WindowsDriver::listView(ControlName name) {
     const HWND window = control(name);
     if (kindOf(window) != Kind::listView) {
-        throw DriverError(inQuotes(name) + " is a " + kindName(kindOf(window)) +
+        throw DriverError(quotedName(name) + " is a " + kindName(kindOf(window)) +
                           ", which has no headings");
     }
     return window;
@@ -114,10 +130,10 @@ void WindowsDriver::selectRow(ControlName name, std::string_view row) {
         for (int i = 0; i < std::min(rowCountOf(window), 30); ++i) {
             rows += "\n" + rowTextOf(window, i);
         }
-        throw DriverError("there is no row " + inQuotes(row) + " in " + inQuotes(name) +
+        throw DriverError("there is no row " + quotedName(row) + " in " + quotedName(name) +
                           "; its rows are" + rows);
     }
-    throw DriverError(inQuotes(name) + " is a " + kindName(kindOf(window)) + ", not a list");
+    throw DriverError(quotedName(name) + " is a " + kindName(kindOf(window)) + ", not a list");
 }
 
 void WindowsDriver::selectRowAt(ControlName name, int row) {
@@ -182,7 +198,7 @@ void WindowsDriver::clickHeading(ControlName name, std::string_view heading) {
         m_stepper->rest();
         return;
     }
-    throw DriverError("there is no heading " + inQuotes(heading) + " in " + inQuotes(name));
+    throw DriverError("there is no heading " + quotedName(heading) + " in " + quotedName(name));
 }
 
 void WindowsDriver::setColumnWidth(ControlName name, int column, int pixels) {
@@ -207,7 +223,7 @@ void WindowsDriver::selectTab(std::string_view wanted) {
     for (const HWND window : controlsOf(actingDialog())) {
         if (kindOf(window) != Kind::tabControl) continue;
         const int tab = rowOf(window, wanted);
-        if (tab < 0) throw DriverError("there is no tab " + inQuotes(wanted));
+        if (tab < 0) throw DriverError("there is no tab " + quotedName(wanted));
         postClick(window, pointInRow(window, tab));
         m_stepper->rest();
         return;
@@ -237,28 +253,21 @@ HWND WindowsDriver::focusedWindow() {
         m_stepper->act([=] { SetActiveWindow(dialog); });
     }
     if (!inside()) {
-        throw DriverError("nothing has the focus in " + inQuotes(windowText(dialog)));
+        throw DriverError("nothing has the focus in " + quotedName(windowText(dialog)));
     }
     return GetFocus();
 }
 
 void WindowsDriver::type(std::string_view utf8) {
-    const std::wstring text = withSingleLineEnds(toWide(utf8));
-    for (std::size_t at = 0; at < text.size();) {
+    // Key by key, as a keyboard gives them: what a key types is there before the next one is seen.
+    for (const wchar_t character : withSingleLineEnds(toWide(utf8))) {
         const HWND window = focusedWindow();
-        const std::optional<KeyPress> first = keyTyping(text[at]);
-        const HeldKeys held(first.value_or(KeyPress{}));
-        // As many as need the same keys held.
-        for (; at < text.size(); ++at) {
-            const std::optional<KeyPress> press = keyTyping(text[at]);
-            if (press.has_value() != first.has_value() || (press && press->shift != first->shift)) {
-                break;
-            }
-            if (press) {
-                postKey(window, *press);
-            } else {
-                PostMessageW(window, WM_CHAR, text[at], 1);
-            }
+        const std::optional<KeyPress> press = keyTyping(character);
+        const HeldKeys held(press.value_or(KeyPress{}));
+        if (press) {
+            postKey(window, *press);
+        } else {
+            PostMessageW(window, WM_CHAR, character, 1);
         }
         m_stepper->rest();
     }
@@ -266,7 +275,7 @@ void WindowsDriver::type(std::string_view utf8) {
 
 void WindowsDriver::key(std::string_view name) {
     const std::optional<KeyPress> press = keyNamed(name);
-    if (!press) throw DriverError("there is no key " + inQuotes(name));
+    if (!press) throw DriverError("there is no key " + quotedName(name));
     const HWND window = focusedWindow();
     const HeldKeys held(*press);
     postKey(window, *press);
@@ -278,8 +287,8 @@ void WindowsDriver::key(std::string_view name) {
 void WindowsDriver::chooseMenu(std::string_view path) {
     const HWND dialog = actingDialog();
     const MenuPlace place = findMenuEntry(GetMenu(dialog), path);
-    if (place.position < 0) throw DriverError("there is no menu entry " + inQuotes(path));
-    if (!place.enabled) throw DriverError("the menu entry " + inQuotes(path) + " is grey");
+    if (place.position < 0) throw DriverError("there is no menu entry " + quotedName(path));
+    if (!place.enabled) throw DriverError("the menu entry " + quotedName(path) + " is grey");
     const UINT command = GetMenuItemID(place.menu, place.position);
     PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(command, 0), 0);
     m_stepper->rest();
@@ -302,17 +311,17 @@ void WindowsDriver::chooseFromPopup(const std::string& path) {
     for (const std::string& part : parts) {
         const HWND menu = m_stepper->popup();
         if (menu == nullptr)
-            throw DriverError("the popup menu has closed before " + inQuotes(part));
+            throw DriverError("the popup menu has closed before " + quotedName(part));
         const MenuPlace place = findMenuEntry(menuOfPopup(menu), part);
-        if (place.position < 0) throw DriverError("there is no popup entry " + inQuotes(part));
-        if (!place.enabled) throw DriverError("the popup entry " + inQuotes(part) + " is grey");
+        if (place.position < 0) throw DriverError("there is no popup entry " + quotedName(part));
+        if (!place.enabled) throw DriverError("the popup entry " + quotedName(part) + " is grey");
         const int entries = GetMenuItemCount(place.menu);
         for (int i = 0; i <= entries && !isHighlighted(place); ++i) {
             postPopupKey(VK_DOWN);
             m_stepper->pause();
         }
         if (!isHighlighted(place)) {
-            throw DriverError("the popup entry " + inQuotes(part) + " cannot be reached");
+            throw DriverError("the popup entry " + quotedName(part) + " cannot be reached");
         }
         postPopupKey(VK_RETURN);
         if (&part == &parts.back()) {
@@ -353,11 +362,11 @@ HWND WindowsDriver::mouseTarget(ControlName picture, ScreenPoint& p, bool press)
     GetClientRect(window, &client);
     if (press && !PtInRect(&client, point)) {
         throw DriverError("the point " + std::to_string(p.x) + " " + std::to_string(p.y) +
-                          " lies outside " + inQuotes(picture));
+                          " lies outside " + quotedName(picture));
     }
-    if (press && ChildWindowFromPointEx(window, point, CWP_SKIPINVISIBLE) != window) {
+    if (press && childAt(window, point) != nullptr) {
         throw DriverError("a control stands at the point " + std::to_string(p.x) + " " +
-                          std::to_string(p.y) + " of " + inQuotes(picture));
+                          std::to_string(p.y) + " of " + quotedName(picture));
     }
     const HWND captor = GetCapture();
     if (captor == nullptr || captor == window) return window;
@@ -367,7 +376,10 @@ HWND WindowsDriver::mouseTarget(ControlName picture, ScreenPoint& p, bool press)
 }
 
 void WindowsDriver::mouseMove(ControlName picture, ScreenPoint p, bool leftDown) {
+    if (picture.empty()) m_mouseAt = std::to_string(p.x) + " " + std::to_string(p.y);
     const HWND window = mouseTarget(picture, p, false);
+    // Over a control that stands there, the move is that control's.
+    if (GetCapture() != window && childAt(window, {p.x, p.y}) != nullptr) return;
     PostMessageW(window, WM_MOUSEMOVE, leftDown ? MK_LBUTTON : 0, MAKELPARAM(p.x, p.y));
     m_stepper->rest();
 }

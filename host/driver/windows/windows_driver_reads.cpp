@@ -147,7 +147,9 @@ std::string WindowsDriver::tooltip(ControlName name) {
 }
 
 std::string WindowsDriver::cursor(ControlName picture) {
-    return ask(picture.empty() ? topDialog() : control(picture), DescribeQuestion::cursor);
+    if (!picture.empty()) return ask(control(picture), DescribeQuestion::cursor);
+    const char* const point = m_mouseAt.empty() ? nullptr : m_mouseAt.c_str();
+    return ask(topDialog(), DescribeQuestion::cursor, 0, point);
 }
 
 std::string WindowsDriver::drawing(ControlName picture) {

@@ -16,10 +16,15 @@ constexpr Color grey{150, 150, 150};
 constexpr Color caption{60, 90, 140};
 constexpr Color highlight{0, 120, 215};
 constexpr int lineHeight = 13;
-constexpr Font dialogFont{.dialogFont = true};
+
+Font dialogFont() {
+    Font font;
+    font.dialogFont = true;
+    return font;
+}
 
 int textWidth(std::string_view text) {
-    return RecordingCanvas::measure(dialogFont, text).width;
+    return RecordingCanvas::measure(dialogFont(), text).width;
 }
 
 // Draws in the coordinates of the area that it was made for; what sticks out is cut off.
@@ -30,7 +35,7 @@ public:
         m_out += "<svg x=\"" + formatInt(area.left) + "\" y=\"" + formatInt(area.top) +
                  "\" width=\"" + formatInt(std::max(0, area.width())) + "\" height=\"" +
                  formatInt(std::max(0, area.height())) + "\">\n";
-        m_canvas.setFont(dialogFont);
+        m_canvas.setFont(dialogFont());
     }
     ~Area() { m_out += m_canvas.svgElements() + "</svg>\n"; }
     Area(const Area&) = delete;
@@ -119,10 +124,11 @@ void draw(Area& area, const HeadlessEdit& edit) {
     const Point at{
         4, edit.kind() == ControlKind::multilineEdit ? 3 : (area.height() - lineHeight) / 2};
     if (edit.focused() && edit.kind() == ControlKind::edit) {
-        const auto left = at.x + textWidth(std::string_view(text).substr(
-                                     0, static_cast<std::size_t>(selection.begin)));
-        const auto right = at.x + textWidth(std::string_view(text).substr(
-                                      0, static_cast<std::size_t>(selection.end)));
+        const auto placeOf = [&](int offset) {
+            return at.x + textWidth(text.substr(0, static_cast<std::size_t>(offset)));
+        };
+        const int left = placeOf(selection.begin);
+        const int right = placeOf(selection.end);
         area.fill({left, at.y, std::max(right, left + 1), at.y + lineHeight}, {170, 205, 240});
     }
     area.lines(at, text, inkOf(edit));
@@ -193,10 +199,14 @@ void draw(Area& area, const HeadlessListView& view) {
 
 void draw(Area& area, const HeadlessTabControl& tabs) {
     area.frame({0, HeadlessTabControl::headerHeight, area.width() - 1, area.height() - 1}, grey);
-    int left = 2;
+    const auto widthOf = [&](int i) { return textWidth(tabs.tabTitle(i)) + 12; };
+    // Tabs that do not fit are scrolled so that the selected one is seen.
+    int end = 2;
+    for (int i = 0; i <= tabs.selected(); ++i) end += widthOf(i);
+    int left = 2 - std::max(0, end - area.width());
     for (int i = 0; i < tabs.count(); ++i) {
         const Text title = tabs.tabTitle(i);
-        const int right = left + textWidth(title) + 12;
+        const int right = left + widthOf(i);
         const bool selected = i == tabs.selected();
         area.fill({left, selected ? 0 : 2, right, HeadlessTabControl::headerHeight},
                   selected ? paper : face);
@@ -244,8 +254,11 @@ void drawControl(std::string& out, const HeadlessControl& control) {
     if (control.kind() == ControlKind::label) return drawLabel(area, control);
     // A picture's own drawing stands behind the frame, as elements of this area.
     if (const auto* picture = dynamic_cast<const HeadlessPicture*>(&control)) {
+        const bool border = (picture->style() & style::border) != 0;
+        if (border) out += "<svg x=\"2\" y=\"2\">\n";
         if (picture->drawing()) out += picture->drawing()->svgElements();
-        if (picture->style() & style::border) area.frame(grey);
+        if (border) out += "</svg>\n";
+        if (border) area.frame(grey);
     }
 }
 

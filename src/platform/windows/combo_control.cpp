@@ -112,7 +112,9 @@ void WindowsComboBox::remove(int index) {
     if (editable()) setText(shown);
 }
 
-int WindowsComboBox::count() const { return static_cast<int>(m_items.size()); }
+int WindowsComboBox::count() const {
+    return static_cast<int>(m_items.size());
+}
 
 Text WindowsComboBox::item(int index) const {
     return index >= 0 && index < count() ? m_items[static_cast<std::size_t>(index)] : Text();
@@ -137,6 +139,7 @@ int WindowsComboBox::selected() const {
 
 void WindowsComboBox::dropDown(bool open) {
     const Setting guard(*this);
+    m_selectedAtOpening = open ? std::optional(selected()) : std::nullopt;
     send(CB_SHOWDROPDOWN, open);
     // Opening hides the mouse pointer until it moves.
     if (open) SetCursor(LoadCursorW(nullptr, IDC_ARROW));
@@ -152,9 +155,14 @@ bool WindowsComboBox::wantsKey(int key) const {
 }
 
 void WindowsComboBox::command(WORD code) {
-    // Esc in an open list puts the old item back, of which only the closing tells.
-    const bool closed = code == CBN_CLOSEUP && !editable();
-    if (code == CBN_SELCHANGE || closed) userSelected();
+    if (code == CBN_DROPDOWN) m_selectedAtOpening = selected();
+    if (code == CBN_SELENDCANCEL && m_selectedAtOpening && !editable()) {
+        // Esc in an open list puts the old item back; not every version of the system does.
+        send(CB_SETCURSEL, static_cast<WPARAM>(*m_selectedAtOpening));
+        userSelected();
+    }
+    if (code == CBN_CLOSEUP) m_selectedAtOpening.reset();
+    if (code == CBN_SELCHANGE) userSelected();
     if (code == CBN_EDITCHANGE) {
         m_selected = selected();
         fire(onChange);

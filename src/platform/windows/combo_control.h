@@ -36,8 +36,9 @@ private:
     void growForList();
     void userSelected();
 
-    std::vector<Text> m_items;  // the order of the list
-    int m_selected = -1;         // as last told or set
+    std::vector<Text> m_items;               // the order of the list
+    int m_selected = -1;                     // as last told or set
+    std::optional<int> m_selectedAtOpening;  // while the list is open
     bool m_choosing = false;
     HWND m_field = nullptr;
     WNDPROC m_fieldInherited = nullptr;

@@ -14,9 +14,12 @@ bool kindTakesTab(ControlKind kind, unsigned styleBits) {
     switch (kind) {
         case ControlKind::label:
         case ControlKind::groupBox:
-        case ControlKind::icon: return false;
-        case ControlKind::picture: return (styleBits & style::focusable) != 0;
-        default: return (styleBits & style::noTabStop) == 0;
+        case ControlKind::icon:
+            return false;
+        case ControlKind::picture:
+            return (styleBits & style::focusable) != 0;
+        default:
+            return (styleBits & style::noTabStop) == 0;
     }
 }
 
@@ -30,12 +33,18 @@ LRESULT answerDescribe(const DescribeRequest& request, const Text& answer) {
 
 const char* cursorName(CursorShape shape) {
     switch (shape) {
-        case CursorShape::hand: return "hand";
-        case CursorShape::upArrow: return "upArrow";
-        case CursorShape::splitLeftRight: return "splitLeftRight";
-        case CursorShape::splitUpDown: return "splitUpDown";
-        case CursorShape::text: return "text";
-        case CursorShape::arrow: break;
+        case CursorShape::hand:
+            return "hand";
+        case CursorShape::upArrow:
+            return "upArrow";
+        case CursorShape::splitLeftRight:
+            return "splitLeftRight";
+        case CursorShape::splitUpDown:
+            return "splitUpDown";
+        case CursorShape::text:
+            return "text";
+        case CursorShape::arrow:
+            break;
     }
     return "arrow";
 }
@@ -43,12 +52,23 @@ const char* cursorName(CursorShape shape) {
 HCURSOR systemCursor(CursorShape shape) {
     const wchar_t* name = IDC_ARROW;
     switch (shape) {
-        case CursorShape::hand: name = IDC_HAND; break;
-        case CursorShape::upArrow: name = IDC_UPARROW; break;
-        case CursorShape::splitLeftRight: name = IDC_SIZEWE; break;
-        case CursorShape::splitUpDown: name = IDC_SIZENS; break;
-        case CursorShape::text: name = IDC_IBEAM; break;
-        case CursorShape::arrow: break;
+        case CursorShape::hand:
+            name = IDC_HAND;
+            break;
+        case CursorShape::upArrow:
+            name = IDC_UPARROW;
+            break;
+        case CursorShape::splitLeftRight:
+            name = IDC_SIZEWE;
+            break;
+        case CursorShape::splitUpDown:
+            name = IDC_SIZENS;
+            break;
+        case CursorShape::text:
+            name = IDC_IBEAM;
+            break;
+        case CursorShape::arrow:
+            break;
     }
     return LoadCursorW(nullptr, name);
 }
@@ -66,7 +86,9 @@ ControlCore::ControlCore(WindowsDialog& dialog, const ControlTemplate& layout)
 
 ControlCore::~ControlCore() = default;
 
-WindowsPlatform& ControlCore::platform() const { return m_dialog.platform(); }
+WindowsPlatform& ControlCore::platform() const {
+    return m_dialog.platform();
+}
 
 void ControlCore::create(bool startsGroup) {
     if (!m_dialog.window()) return;
@@ -175,7 +197,9 @@ void ControlCore::doSetText(std::string_view text) {
     SetWindowTextW(m_window, wide(text).c_str());
 }
 
-Text ControlCore::doText() const { return m_window ? windowText() : m_text; }
+Text ControlCore::doText() const {
+    return m_window ? windowText() : m_text;
+}
 
 bool ControlCore::containsFocus() const {
     const ControlCore* focused = m_dialog.root().focusCore();
@@ -215,7 +239,9 @@ void ControlCore::doFocus() {
     if (isEnabled() && isReachable()) m_dialog.root().moveFocusQuietly(this);
 }
 
-bool ControlCore::doFocused() const { return m_dialog.root().focusCore() == this; }
+bool ControlCore::doFocused() const {
+    return m_dialog.root().focusCore() == this;
+}
 
 void ControlCore::doSetArea(const Rect& area) {
     m_area = area;
@@ -252,7 +278,9 @@ void ControlCore::doMoveInto(Control* parent) {
     attachTo(host ? host->window() : m_dialog.window());
 }
 
-void ControlCore::goHome() { doMoveInto(nullptr); }
+void ControlCore::goHome() {
+    doMoveInto(nullptr);
+}
 
 void ControlCore::doSetTooltip(std::function<Text()> text) {
     m_tooltip = std::move(text);

@@ -8,7 +8,9 @@
 namespace lx {
 namespace {
 
-bool held(int virtualKey) { return GetKeyState(virtualKey) < 0; }
+bool held(int virtualKey) {
+    return GetKeyState(virtualKey) < 0;
+}
 
 // Bit 29 of a key message: Alt was down, as the message itself says.
 constexpr LPARAM altBit = LPARAM{1} << 29U;
@@ -57,16 +59,21 @@ WindowsDialog::Course WindowsDialog::courseOf(const MSG& message) {
         case WM_CHAR:
         case WM_SYSCHAR:
         case WM_DEADCHAR:
-        case WM_SYSDEADCHAR: return m_swallowCharacter ? Course::done : Course::usual;
+        case WM_SYSDEADCHAR:
+            return m_swallowCharacter ? Course::done : Course::usual;
         case WM_TIMER:
-        case WM_PAINT: return Course::toControl;
+        case WM_PAINT:
+            return Course::toControl;
         case WM_KEYUP:
             m_swallowCharacter = false;
             // Its menu came with the key's way down.
             return message.wParam == VK_APPS ? Course::done : Course::usual;
         case WM_KEYDOWN:
-        case WM_SYSKEYDOWN: break;
-        default: m_swallowCharacter = false; return Course::usual;
+        case WM_SYSKEYDOWN:
+            break;
+        default:
+            m_swallowCharacter = false;
+            return Course::usual;
     }
     KeyEvent event;
     event.key = static_cast<int>(message.wParam);
@@ -105,16 +112,21 @@ bool WindowsDialog::dialogKey(const KeyEvent& event) {
         case key::tab:
             if (!event.ctrl) stepFocus(event.shift);
             return true;
-        case key::enter: pressEnter(); return true;
+        case key::enter:
+            pressEnter();
+            return true;
         case key::escape:
             if (!event.ctrl) pressCancel();
             return true;
-        case key::apps: openContextMenu(); return true;
+        case key::apps:
+            openContextMenu();
+            return true;
         case key::f10:
             if (!event.shift || event.ctrl) return false;
             openContextMenu();
             return true;
-        default: return !event.ctrl && radioKey(event.key);
+        default:
+            return !event.ctrl && radioKey(event.key);
     }
 }
 
@@ -132,10 +144,9 @@ void WindowsDialog::pressEnter() {
 }
 
 void WindowsDialog::pressCancel() {
-    const auto found =
-        std::find_if(m_controls.begin(), m_controls.end(), [](const auto& control) {
-            return control->number() == id::cancel && dynamic_cast<Button*>(&control->face());
-        });
+    const auto found = std::find_if(m_controls.begin(), m_controls.end(), [](const auto& control) {
+        return control->number() == id::cancel && dynamic_cast<Button*>(&control->face());
+    });
     if (found == m_controls.end()) {
         end(id::cancel);
     } else if ((*found)->isEnabled()) {
@@ -215,8 +226,8 @@ bool WindowsDialog::isStop(const ControlCore& control) const {
         return usable(*one) && static_cast<WindowsRadioButton&>(*one).checked();
     });
     if (checked != group.end()) return *checked == &control;
-    const auto first = std::find_if(group.begin(), group.end(),
-                                    [&](ControlCore* one) { return usable(*one); });
+    const auto first =
+        std::find_if(group.begin(), group.end(), [&](ControlCore* one) { return usable(*one); });
     return first != group.end() && *first == &control;
 }
 

@@ -4,6 +4,7 @@
 #include <commctrl.h>
 
 #include <algorithm>
+#include <cstdlib>
 
 #include "platform/windows/platform_windows.h"
 #include "platform/windows/simple_controls.h"
@@ -12,8 +13,7 @@
 
 namespace lx {
 
-INT_PTR CALLBACK WindowsDialog::procedure(HWND window, UINT message, WPARAM wParam,
-                                          LPARAM lParam) {
+INT_PTR CALLBACK WindowsDialog::procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_INITDIALOG) {
         SetWindowLongPtrW(window, DWLP_USER, lParam);
         reinterpret_cast<WindowsDialog*>(lParam)->m_window = window;
@@ -46,8 +46,8 @@ bool WindowsDialog::handle(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& 
     if (message != 0 && message == m_platform.describeMessage()) {
         const auto* request = reinterpret_cast<const DescribeRequest*>(lParam);
         if (!request) return false;
-        result = answerDescribe(*request,
-                                describeSelf(static_cast<DescribeQuestion>(wParam), *request));
+        result =
+            answerDescribe(*request, describeSelf(static_cast<DescribeQuestion>(wParam), *request));
         return true;
     }
     const auto answer = m_answers.find(message);
@@ -61,8 +61,11 @@ bool WindowsDialog::handle(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& 
 
 bool WindowsDialog::handleState(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
     switch (message) {
-        case WM_COMMAND: handleCommand(LOWORD(wParam)); return true;
-        case WM_NOTIFY: return handleNotify(*reinterpret_cast<NMHDR*>(lParam), result);
+        case WM_COMMAND:
+            handleCommand(LOWORD(wParam));
+            return true;
+        case WM_NOTIFY:
+            return handleNotify(*reinterpret_cast<NMHDR*>(lParam), result);
         case WM_NEXTDLGCTL:
             if (LOWORD(lParam)) {
                 focusByUser(root().controlOf(reinterpret_cast<HWND>(wParam)));
@@ -76,12 +79,15 @@ bool WindowsDialog::handleState(UINT message, WPARAM wParam, LPARAM lParam, LRES
         case WM_SIZE:
             if (wParam != SIZE_MINIMIZED) sizeChanged();
             return false;
-        case WM_ACTIVATE: return LOWORD(wParam) != WA_INACTIVE && !HIWORD(wParam) && activated();
-        case WM_TIMER: fire(onTimer, static_cast<int>(wParam)); return true;
+        case WM_ACTIVATE:
+            return LOWORD(wParam) != WA_INACTIVE && !HIWORD(wParam) && activated();
+        case WM_TIMER:
+            fire(onTimer, static_cast<int>(wParam));
+            return true;
         case WM_GETMINMAXINFO:
             if (m_minimumSize.width > 0) {
                 reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {m_minimumSize.width,
-                                                                        m_minimumSize.height};
+                                                                         m_minimumSize.height};
             }
             return true;
         case WM_SETCURSOR:
@@ -93,7 +99,8 @@ bool WindowsDialog::handleState(UINT message, WPARAM wParam, LPARAM lParam, LRES
             result = button ? MAKELRESULT(button->id(), DC_HASDEFID) : 0;
             return true;
         }
-        default: return false;
+        default:
+            return false;
     }
 }
 
@@ -153,7 +160,8 @@ bool WindowsDialog::reflect(UINT message, WPARAM wParam, LPARAM lParam, LRESULT&
             if (lParam != NF_QUERY) return false;
             result = NFR_UNICODE;
             return true;
-        default: return false;
+        default:
+            return false;
     }
 }
 
@@ -188,13 +196,17 @@ bool WindowsDialog::handleMouse(UINT message, LPARAM lParam) {
         return copy && copy(p);
     };
     switch (message) {
-        case WM_LBUTTONDOWN: return ask(onLeftDown);
-        case WM_LBUTTONUP: return ask(onLeftUp);
-        case WM_MOUSEMOVE: return ask(onMouseMove);
+        case WM_LBUTTONDOWN:
+            return ask(onLeftDown);
+        case WM_LBUTTONUP:
+            return ask(onLeftUp);
+        case WM_MOUSEMOVE:
+            return ask(onMouseMove);
         case WM_CAPTURECHANGED:
             if (std::exchange(m_capturing, false)) fire(onCaptureLost);
             return true;
-        default: return false;
+        default:
+            return false;
     }
 }
 
@@ -210,16 +222,30 @@ bool WindowsDialog::showCursor() {
     return true;
 }
 
+// point: "x y" in the client area, or null.
+CursorShape WindowsDialog::cursorOver(const char* point) const {
+    const auto ask = onCursor;
+    if (!ask || !point) return m_cursor;
+    char* rest = nullptr;
+    const long x = std::strtol(point, &rest, 10);
+    const long y = std::strtol(rest, nullptr, 10);
+    return ask(Point{static_cast<int>(x), static_cast<int>(y)}).value_or(m_cursor);
+}
+
 Text WindowsDialog::describeSelf(DescribeQuestion question, const DescribeRequest& request) {
     switch (question) {
-        case DescribeQuestion::isOurs: return m_name;
-        case DescribeQuestion::icon: return m_icon ? std::to_string(m_icon) : Text();
-        case DescribeQuestion::cursor: return cursorName(m_cursor);
+        case DescribeQuestion::isOurs:
+            return m_name;
+        case DescribeQuestion::icon:
+            return m_icon ? std::to_string(m_icon) : Text();
+        case DescribeQuestion::cursor:
+            return cursorName(cursorOver(request.topic));
         case DescribeQuestion::topic: {
             const auto ask = onDescribe;
             return ask && request.topic ? ask(request.topic) : Text();
         }
-        default: return {};
+        default:
+            return {};
     }
 }
 

@@ -75,8 +75,7 @@ WindowPlacement WindowsDialog::placement() const {
     RECT normal = native.rcNormalPosition;
     const POINT origin = workOrigin(normal);
     OffsetRect(&normal, origin.x, origin.y);
-    return {portableRect(normal),
-            IsZoomed(m_window) ? ShowState::maximized : ShowState::minimized};
+    return {portableRect(normal), IsZoomed(m_window) ? ShowState::maximized : ShowState::minimized};
 }
 
 void WindowsDialog::setPlacement(const WindowPlacement& placement) {
@@ -113,8 +112,7 @@ void WindowsDialog::centre() {
     LONG top = (around.top + around.bottom - size.height) / 2;
     left = std::max(work.left, std::min(left, work.right - size.width));
     top = std::max(work.top, std::min(top, work.bottom - size.height));
-    SetWindowPos(m_window, nullptr, left, top, 0, 0,
-                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    SetWindowPos(m_window, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 Rect WindowsDialog::toPixels(const UnitRect& units) const {

@@ -10,7 +10,9 @@ namespace {
 
 constexpr WPARAM controlA = 1;
 
-void refuse() { MessageBeep(MB_OK); }
+void refuse() {
+    MessageBeep(MB_OK);
+}
 
 std::wstring clipboardText(HWND owner) {
     std::wstring text;
@@ -67,7 +69,9 @@ WindowClass WindowsEdit::windowClass() const {
     return {L"EDIT", bits, WS_EX_CLIENTEDGE};
 }
 
-void WindowsEdit::attached() { send(EM_SETLIMITTEXT, 0); }
+void WindowsEdit::attached() {
+    send(EM_SETLIMITTEXT, 0);
+}
 
 void WindowsEdit::command(WORD code) {
     if (code == EN_CHANGE) fire(onChange);

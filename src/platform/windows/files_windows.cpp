@@ -85,8 +85,10 @@ bool meansMissing(DWORD error) {
         case ERROR_PATH_NOT_FOUND:
         case ERROR_INVALID_NAME:
         case ERROR_BAD_PATHNAME:
-        case ERROR_INVALID_DRIVE: return true;
-        default: return false;
+        case ERROR_INVALID_DRIVE:
+            return true;
+        default:
+            return false;
     }
 }
 
@@ -101,6 +103,12 @@ Path nameBeside(const Path& path, unsigned attempt) {
         number /= 26U;
     }
     return name + ".tmp";
+}
+
+// A file marked so stays as it is, also where the process has the rights to change it.
+bool readOnly(const Path& path) {
+    const DWORD attributes = GetFileAttributesA(path.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY);
 }
 
 class WindowsFiles final : public Files {
@@ -128,8 +136,8 @@ public:
     }
 
     bool writable(const Path& path) override {
-        return static_cast<bool>(
-            FileHandle(path, GENERIC_READ | GENERIC_WRITE, shareAll, OPEN_EXISTING));
+        return !readOnly(path) && static_cast<bool>(FileHandle(path, GENERIC_READ | GENERIC_WRITE,
+                                                               shareAll, OPEN_EXISTING));
     }
 
     bool createEmpty(const Path& path) override {
@@ -137,6 +145,7 @@ public:
     }
 
     bool replace(const Path& path, std::string_view bytes) override {
+        if (readOnly(path)) return false;
         for (unsigned attempt = 0; attempt < 100; ++attempt) {
             const Path temporary = nameBeside(path, attempt);
             FileHandle file(temporary, GENERIC_WRITE, 0, CREATE_NEW);
@@ -155,6 +164,7 @@ public:
     }
 
     bool append(const Path& path, std::string_view bytes) override {
+        if (readOnly(path)) return false;
         FileHandle file(path, GENERIC_READ | GENERIC_WRITE, shareRead, OPEN_ALWAYS);
         if (!file) return false;
         const bool existed = file.error() == ERROR_ALREADY_EXISTS;
@@ -168,6 +178,7 @@ public:
     }
 
     bool overwrite(const Path& path, std::uint64_t offset, std::string_view bytes) override {
+        if (readOnly(path)) return false;
         FileHandle file(path, GENERIC_READ | GENERIC_WRITE, shareRead, OPEN_EXISTING);
         std::uint64_t length = 0;
         if (!file || !file.size(length)) return false;
@@ -176,6 +187,7 @@ public:
     }
 
     bool remove(const Path& path) override {
+        if (readOnly(path)) return false;
         if (DeleteFileA(path.c_str())) return true;
         return GetFileAttributesA(path.c_str()) == INVALID_FILE_ATTRIBUTES &&
                meansMissing(GetLastError());

@@ -8,24 +8,35 @@ namespace lx {
 namespace {
 
 // GDI computes with 28 bits; what lies beyond is far outside any screen.
-int bounded(int coordinate) { return std::clamp(coordinate, -0x3FFFFFF, 0x3FFFFFF); }
+int bounded(int coordinate) {
+    return std::clamp(coordinate, -0x3FFFFFF, 0x3FFFFFF);
+}
 
 int nativeStyle(PenStyle style) {
     switch (style) {
-        case PenStyle::dash: return PS_DASH;
-        case PenStyle::dot: return PS_DOT;
-        case PenStyle::dashDot: return PS_DASHDOT;
-        case PenStyle::dashDotDot: return PS_DASHDOTDOT;
-        case PenStyle::solid: break;
+        case PenStyle::dash:
+            return PS_DASH;
+        case PenStyle::dot:
+            return PS_DOT;
+        case PenStyle::dashDot:
+            return PS_DASHDOT;
+        case PenStyle::dashDotDot:
+            return PS_DASHDOTDOT;
+        case PenStyle::solid:
+            break;
     }
     return PS_SOLID;
 }
 
 }  // namespace
 
-COLORREF nativeColor(Color color) { return RGB(color.red, color.green, color.blue); }
+COLORREF nativeColor(Color color) {
+    return RGB(color.red, color.green, color.blue);
+}
 
-RECT nativeRect(const Rect& area) { return {area.left, area.top, area.right, area.bottom}; }
+RECT nativeRect(const Rect& area) {
+    return {area.left, area.top, area.right, area.bottom};
+}
 
 Rect portableRect(const RECT& area) {
     return {static_cast<int>(area.left), static_cast<int>(area.top), static_cast<int>(area.right),
@@ -113,11 +124,17 @@ void GdiCanvas::setFont(const Font& font) {
     SelectObject(m_dc, native(false));
 }
 
-void GdiCanvas::setTextColor(Color color) { SetTextColor(m_dc, nativeColor(color)); }
+void GdiCanvas::setTextColor(Color color) {
+    SetTextColor(m_dc, nativeColor(color));
+}
 
-void GdiCanvas::moveTo(Point p) { MoveToEx(m_dc, bounded(p.x), bounded(p.y), nullptr); }
+void GdiCanvas::moveTo(Point p) {
+    MoveToEx(m_dc, bounded(p.x), bounded(p.y), nullptr);
+}
 
-void GdiCanvas::lineTo(Point p) { LineTo(m_dc, bounded(p.x), bounded(p.y)); }
+void GdiCanvas::lineTo(Point p) {
+    LineTo(m_dc, bounded(p.x), bounded(p.y));
+}
 
 void GdiCanvas::fillRect(const Rect& area, Color color) {
     const RECT native = {bounded(area.left), bounded(area.top), bounded(area.right),

@@ -192,9 +192,9 @@ void WindowsListBox::drawRow(HDC dc, const RECT& area, const ListRow& row, bool 
     SetBkColor(dc, background);
     SIZE size = {};
     GetTextExtentPoint32W(dc, shown.c_str(), static_cast<int>(shown.size()), &size);
-    const int y = static_cast<int>(area.top) +
-                  std::max(0, (static_cast<int>(area.bottom - area.top) -
-                               static_cast<int>(size.cy)) / 2);
+    const int y =
+        static_cast<int>(area.top) +
+        std::max(0, (static_cast<int>(area.bottom - area.top) - static_cast<int>(size.cy)) / 2);
     ExtTextOutW(dc, static_cast<int>(area.left) + row.indent, y, ETO_CLIPPED, &area, shown.c_str(),
                 static_cast<UINT>(shown.size()), nullptr);
     RestoreDC(dc, saved);

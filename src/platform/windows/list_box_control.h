@@ -34,7 +34,7 @@ private:
     Point contextPoint(LPARAM lParam) const;
 
     std::vector<ListRow> m_rows;
-    int m_selected = -1;   // as last told or set
+    int m_selected = -1;  // as last told or set
     int m_rowHeight = 0;  // 0 = what the font needs
 };
 

@@ -164,6 +164,11 @@ void WindowsListView::setRowCount(int count) {
 std::vector<int> WindowsListView::selectedRows() const {
     if (!window()) return m_selected;
     std::vector<int> rows;
+    if (send(LVM_GETSELECTEDCOUNT) == m_rowCount) {
+        rows.resize(static_cast<std::size_t>(m_rowCount));
+        std::iota(rows.begin(), rows.end(), 0);
+        return rows;
+    }
     LRESULT row = -1;
     while ((row = send(LVM_GETNEXTITEM, static_cast<WPARAM>(row), LVNI_SELECTED)) >= 0) {
         rows.push_back(static_cast<int>(row));
@@ -200,8 +205,7 @@ void WindowsListView::select(int row) {
 int WindowsListView::rowAt(Point p) const {
     LVHITTESTINFO hit = {};
     hit.pt = {p.x, p.y};
-    return window() ? static_cast<int>(
-                          send(LVM_SUBITEMHITTEST, 0, reinterpret_cast<LPARAM>(&hit)))
+    return window() ? static_cast<int>(send(LVM_SUBITEMHITTEST, 0, reinterpret_cast<LPARAM>(&hit)))
                     : -1;
 }
 
@@ -213,14 +217,23 @@ std::optional<LRESULT> WindowsListView::notified(const NMHDR& header) {
             giveText(reinterpret_cast<NMLVDISPINFOW&>(const_cast<NMHDR&>(header)));
             return 0;
         case LVN_ITEMCHANGED:
-        case LVN_ODSTATECHANGED: selectionMayHaveChanged(); return 0;
+        case LVN_ODSTATECHANGED:
+            selectionMayHaveChanged();
+            return 0;
         case LVN_COLUMNCLICK:
             fire(onHeading, reinterpret_cast<const NMLISTVIEW&>(header).iSubItem);
             return 0;
+        case NM_RCLICK: {
+            // Answered with 1, so that no context menu is asked for a second time.
+            const POINT at = reinterpret_cast<const NMITEMACTIVATE&>(header).ptAction;
+            if (onContext) openContext({static_cast<int>(at.x), static_cast<int>(at.y)});
+            return onContext ? 1 : 0;
+        }
         case NM_DBLCLK:
             if (reinterpret_cast<const NMITEMACTIVATE&>(header).iItem >= 0) fire(onDoubleClick);
             return 0;
-        default: return std::nullopt;
+        default:
+            return std::nullopt;
     }
 }
 
@@ -232,8 +245,7 @@ void WindowsListView::giveText(NMLVDISPINFOW& request) {
     if (ask && item.iItem >= 0 && item.iItem < m_rowCount && hasColumn(item.iSubItem)) {
         text = wide(ask(item.iItem, item.iSubItem));
     }
-    const std::size_t length =
-        std::min(text.size(), static_cast<std::size_t>(item.cchTextMax) - 1);
+    const std::size_t length = std::min(text.size(), static_cast<std::size_t>(item.cchTextMax) - 1);
     std::copy_n(text.begin(), length, item.pszText);
     item.pszText[length] = L'\0';
 }
@@ -242,39 +254,42 @@ void WindowsListView::giveText(NMLVDISPINFOW& request) {
 void WindowsListView::selectionMayHaveChanged() {
     if (setting() || m_reportDue) return;
     m_reportDue = true;
-    dialog().root().post([this] {
-        m_reportDue = false;
-        std::vector<int> rows = selectedRows();
-        if (rows == m_selected) return;
-        m_selected = std::move(rows);
-        fire(onSelect);
-    });
+    dialog().root().post([this] { reportSelection(); });
+}
+
+void WindowsListView::reportSelection() {
+    if (!std::exchange(m_reportDue, false)) return;
+    std::vector<int> rows = selectedRows();
+    if (rows == m_selected) return;
+    m_selected = std::move(rows);
+    fire(onSelect);
+}
+
+// The click that opens the menu may have selected a row, which is told first.
+void WindowsListView::openContext(Point p) {
+    reportSelection();
+    fire(onContext, p);
 }
 
 LRESULT WindowsListView::message(UINT message, WPARAM wParam, LPARAM lParam) {
-    // The right button's menu comes from the list itself; its heading has none.
-    if (message == WM_CONTEXTMENU && onContext &&
-        reinterpret_cast<HWND>(wParam) != this->header()) {
-        fire(onContext, contextPoint(lParam));
+    // The right button's menu comes as a notification with the point clicked.
+    if (message == WM_CONTEXTMENU && lParam == -1 && onContext) {
+        openContext(keyboardContextPoint());
         return 0;
     }
     return ControlCore::message(message, wParam, lParam);
 }
 
-Point WindowsListView::contextPoint(LPARAM lParam) const {
-    if (lParam == -1) {
-        const std::vector<int> rows = selectedRows();
-        RECT area = {};
-        area.left = LVIR_BOUNDS;
-        if (rows.empty() || !send(LVM_GETITEMRECT, static_cast<WPARAM>(rows.front()),
-                                  reinterpret_cast<LPARAM>(&area))) {
-            return {4, 4};
-        }
-        return {4, static_cast<int>(area.top + area.bottom) / 2};
+// The keyboard names no point: the menu then opens at the first selected row.
+Point WindowsListView::keyboardContextPoint() const {
+    const std::vector<int> rows = selectedRows();
+    RECT area = {};
+    area.left = LVIR_BOUNDS;
+    if (rows.empty() || !send(LVM_GETITEMRECT, static_cast<WPARAM>(rows.front()),
+                              reinterpret_cast<LPARAM>(&area))) {
+        return {4, 4};
     }
-    POINT p = {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
-    ScreenToClient(window(), &p);
-    return {static_cast<int>(p.x), static_cast<int>(p.y)};
+    return {4, static_cast<int>(area.top + area.bottom) / 2};
 }
 
 }  // namespace lx

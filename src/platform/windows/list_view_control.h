@@ -50,7 +50,9 @@ private:
     void setState(int row, UINT state, UINT mask);
     void giveText(NMLVDISPINFOW& request);
     void selectionMayHaveChanged();
-    Point contextPoint(LPARAM lParam) const;
+    void reportSelection();
+    void openContext(Point p);
+    Point keyboardContextPoint() const;
 
     std::vector<Column> m_columns;
     std::vector<int> m_order;     // kept when the window is gone

@@ -10,7 +10,9 @@
 namespace lx {
 namespace {
 
-HMODULE native(ModuleHandle module) { return static_cast<HMODULE>(module); }
+HMODULE native(ModuleHandle module) {
+    return static_cast<HMODULE>(module);
+}
 
 // With the full name, the library's own imports are looked for in its folder, not in the current
 // one.

@@ -105,27 +105,39 @@ void WindowsPicture::paint() {
 bool WindowsPicture::mouse(UINT message, WPARAM wParam, LPARAM lParam) {
     const Point p = pointOf(lParam);
     switch (message) {
-        case WM_MOUSEMOVE: fire(onMouseMove, p, (wParam & MK_LBUTTON) != 0); return true;
+        case WM_MOUSEMOVE:
+            fire(onMouseMove, p, (wParam & MK_LBUTTON) != 0);
+            return true;
         case WM_LBUTTONDOWN:
             if (wantsTabStop() && isEnabled()) SetFocus(window());
             fire(onLeftDown, p);
             return true;
-        case WM_LBUTTONUP: fire(onLeftUp, p); return true;
+        case WM_LBUTTONUP:
+            fire(onLeftUp, p);
+            return true;
         case WM_RBUTTONDOWN:
             if (wantsTabStop() && isEnabled()) SetFocus(window());
             fire(onRightDown, p);
             return true;
-        default: return false;
+        default:
+            return false;
     }
 }
 
 LRESULT WindowsPicture::message(UINT message, WPARAM wParam, LPARAM lParam) {
     LRESULT result = 0;
     switch (message) {
-        case WM_ERASEBKGND: return 1;
-        case WM_PAINT: paint(); return 0;
-        case WM_PRINTCLIENT: paintOn(reinterpret_cast<HDC>(wParam)); return 0;
-        case WM_SIZE: redraw(); break;
+        case WM_ERASEBKGND:
+            return 1;
+        case WM_PAINT:
+            paint();
+            return 0;
+        case WM_PRINTCLIENT:
+            paintOn(reinterpret_cast<HDC>(wParam));
+            return 0;
+        case WM_SIZE:
+            redraw();
+            break;
         case WM_SETCURSOR:
             if (reinterpret_cast<HWND>(wParam) == window() && LOWORD(lParam) == HTCLIENT) {
                 SetCursor(systemCursor(m_cursor));
@@ -138,7 +150,8 @@ LRESULT WindowsPicture::message(UINT message, WPARAM wParam, LPARAM lParam) {
                 return 0;
             }
             break;
-        case WM_GETDLGCODE: return wantsTabStop() ? DLGC_WANTARROWS : DLGC_STATIC;
+        case WM_GETDLGCODE:
+            return wantsTabStop() ? DLGC_WANTARROWS : DLGC_STATIC;
         default:
             if (mouse(message, wParam, lParam)) return 0;
             // A control that was moved into the picture reports to it.

@@ -17,20 +17,28 @@ namespace {
 
 UINT nativeIcon(MessageIcon icon) {
     switch (icon) {
-        case MessageIcon::stop: return MB_ICONSTOP;
-        case MessageIcon::question: return MB_ICONQUESTION;
-        case MessageIcon::warning: return MB_ICONWARNING;
-        case MessageIcon::information: return MB_ICONINFORMATION;
-        case MessageIcon::none: break;
+        case MessageIcon::stop:
+            return MB_ICONSTOP;
+        case MessageIcon::question:
+            return MB_ICONQUESTION;
+        case MessageIcon::warning:
+            return MB_ICONWARNING;
+        case MessageIcon::information:
+            return MB_ICONINFORMATION;
+        case MessageIcon::none:
+            break;
     }
     return 0;
 }
 
 UINT nativeButtons(MessageButtons buttons) {
     switch (buttons) {
-        case MessageButtons::okCancel: return MB_OKCANCEL;
-        case MessageButtons::yesNo: return MB_YESNO;
-        case MessageButtons::ok: break;
+        case MessageButtons::okCancel:
+            return MB_OKCANCEL;
+        case MessageButtons::yesNo:
+            return MB_YESNO;
+        case MessageButtons::ok:
+            break;
     }
     return MB_OK;
 }
@@ -90,14 +98,19 @@ HWND ownerWindow(const Owner& owner) {
 MessageAnswer WindowsPlatform::messageBox(Owner owner, std::string_view message,
                                           std::string_view caption, MessageIcon icon,
                                           MessageButtons buttons) {
-    const int answer = MessageBoxW(ownerWindow(owner), wide(message).c_str(),
-                                   wide(caption).c_str(), nativeIcon(icon) | nativeButtons(buttons));
+    const int answer = MessageBoxW(ownerWindow(owner), wide(message).c_str(), wide(caption).c_str(),
+                                   nativeIcon(icon) | nativeButtons(buttons));
     switch (answer) {
-        case IDOK: return MessageAnswer::ok;
-        case IDYES: return MessageAnswer::yes;
-        case IDNO: return MessageAnswer::no;
-        case IDCANCEL: return MessageAnswer::cancel;
-        default: break;
+        case IDOK:
+            return MessageAnswer::ok;
+        case IDYES:
+            return MessageAnswer::yes;
+        case IDNO:
+            return MessageAnswer::no;
+        case IDCANCEL:
+            return MessageAnswer::cancel;
+        default:
+            break;
     }
     // The box could not be shown: what changes nothing is answered.
     if (buttons == MessageButtons::yesNo) return MessageAnswer::no;
@@ -135,7 +148,9 @@ Screen WindowsPlatform::screen() {
     return result;
 }
 
-void WindowsPlatform::beep() { MessageBeep(MB_OK); }
+void WindowsPlatform::beep() {
+    MessageBeep(MB_OK);
+}
 
 std::unique_ptr<Platform> makeWindowsPlatform(void* moduleInstance) {
     return std::make_unique<WindowsPlatform>(static_cast<HINSTANCE>(moduleInstance));

@@ -12,7 +12,9 @@ WindowClass WindowsLabel::windowClass() const {
     return {L"STATIC", static_cast<DWORD>(hasStyle(style::rightAligned) ? SS_RIGHT : SS_LEFT)};
 }
 
-WindowClass WindowsGroupBox::windowClass() const { return {L"BUTTON", BS_GROUPBOX}; }
+WindowClass WindowsGroupBox::windowClass() const {
+    return {L"BUTTON", BS_GROUPBOX};
+}
 
 // ---- push buttons
 
@@ -40,7 +42,9 @@ void WindowsButton::applyIcon() {
     send(BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(icon));
 }
 
-void WindowsButton::showAsDefault(bool on) { send(BM_SETSTYLE, buttonStyle(on), TRUE); }
+void WindowsButton::showAsDefault(bool on) {
+    send(BM_SETSTYLE, buttonStyle(on), TRUE);
+}
 
 void WindowsButton::command(WORD code) {
     if (code == BN_CLICKED) dialog().press(*this);
@@ -58,7 +62,9 @@ Text WindowsButton::describe(DescribeQuestion question, const DescribeRequest&) 
 
 // ---- icons
 
-WindowClass WindowsIcon::windowClass() const { return {L"STATIC", SS_OWNERDRAW}; }
+WindowClass WindowsIcon::windowClass() const {
+    return {L"STATIC", SS_OWNERDRAW};
+}
 
 void WindowsIcon::setIcon(int number) {
     m_icon = number;
@@ -81,7 +87,9 @@ Text WindowsIcon::describe(DescribeQuestion question, const DescribeRequest&) {
 
 // ---- check boxes
 
-WindowClass WindowsCheckBox::windowClass() const { return {L"BUTTON", BS_AUTOCHECKBOX}; }
+WindowClass WindowsCheckBox::windowClass() const {
+    return {L"BUTTON", BS_AUTOCHECKBOX};
+}
 
 void WindowsCheckBox::check(bool on) {
     m_checked = on;
@@ -99,7 +107,9 @@ void WindowsCheckBox::command(WORD code) {
 
 // ---- radio buttons
 
-WindowClass WindowsRadioButton::windowClass() const { return {L"BUTTON", BS_RADIOBUTTON}; }
+WindowClass WindowsRadioButton::windowClass() const {
+    return {L"BUTTON", BS_RADIOBUTTON};
+}
 
 void WindowsRadioButton::attached() {
     send(BM_SETDONTCLICK, TRUE);

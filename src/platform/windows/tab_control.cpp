@@ -10,10 +10,15 @@
 
 namespace lx {
 
-// Clipped by its siblings: the pages stand above it.
-WindowClass WindowsTabControl::windowClass() const { return {WC_TABCONTROLW, WS_CLIPSIBLINGS}; }
+// Clipped by its siblings: the pages stand above it. Tabs that do not fit side by side stand in
+// several rows.
+WindowClass WindowsTabControl::windowClass() const {
+    return {WC_TABCONTROLW, WS_CLIPSIBLINGS | TCS_MULTILINE};
+}
 
-void WindowsTabControl::attached() { send(CCM_SETUNICODEFORMAT, TRUE); }
+void WindowsTabControl::attached() {
+    send(CCM_SETUNICODEFORMAT, TRUE);
+}
 
 void WindowsTabControl::keepState() {
     m_selected = selected();

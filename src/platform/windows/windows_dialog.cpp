@@ -29,9 +29,12 @@ constexpr int scaleHeight = 800;
 DWORD windowStyle(DialogStyle style) {
     constexpr DWORD framed = WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_SETFONT;
     switch (style) {
-        case DialogStyle::page: return WS_CHILD | DS_CONTROL | DS_SETFONT;
-        case DialogStyle::resizable: return framed | WS_THICKFRAME | WS_MAXIMIZEBOX;
-        case DialogStyle::modal: break;
+        case DialogStyle::page:
+            return WS_CHILD | DS_CONTROL | DS_SETFONT;
+        case DialogStyle::resizable:
+            return framed | WS_THICKFRAME | WS_MAXIMIZEBOX;
+        case DialogStyle::modal:
+            break;
     }
     return framed | DS_MODALFRAME;
 }
@@ -68,21 +71,33 @@ std::vector<WORD> nativeTemplate(const DialogTemplate& layout) {
 
 std::unique_ptr<ControlCore> makeControl(WindowsDialog& dialog, const ControlTemplate& layout) {
     switch (layout.kind) {
-        case ControlKind::groupBox: return std::make_unique<WindowsGroupBox>(dialog, layout);
+        case ControlKind::groupBox:
+            return std::make_unique<WindowsGroupBox>(dialog, layout);
         case ControlKind::button:
-        case ControlKind::iconButton: return std::make_unique<WindowsButton>(dialog, layout);
-        case ControlKind::checkBox: return std::make_unique<WindowsCheckBox>(dialog, layout);
-        case ControlKind::radioButton: return std::make_unique<WindowsRadioButton>(dialog, layout);
+        case ControlKind::iconButton:
+            return std::make_unique<WindowsButton>(dialog, layout);
+        case ControlKind::checkBox:
+            return std::make_unique<WindowsCheckBox>(dialog, layout);
+        case ControlKind::radioButton:
+            return std::make_unique<WindowsRadioButton>(dialog, layout);
         case ControlKind::edit:
-        case ControlKind::multilineEdit: return std::make_unique<WindowsEdit>(dialog, layout);
-        case ControlKind::listBox: return std::make_unique<WindowsListBox>(dialog, layout);
+        case ControlKind::multilineEdit:
+            return std::make_unique<WindowsEdit>(dialog, layout);
+        case ControlKind::listBox:
+            return std::make_unique<WindowsListBox>(dialog, layout);
         case ControlKind::dropDownList:
-        case ControlKind::editableCombo: return std::make_unique<WindowsComboBox>(dialog, layout);
-        case ControlKind::listView: return std::make_unique<WindowsListView>(dialog, layout);
-        case ControlKind::tabControl: return std::make_unique<WindowsTabControl>(dialog, layout);
-        case ControlKind::picture: return std::make_unique<WindowsPicture>(dialog, layout);
-        case ControlKind::icon: return std::make_unique<WindowsIcon>(dialog, layout);
-        case ControlKind::label: break;
+        case ControlKind::editableCombo:
+            return std::make_unique<WindowsComboBox>(dialog, layout);
+        case ControlKind::listView:
+            return std::make_unique<WindowsListView>(dialog, layout);
+        case ControlKind::tabControl:
+            return std::make_unique<WindowsTabControl>(dialog, layout);
+        case ControlKind::picture:
+            return std::make_unique<WindowsPicture>(dialog, layout);
+        case ControlKind::icon:
+            return std::make_unique<WindowsIcon>(dialog, layout);
+        case ControlKind::label:
+            break;
     }
     return std::make_unique<WindowsLabel>(dialog, layout);
 }
@@ -145,7 +160,9 @@ void WindowsDialog::createControls(std::span<const ControlTemplate> controls) {
     root().m_defaultShown = root().defaultButton();
 }
 
-WindowsDialog& WindowsDialog::root() { return m_parent ? m_parent->root() : *this; }
+WindowsDialog& WindowsDialog::root() {
+    return m_parent ? m_parent->root() : *this;
+}
 
 bool WindowsDialog::reachable() const {
     return !isPage() || (m_pageVisible && m_parent && m_parent->reachable());
@@ -218,7 +235,9 @@ void WindowsDialog::runGuarded(const std::function<void()>& action) {
     }
 }
 
-void WindowsDialog::failed() { root().end(-1); }
+void WindowsDialog::failed() {
+    root().end(-1);
+}
 
 void WindowsDialog::end(int result) {
     if (isPage()) {

@@ -112,8 +112,8 @@ private:
     void loop();
     void runPosted();
     void dispatch(MSG& message);
-    // What a message asks for: it is used up, to be handled as the control likes, or as the system's
-    // dialogs do.
+    // What a message asks for: it is used up, to be handled as the control likes, or as the
+    // system's dialogs do.
     enum class Course { done, toControl, usual };
     Course courseOf(const MSG& message);
     KeyAnswer seenByHandlers(const KeyEvent& event);
@@ -137,6 +137,7 @@ private:
     bool handleState(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result);
     void sizeChanged();
     bool activated();
+    CursorShape cursorOver(const char* point) const;
     Text describeSelf(DescribeQuestion question, const DescribeRequest& request);
     bool showCursor();
 

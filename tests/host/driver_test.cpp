@@ -1,0 +1,397 @@
+// What a driver does as the user and reads back, on a dialog with controls of every kind. The same
+// acts have the same effect on every platform.
+#include "host/driver/driver.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/support/bench.h"
+
+namespace lx {
+namespace {
+
+constexpr int nameField = 10;
+constexpr int notesField = 12;
+constexpr int bubbleBox = 20;
+constexpr int firstRadio = 21;
+constexpr int secondRadio = 22;
+constexpr int lockedButton = 23;
+constexpr int iconButton = 24;
+constexpr int rowList = 30;
+constexpr int typeBox = 32;
+constexpr int valueBox = 34;
+constexpr int table = 36;
+constexpr int sketch = 40;
+constexpr int hiddenButton = 41;
+
+constexpr ControlTemplate controls[] = {
+    {ControlKind::label, 9, "&Název:"_cz, {5, 5, 40, 8}},
+    {ControlKind::edit, nameField, "", {50, 4, 80, 12}},
+    {ControlKind::label, 11, "Popis:"_cz, {5, 22, 40, 8}},
+    {ControlKind::multilineEdit, notesField, "", {50, 20, 80, 24}, style::verticalScroll},
+    {ControlKind::checkBox, bubbleBox, "&Bublinu"_cz, {140, 4, 60, 10}},
+    {ControlKind::radioButton, firstRadio, "z náhledu"_cz, {140, 18, 60, 10}},
+    {ControlKind::radioButton, secondRadio, "z nabídky"_cz, {140, 30, 60, 10}},
+    {ControlKind::button, lockedButton, "Zamčeno"_cz, {140, 44, 50, 14}, style::disabled},
+    {ControlKind::iconButton, iconButton, "", {195, 44, 16, 14}},
+    {ControlKind::label, 29, "Nabídka:"_cz, {5, 50, 40, 8}},
+    {ControlKind::listBox, rowList, "", {50, 50, 80, 40}, style::verticalScroll},
+    {ControlKind::label, 31, "Typ:"_cz, {5, 96, 40, 8}},
+    {ControlKind::dropDownList, typeBox, "", {50, 94, 80, 60}, style::verticalScroll},
+    {ControlKind::label, 33, "Hodnota:"_cz, {5, 112, 40, 8}},
+    {ControlKind::editableCombo, valueBox, "", {50, 110, 80, 60}, style::verticalScroll},
+    {ControlKind::listView, table, "", {5, 130, 125, 60}, style::multipleSelection},
+    {ControlKind::picture, sketch, "", {140, 64, 80, 60}, style::focusable},
+    {ControlKind::button, hiddenButton, "Skryté"_cz, {140, 150, 50, 14}, style::hidden},
+    {ControlKind::button, id::ok, "OK", {140, 176, 40, 14}, style::defaultButton},
+    {ControlKind::button, id::cancel, "Zrušit"_cz, {184, 176, 40, 14}},
+};
+constexpr DialogTemplate layout{"everything", "Všechno"_cz, 232,
+                                196,          controls,     DialogStyle::resizable};
+
+constexpr ControlTemplate nestedControls[] = {
+    {ControlKind::edit, nameField, "", {5, 5, 80, 12}},
+    {ControlKind::button, id::ok, "OK", {5, 22, 40, 14}, style::defaultButton},
+    {ControlKind::button, id::cancel, "Zrušit"_cz, {50, 22, 40, 14}},
+};
+constexpr DialogTemplate nestedLayout{"nested", "Vnořený"_cz, 95, 42, nestedControls};
+
+using Texts = std::vector<std::string>;
+using Rows = std::vector<int>;
+
+class DriverTest : public testing::Test {
+protected:
+    DriverTest() : dialog(bench.platform().createDialog(layout, {})) {
+        for (const auto text : {"jedna"_cz, "dvě"_cz, "tři"_cz, "čtyři"_cz, "pět"_cz, "šest"_cz}) {
+            at<ListBox>(rowList).append({Text(text), {}, {}});
+        }
+        for (const char* type : {"I", "L", "U"}) at<ComboBox>(typeBox).add(type);
+        for (const char* value : {"100", "150", "200"}) at<ComboBox>(valueBox).add(value);
+        auto& view = at<ListView>(table);
+        view.setColumns({{"Typ", 60}, {Text("Délka"_cz), 80}});
+        view.cell = [](int row, int column) {
+            return Text(column == 0 ? "P" : "d") + std::to_string(row);
+        };
+        view.setRowCount(40);
+        at<Button>(iconButton).setTooltip([] { return Text("Vložit překlad"_cz); });
+    }
+
+    template <class C>
+    C& at(int controlId) {
+        return dialog->get<C>(controlId);
+    }
+    void then(std::function<void(Driver&)> step) { bench.user().then(std::move(step)); }
+    // Runs the dialog for the steps, the last of which must close it.
+    int run() {
+        const int result = dialog->runModal();
+        EXPECT_EQ(bench.user().failure(), "");
+        return result;
+    }
+    void note(const std::string& what) { log.push_back(what); }
+    int runNested() {
+        return bench.platform().createDialog(nestedLayout, {dialog.get(), nullptr})->runModal();
+    }
+    MessageAnswer askUser() {
+        return bench.platform().messageBox({dialog.get(), nullptr}, "Opravdu?\r\nAno?", "Otázka"_cz,
+                                           MessageIcon::question, MessageButtons::yesNo);
+    }
+    const Menu popup{{"&Nový"_cz, 0, {{"&Typ", 1, {}}, {"&Překlad"_cz, 2, {}}}},
+                     {"", 0, {}},
+                     {"&Vymazat", 3, {}},
+                     {"&Upravit", 4, {}}};
+
+    Bench bench;
+    std::unique_ptr<Dialog> dialog;
+    Texts log;
+};
+
+TEST_F(DriverTest, FindsControlsAsAUserNamesThem) {
+    then([](Driver& d) {
+        EXPECT_EQ(d.title(), "Všechno");
+        EXPECT_EQ(d.focusedControl(), "#10 Název");
+        EXPECT_EQ(d.text("Zamčeno"), "Zamčeno");
+        EXPECT_EQ(d.text("#31"), "Typ:");
+        EXPECT_EQ(d.tooltip("#24"), "Vložit překlad");
+        EXPECT_TRUE(d.enabled("Vložit překlad"));
+        EXPECT_FALSE(d.enabled("Zamčeno"));
+        EXPECT_FALSE(d.visible("Skryté"));
+        EXPECT_TRUE(d.exists("Popis:"));
+        EXPECT_FALSE(d.exists("Název překladu"));
+        for (const char* name : {"Zamčeno", "Skryté", "Nikde"}) {
+            EXPECT_THROW(d.press(name), DriverError) << name;
+        }
+        EXPECT_THROW(d.check("OK", true), DriverError);
+        EXPECT_EQ(d.layoutFaults(), Texts{});
+        d.press("Zrušit");
+    });
+    EXPECT_EQ(run(), id::cancel);
+}
+
+TEST_F(DriverTest, TypesAndPressesKeysThroughTheirHandlers) {
+    at<Edit>(nameField).onKey = [this](const KeyEvent& event) {
+        if (event.key == 'A' && event.ctrl) note("Ctrl+A");
+        return event.key == '5' ? KeyAnswer::swallow : KeyAnswer::pass;
+    };
+    then([this](Driver& d) {
+        d.type("Šíře 150,č");
+        EXPECT_EQ(d.text("Název"), "Šíře 10,č");
+        d.key("Ctrl+A");
+        d.key("Home");
+        d.key("Shift+Right");
+        d.key("Shift+Right");
+        EXPECT_EQ(d.editSelection("Název"), "0-2");
+        d.key("Delete");
+        d.key("End");
+        d.key("Backspace");
+        EXPECT_EQ(d.text("Název"), "ře 10,");
+        EXPECT_EQ(log, Texts{"Ctrl+A"});
+        EXPECT_EQ(d.defaultButton(), "OK");
+
+        d.key("Tab");
+        d.type("a\r\nb");
+        EXPECT_EQ(d.text("Popis"), "a\r\nb");
+        d.key("Tab");
+        d.key("Space");
+        EXPECT_TRUE(d.checked("Bublinu"));
+        d.key("Alt+B");
+        EXPECT_FALSE(d.checked("Bublinu"));
+        d.check("z nabídky", true);
+        EXPECT_FALSE(d.checked("z náhledu"));
+        d.key("Up");
+        EXPECT_TRUE(d.checked("z náhledu"));
+        d.focus("Název");
+        EXPECT_EQ(d.editSelection("Název"), "0-6");
+        d.key("Shift+Tab");
+        EXPECT_EQ(d.focusedControl(), "#2 Zrušit");
+        EXPECT_EQ(d.defaultButton(), "Zrušit");
+        d.focus("Název");
+        d.key("Enter");
+    });
+    EXPECT_EQ(run(), id::ok);
+}
+
+TEST_F(DriverTest, ChoosesRowsOfEveryKindOfList) {
+    auto& list = at<ListBox>(rowList);
+    list.set(2, {Text("tři"_cz), Color{233, 17, 12}, Color{113, 113, 255}});
+    list.onSelect = [&] { note("row " + std::to_string(list.selected())); };
+    list.onDoubleClick = [&] { note("double " + std::to_string(list.selected())); };
+    at<ComboBox>(typeBox).onSelect = [&] { note("type " + at<ComboBox>(typeBox).text()); };
+    at<ComboBox>(valueBox).onChange = [&] { note("value " + at<ComboBox>(valueBox).text()); };
+    then([this](Driver& d) {
+        d.selectRow("Nabídka", "šest");
+        d.doubleClickRow("Nabídka", 1);
+        d.focus("Nabídka");
+        d.key("Down");
+        EXPECT_EQ(log, (Texts{"row 5", "row 1", "double 1", "row 2"}));
+        const RowLook look = d.row("Nabídka", 2);
+        EXPECT_EQ(look.text + look.textColor + look.background, "tři233,17,12113,113,255");
+        EXPECT_EQ(d.row("Nabídka", 1).textColor, "");
+        EXPECT_THROW(d.selectRowAt("Nabídka", 6), DriverError);
+        log.clear();
+
+        d.selectRow("Typ", "U");
+        EXPECT_EQ(d.text("Typ"), "U");
+        d.selectRowAt("Hodnota", 1);
+        EXPECT_EQ(d.text("Hodnota"), "150");
+        log.erase(log.begin() + 1, log.end());
+        EXPECT_EQ(log, Texts{"type U"});
+        d.focus("Hodnota");
+        d.type("17");
+        EXPECT_EQ(d.text("Hodnota"), "17");
+        EXPECT_EQ(log, (Texts{"type U", "value 1", "value 17"}));
+
+        d.selectRow("#36", "P30");
+        d.addRowAt("#36", 32);
+        EXPECT_EQ(d.selectedRows("#36"), (Rows{30, 32}));
+        EXPECT_EQ(d.row("#36", 32).text, "P32 | d32");
+        d.selectRowAt("#36", 3);
+        EXPECT_EQ(d.selectedRows("#36"), Rows{3});
+        d.press("OK");
+    });
+    EXPECT_EQ(run(), id::ok);
+}
+
+TEST_F(DriverTest, ArrangesColumnsAndTheWindow) {
+    auto& view = at<ListView>(table);
+    view.onHeading = [&](int column) { view.setHeadingArrow(column, HeadingArrow::descending); };
+    dialog->setMinimumSize({400, 300});
+    dialog->onSize = [this](Size) { note("size"); };
+    then([this](Driver& d) {
+        d.clickHeading("#36", "Délka");
+        EXPECT_EQ(d.headings("#36"), (Texts{"Typ", "Délka v"}));
+        d.setColumnWidth("#36", 1, 120);
+        d.setColumnOrder("#36", {1, 0});
+        EXPECT_EQ(d.columnWidths("#36"), (Rows{60, 120}));
+        EXPECT_EQ(d.columnOrder("#36"), (Rows{1, 0}));
+        EXPECT_EQ(d.headings("#36"), (Texts{"Typ", "Délka v"}));
+        log.clear();
+
+        d.moveDialog({30, 40});
+        d.resizeDialog({600, 500});
+        EXPECT_EQ(d.placement(), "30 40 600 500 normal");
+        d.resizeDialog({10, 10});
+        EXPECT_EQ(d.dialogSize().width, 400);
+        EXPECT_EQ(d.dialogSize().height, 300);
+        EXPECT_EQ(log.size(), 2U);
+        d.setDialogState("maximized");
+        EXPECT_EQ(d.placement(), "30 40 400 300 maximized");
+        d.setDialogState("normal");
+        EXPECT_EQ(d.placement(), "30 40 400 300 normal");
+        d.closeDialog();
+    });
+    EXPECT_EQ(run(), id::cancel);
+}
+
+TEST_F(DriverTest, AnActReturnsWhenWhatItOpenedHasClosed) {
+    at<Button>(iconButton).onClick = [&] {
+        note(runNested() == id::ok ? "nested ok" : "nested cancelled");
+        note(askUser() == MessageAnswer::yes ? "yes" : "no");
+    };
+    then([this](Driver& d) {
+        d.press("Vložit překlad");
+        EXPECT_EQ(log, (Texts{"nested ok", "yes"}));
+        EXPECT_EQ(d.title(), "Všechno");
+        d.key("Esc");
+        note("closed");
+    });
+    bench.user().inDialog("Vnořený", [this](Driver& d) {
+        EXPECT_FALSE(d.exists("Vložit překlad"));
+        d.type("x");
+        d.key("Enter");
+        EXPECT_EQ(log, Texts{}) << "the nested call has not returned yet";
+    });
+    then([](Driver& d) {
+        const host::MessageBoxLook look = d.messageBox();
+        EXPECT_EQ(look.text, "Opravdu?\r\nAno?");
+        EXPECT_EQ(look.caption + "/" + look.icon, "Otázka/question");
+        EXPECT_EQ(look.buttons, (Texts{"Yes", "No"}));
+        EXPECT_THROW(d.answer("Cancel"), DriverError);
+        EXPECT_THROW(d.press("OK"), DriverError);
+        d.answer("Yes");
+    });
+    EXPECT_EQ(run(), id::cancel);
+    EXPECT_EQ(log.back(), "closed") << "the step goes on to its end before the dialog's call does";
+}
+
+TEST_F(DriverTest, ChoosesFromMenus) {
+    auto& list = at<ListBox>(rowList);
+    list.onContext = [&](Point p) {
+        const int command = dialog->popupMenu(popup, list, p, [](int entry) { return entry != 4; });
+        note("chosen " + std::to_string(command));
+    };
+    dialog->setMenuBar(popup);
+    dialog->enableCommand(2, false);
+    dialog->onCommand = [this](int command) { note("menu " + std::to_string(command)); };
+    then([this](Driver& d) {
+        EXPECT_EQ(d.menu(),
+                  (Texts{"Nový", "Nový/Typ", "Nový/Překlad (grey)", "Vymazat", "Upravit"}));
+        d.chooseMenu("Nový/Typ");
+        EXPECT_THROW(d.chooseMenu("Nový/Překlad"), DriverError);
+        EXPECT_THROW(d.chooseMenu("Typ"), DriverError);
+        d.choosePopup("Nový/Překlad");
+        d.rightClickRow("Nabídka", 2);
+        d.rightClickRow("Nabídka", 1);
+        d.focus("Nabídka");
+        d.key("Shift+F10");
+        EXPECT_EQ(log, (Texts{"menu 1", "chosen 2", "chosen 3", "chosen 0"}));
+        d.press("OK");
+    });
+    then([](Driver& d) {
+        EXPECT_EQ(d.popup(),
+                  (Texts{"Nový", "Nový/Typ", "Nový/Překlad", "Vymazat", "Upravit (grey)"}));
+        EXPECT_THROW(d.choosePopup("Upravit"), DriverError);
+        EXPECT_THROW(d.choosePopup("Smazat"), DriverError);
+        d.choosePopup("Vymazat");
+    });
+    then([](Driver& d) { d.closePopup(); });
+    EXPECT_EQ(run(), id::ok);
+}
+
+TEST_F(DriverTest, UsesTheMouseInPicturesAndOnTheDialog) {
+    const auto at2 = [](Point p) { return std::to_string(p.x) + " " + std::to_string(p.y); };
+    auto& picture = at<Picture>(sketch);
+    picture.regions = [] {
+        return std::vector<PictureRegion>{{"layer 1", {10, 10, 20, 30}}, {"width", {40, 5, 61, 9}}};
+    };
+    picture.onMouseMove = [&](Point p, bool down) {
+        note((down ? "drag " : "move ") + at2(p));
+        picture.setCursor(p.x < 30 ? CursorShape::hand : CursorShape::upArrow);
+    };
+    picture.onLeftDown = [&](Point p) { note("down " + at2(p)); };
+    picture.onLeftUp = [&](Point p) { note("up " + at2(p)); };
+    picture.onRightDown = [&](Point p) { note("right " + at2(p)); };
+    dialog->onLeftDown = [&](Point) {
+        dialog->captureMouse(true);
+        return true;
+    };
+    dialog->onMouseMove = [&](Point p) {
+        note("divider " + at2(p));
+        return true;
+    };
+    dialog->onLeftUp = [&](Point) {
+        dialog->captureMouse(false);
+        return true;
+    };
+    dialog->onCursor = [](Point p) {
+        return p.x < 4 ? std::optional(CursorShape::splitLeftRight) : std::nullopt;
+    };
+    then([this](Driver& d) {
+        EXPECT_EQ(d.regions("#40"), (Texts{"layer 1 10 10 20 30", "width 40 5 61 9"}));
+        const ScreenPoint p = d.regionPoint("#40", "layer 1");
+        EXPECT_THROW(d.regionPoint("#40", "layer 2"), DriverError);
+        d.mouseMove("#40", p, false);
+        EXPECT_EQ(d.cursor("#40"), "hand");
+        d.mouseDown("#40", p);
+        EXPECT_EQ(d.focusedControl(), "#40");
+        d.mouseMove("#40", {40, 20}, true);
+        EXPECT_EQ(d.cursor("#40"), "upArrow");
+        d.mouseUp("#40", {40, 21});
+        d.rightClick("#40", {1, 2});
+        EXPECT_EQ(log, (Texts{"move 15 20", "down 15 20", "drag 40 20", "up 40 21", "right 1 2"}));
+        EXPECT_THROW(d.mouseDown("#40", {2000, 20}), DriverError);
+        log.clear();
+
+        d.mouseMove("", {2, 2}, false);
+        EXPECT_EQ(d.cursor(""), "splitLeftRight");
+        d.mouseDown("", {2, 2});
+        d.mouseMove("", {150, 2}, true);
+        d.mouseUp("", {150, 2});
+        EXPECT_EQ(log, (Texts{"divider 2 2", "divider 150 2"}));
+        d.press("OK");
+    });
+    EXPECT_EQ(run(), id::ok);
+}
+
+TEST_F(DriverTest, AFailedStepIsKeptAndEverythingCancelled) {
+    at<Button>(iconButton).onClick = [&] { askUser(); };
+    at<Button>(id::cancel).enable(false);
+    then([](Driver& d) { d.press("Vložit překlad"); });
+    then([](Driver& d) { d.press("Smazat"); });
+    then([](Driver&) { FAIL() << "runs after a failed step"; });
+    EXPECT_NE(dialog->runModal(), id::ok);
+    EXPECT_NE(bench.user().failure().find("\"Smazat\""), std::string::npos);
+}
+
+TEST_F(DriverTest, FindsFaultsOfALayout) {
+    constexpr ControlTemplate bad[] = {
+        {ControlKind::button, 1, "Mnohem delší text"_cz, {5, 5, 20, 14}},
+        {ControlKind::button, 2, "", {20, 10, 20, 14}},
+        {ControlKind::groupBox, 3, "", {0, 0, 60, 60}},
+        {ControlKind::edit, 4, "", {80, 30, 40, 12}},
+    };
+    const DialogTemplate faulty{"faulty", "Chybný"_cz, 100, 60, bad};
+    dialog = bench.platform().createDialog(faulty, {});
+    then([](Driver& d) {
+        const Texts faults = d.layoutFaults();
+        std::string all;
+        for (const std::string& fault : faults) all += fault + "\n";
+        EXPECT_EQ(faults.size(), 3U) << all;
+        for (const char* what : {"#1", "overlaps", "#4", "sticks out", "cuts its text"}) {
+            EXPECT_NE(all.find(what), std::string::npos) << what << " in " << all;
+        }
+        d.closeDialog();
+    });
+    EXPECT_EQ(run(), id::cancel);
+}
+
+}  // namespace
+}  // namespace lx
