@@ -112,8 +112,8 @@ void setOpening(PlayContext& context, const Words& words) {
 ScreenPoint takePoint(PlayContext& context, const std::string& picture, const Words& words,
                       std::size_t& i) {
     if (i + 2 > words.size()) throw std::runtime_error("a place is missing: X Y or region NAME");
-    const std::string first = words[i];
-    const std::string second = words[i + 1];
+    const std::string& first = words[i];
+    const std::string& second = words[i + 1];
     i += 2;
     if (first == "region") return context.driver.regionPoint(picture, second);
     return {wholeNumber(first), wholeNumber(second)};

@@ -52,8 +52,8 @@ private:
 };
 
 // The whole of a stand-in program behind its platform: plays the scenarios or makes the call of the
-// options, prints what came out, and gives the process's exit code: 0 all held, 1 an expectation
-// failed, 2 a wrong command line or a module that could not be loaded.
+// options, prints what came out, and gives the process's exit code: 0 all held, 1 a scenario
+// failed, 2 the call could not be made.
 struct Options;
 int runStandIn(Options options, HostServices& services, const ModuleSource& module, Driver& driver,
                std::ostream& output, std::ostream& errors);

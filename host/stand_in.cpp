@@ -29,7 +29,7 @@ int playAll(const Options& options, HostServices& services, const ModuleSource& 
     return code;
 }
 
-int callOnce(Options& options, HostServices& services, const ModuleSource& module,
+int callOnce(Options& options, HostServices& services, const ModuleSource& module, Driver& driver,
              std::ostream& output, std::ostream& errors) {
     const std::string problem = prepareFolders(options);
     if (!problem.empty()) {
@@ -43,6 +43,9 @@ int callOnce(Options& options, HostServices& services, const ModuleSource& modul
         for (const int topic : services.helpTopics) output << "help topic " << topic << "\n";
         for (const std::string& line : services.lockLog()) output << "lock " << line << "\n";
         output << std::flush;
+        // Without a screen there is no user but a scenario.
+        const std::string abandoned = driver.abandoned();
+        if (!abandoned.empty()) errors << "cancelled, as nobody acts: " << abandoned << std::endl;
     } catch (const std::runtime_error& error) {
         errors << error.what() << std::endl;
         return nothingRun;
@@ -55,7 +58,8 @@ int callOnce(Options& options, HostServices& services, const ModuleSource& modul
 
 int runStandIn(Options options, HostServices& services, const ModuleSource& module, Driver& driver,
                std::ostream& output, std::ostream& errors) {
-    if (options.scenarios.empty()) return callOnce(options, services, module, output, errors);
+    if (options.scenarios.empty())
+        return callOnce(options, services, module, driver, output, errors);
     return playAll(options, services, module, driver, output, errors);
 }
 

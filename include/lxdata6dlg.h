@@ -158,13 +158,13 @@ enum {
  * too small).
  *
  * After the dialog has run, whatever it returned: resultText holds the bubble name, CR LF and the
- * description, or "nezad\xE1no" when there is no text; *resultA and *resultB hold the LX_INSERT_ bits
- * and LX_FOLDED_SECTION. After Cancel they are as they came in and the text is "nezad\xE1no", unless
- * an OK that was refused has set them before; so look at them after LX_DIALOG_OK alone. On entry,
- * *resultB other than 0 says that a lintel with a folded section is being changed (the help topic
- * follows it). The design itself is left in the file LXDATA6I.tmp in the system's temporary folder.
- * A file of that name that is there when the dialog opens is read as the design to change, and
- * deleted: a host that does not fetch the file removes it.
+ * description, or "nezad\xE1no" when there is no text; *resultA and *resultB hold the LX_INSERT_
+ * bits and LX_FOLDED_SECTION. After Cancel they are as they came in and the text is "nezad\xE1no",
+ * unless an OK that was refused has set them before; so look at them after LX_DIALOG_OK alone. On
+ * entry, *resultB other than 0 says that a lintel with a folded section is being changed (the help
+ * topic follows it). The design itself is left in the file LXDATA6I.tmp in the system's temporary
+ * folder. A file of that name that is there when the dialog opens is read as the design to change,
+ * and deleted: a host that does not fetch the file removes it.
  *
  * parent        window handle (HWND) of the owner, or null
  * openingWidth  mm

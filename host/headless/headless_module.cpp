@@ -17,7 +17,7 @@ void* address(F* function) {
 // What the process of the host would hold, and the module's application in it.
 class LoadedModule {
 public:
-    LoadedModule(HeadlessPlatform& platform, std::string programFolder)
+    LoadedModule(HeadlessPlatform& platform, const std::string& programFolder)
         : m_platform(platform), m_folder(asFolder(programFolder)) {}
     ~LoadedModule() { unload(); }
     LoadedModule(const LoadedModule&) = delete;

@@ -324,7 +324,7 @@ TEST_F(SampleDialog, PicturesPaintWhenAskedAndKnowTheirGuests) {
 
 TEST_F(SampleDialog, APictureOfItShowsWhatIsShown) {
     run([this] {
-        list().set(0, {"Návrh <1>"_cz, Color{233, 17, 12}, {}});
+        list().set(0, {Text("Návrh <1>"_cz), Color{233, 17, 12}, {}});
         at<HeadlessLabel>(-1).setText("&Jméno:"_cz);
         const auto shows = [&](std::string_view text) {
             return dialogSvg(dialog).find(text) != std::string::npos;

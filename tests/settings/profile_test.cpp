@@ -234,8 +234,8 @@ TEST_F(ProfileTest, BearsNoiseAndHugeFiles) {
     }
     std::string sections;
     for (int i = 0; i < 200000; ++i) sections += "[A]\nb=1\n";
-    for (std::string huge : {std::string(5000000, 'x'), std::string(5000000, '\r'),
-                             std::string(5000000, '='), sections}) {
+    for (const std::string& huge : {std::string(5000000, 'x'), std::string(5000000, '\r'),
+                                    std::string(5000000, '='), sections}) {
         const auto start = std::chrono::steady_clock::now();
         hold(huge);
         EXPECT_TRUE(profile.write("B", "c", "3"));

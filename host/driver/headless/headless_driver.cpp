@@ -20,13 +20,13 @@ Text czech(std::string_view utf8) {
     return *text;
 }
 
-// What the platform says of an act that a user could not do.
+// Tells what the platform says of an act that a user could not do; name is what was acted on.
 template <class F>
-void attempt(F act) {
+void attempt(ControlName name, F act) {
     try {
         act();
     } catch (const std::logic_error& error) {
-        throw DriverError(error.what());
+        throw DriverError((name.empty() ? "" : "\"" + std::string(name) + "\": ") + error.what());
     }
 }
 
@@ -97,7 +97,9 @@ HeadlessDialog& HeadlessDriver::dialog() {
 }
 
 HeadlessControl& HeadlessDriver::control(ControlName name) {
-    HeadlessControl* found = findControl(dialog(), name);
+    const HeadlessDialog* top = m_platform.topDialog();
+    const bool reachable = top != nullptr && m_platform.openMessageBox() == nullptr;
+    HeadlessControl* found = reachable ? findControl(*top, name) : nullptr;
     if (found == nullptr) {
         throw DriverError("there is no control \"" + std::string(name) + "\"; " + situation());
     }
@@ -171,19 +173,19 @@ void HeadlessDriver::answer(std::string_view button) {
     const std::optional<MessageAnswer> wanted = answerNamed(button);
     if (!wanted) throw DriverError("no message box has a button \"" + std::string(button) + "\"");
     messageBox();
-    attempt([&] { m_platform.answerMessageBox(*wanted); });
+    attempt("", [&] { m_platform.answerMessageBox(*wanted); });
 }
 
 void HeadlessDriver::closeDialog() {
-    if (messageBoxOpen()) return attempt([this] { m_platform.closeMessageBox(); });
-    attempt([this] { dialog().userClose(); });
+    if (messageBoxOpen()) return attempt("", [this] { m_platform.closeMessageBox(); });
+    attempt("", [this] { dialog().userClose(); });
 }
 
 // ---- acts
 
 void HeadlessDriver::press(ControlName name) {
     HeadlessControl& found = control(name);
-    attempt([&] {
+    attempt(name, [&] {
         if (auto* button = dynamic_cast<HeadlessButton*>(&found)) return button->userClick();
         if (auto* box = dynamic_cast<HeadlessCheckBox*>(&found)) return box->userClick();
         if (auto* radio = dynamic_cast<HeadlessRadioButton*>(&found)) return radio->userClick();
@@ -193,7 +195,7 @@ void HeadlessDriver::press(ControlName name) {
 
 void HeadlessDriver::check(ControlName name, bool on) {
     HeadlessControl& found = control(name);
-    attempt([&] {
+    attempt(name, [&] {
         if (auto* box = dynamic_cast<HeadlessCheckBox*>(&found)) {
             if (box->checked() != on) box->userClick();
             return;
@@ -220,7 +222,7 @@ void HeadlessDriver::selectRow(ControlName list, std::string_view wanted) {
 
 void HeadlessDriver::selectRowAt(ControlName list, int row) {
     HeadlessControl& found = control(list);
-    attempt([&] {
+    attempt(list, [&] {
         if (auto* box = dynamic_cast<HeadlessListBox*>(&found)) return box->userSelect(row);
         if (auto* combo = dynamic_cast<HeadlessComboBox*>(&found)) return combo->userSelect(row);
         if (auto* view = dynamic_cast<HeadlessListView*>(&found)) return view->userSelect(row);
@@ -231,12 +233,12 @@ void HeadlessDriver::selectRowAt(ControlName list, int row) {
 
 void HeadlessDriver::addRowAt(ControlName list, int row) {
     HeadlessListView& view = listView(list);
-    attempt([&] { view.userSelect(row, true); });
+    attempt(list, [&] { view.userSelect(row, true); });
 }
 
 void HeadlessDriver::doubleClickRow(ControlName list, int row) {
     HeadlessControl& found = control(list);
-    attempt([&] {
+    attempt(list, [&] {
         if (auto* box = dynamic_cast<HeadlessListBox*>(&found)) return box->userDoubleClick(row);
         listView(list).userDoubleClick(row);
     });
@@ -244,7 +246,7 @@ void HeadlessDriver::doubleClickRow(ControlName list, int row) {
 
 void HeadlessDriver::rightClickRow(ControlName list, int row) {
     HeadlessControl& found = control(list);
-    attempt([&] {
+    attempt(list, [&] {
         if (auto* box = dynamic_cast<HeadlessListBox*>(&found)) return box->userRightClick(row);
         listView(list).userRightClick(row);
     });
@@ -254,46 +256,46 @@ void HeadlessDriver::clickHeading(ControlName list, std::string_view heading) {
     HeadlessListView& view = listView(list);
     const Text wanted = czech(heading);
     for (int column = 0; column < view.columnCount(); ++column) {
-        if (view.heading(column) == wanted) return attempt([&] { view.userHeading(column); });
+        if (view.heading(column) == wanted) return attempt("", [&] { view.userHeading(column); });
     }
     throw DriverError("there is no heading \"" + std::string(heading) + "\"");
 }
 
 void HeadlessDriver::setColumnWidth(ControlName list, int column, int pixels) {
     HeadlessListView& view = listView(list);
-    attempt([&] { view.userSetColumnWidth(column, pixels); });
+    attempt(list, [&] { view.userSetColumnWidth(column, pixels); });
 }
 
 void HeadlessDriver::setColumnOrder(ControlName list, const std::vector<int>& order) {
     HeadlessListView& view = listView(list);
-    attempt([&] { view.userSetColumnOrder(order); });
+    attempt(list, [&] { view.userSetColumnOrder(order); });
 }
 
 void HeadlessDriver::selectTab(std::string_view wanted) {
     HeadlessTabControl& tab = tabs();
     const Text text = czech(wanted);
     for (int i = 0; i < tab.count(); ++i) {
-        if (tab.tabTitle(i) == text) return attempt([&] { tab.userSelect(i); });
+        if (tab.tabTitle(i) == text) return attempt("", [&] { tab.userSelect(i); });
     }
     throw DriverError("there is no tab \"" + std::string(wanted) + "\"");
 }
 
 void HeadlessDriver::focus(ControlName name) {
     HeadlessControl& found = control(name);
-    attempt([&] { found.userFocus(); });
+    attempt(name, [&] { found.userFocus(); });
 }
 
 void HeadlessDriver::type(std::string_view text) {
     while (!text.empty()) {
         const char32_t character = takeCodePoint(text);
         if (character == U'\r' && text.starts_with('\n')) text.remove_prefix(1);
-        attempt([&] { dialog().userType(character); });
+        attempt("", [&] { dialog().userType(character); });
     }
 }
 
 void HeadlessDriver::key(std::string_view name) {
     const NamedKey named = keyNamed(name);
-    attempt([&] {
+    attempt("", [&] {
         const bool escape = named.event.key == key::escape;
         if (m_platform.openPopup() != nullptr && escape) return m_platform.closePopup();
         if (messageBoxOpen() && escape) return m_platform.closeMessageBox();
@@ -308,7 +310,7 @@ void HeadlessDriver::key(std::string_view name) {
 // ---- mouse
 
 void HeadlessDriver::mouseMove(ControlName name, ScreenPoint p, bool leftDown) {
-    attempt([&] {
+    attempt(name, [&] {
         if (name.empty()) {
             m_mouse = Point{p.x, p.y};
             return dialog().userMouseMove({p.x, p.y}, leftDown);
@@ -318,21 +320,21 @@ void HeadlessDriver::mouseMove(ControlName name, ScreenPoint p, bool leftDown) {
 }
 
 void HeadlessDriver::mouseDown(ControlName name, ScreenPoint p) {
-    attempt([&] {
+    attempt(name, [&] {
         if (name.empty()) return dialog().userLeftDown({p.x, p.y});
         picture(name).userLeftDown({p.x, p.y});
     });
 }
 
 void HeadlessDriver::mouseUp(ControlName name, ScreenPoint p) {
-    attempt([&] {
+    attempt(name, [&] {
         if (name.empty()) return dialog().userLeftUp({p.x, p.y});
         picture(name).userLeftUp({p.x, p.y});
     });
 }
 
 void HeadlessDriver::rightClick(ControlName name, ScreenPoint p) {
-    attempt([&] { picture(name).userRightDown({p.x, p.y}); });
+    attempt(name, [&] { picture(name).userRightDown({p.x, p.y}); });
 }
 
 ScreenPoint HeadlessDriver::regionPoint(ControlName name, std::string_view region) {
@@ -368,17 +370,17 @@ std::vector<std::string> HeadlessDriver::regions(ControlName name) {
 // ---- window
 
 void HeadlessDriver::resizeDialog(ScreenSize outer) {
-    attempt([&] { dialog().userResize({outer.width, outer.height}); });
+    attempt("", [&] { dialog().userResize({outer.width, outer.height}); });
 }
 
 void HeadlessDriver::moveDialog(ScreenPoint topLeft) {
-    attempt([&] { dialog().userMove({topLeft.x, topLeft.y}); });
+    attempt("", [&] { dialog().userMove({topLeft.x, topLeft.y}); });
 }
 
 void HeadlessDriver::setDialogState(std::string_view state) {
     const bool known = state == "normal" || state == "maximized" || state == "minimized";
     if (!known) throw DriverError("a dialog is normal, maximized or minimized");
-    attempt([&] {
+    attempt("", [&] {
         dialog().userShowState(state == "normal"      ? ShowState::normal
                                : state == "maximized" ? ShowState::maximized
                                                       : ShowState::minimized);

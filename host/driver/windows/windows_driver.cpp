@@ -40,6 +40,12 @@ bool isMessageBox(HWND window) {
     return window != nullptr && !isOurs(window) && GetDlgItem(window, 0xFFFF) != nullptr;
 }
 
+// Where no dialog opens under it: it would move over pictures and raise tooltips by itself.
+void parkPointer() {
+    SetCursorPos(GetSystemMetrics(SM_XVIRTUALSCREEN) + GetSystemMetrics(SM_CXVIRTUALSCREEN) - 1,
+                 GetSystemMetrics(SM_YVIRTUALSCREEN) + GetSystemMetrics(SM_CYVIRTUALSCREEN) - 1);
+}
+
 std::string messageIcon(HWND box) {
     const std::array<std::pair<const wchar_t*, const char*>, 4> icons = {
         {{IDI_HAND, "stop"},
@@ -287,6 +293,7 @@ void WindowsDriver::drive(std::function<bool(Driver&)> next) {
     m_idleSince = 0;
     m_givenUp = false;
     if (!next) return;
+    parkPointer();
     m_stepper->drive([this, run = std::move(next)] {
         try {
             m_idleSince = step(run) ? 0 : m_idleSince;

@@ -13,11 +13,11 @@ enum class DescribeQuestion : unsigned {
     isOurs = 1,  // dialogs and pages: answers 1, writes the template's name
     rowLook,     // list boxes, row index: "textColor|background|icon", colours "r,g,b" or empty
     regions,     // pictures: one region a line, "left top right bottom name"
-    cursor,      // pictures and dialogs: the cursor's name; a dialog's over the topic's "x y", if given
-    drawing,     // pictures: the recorded operations, one a line
-    topic,       // dialogs: Dialog::onDescribe of the topic
-    tooltip,     // controls: the tooltip's text now
-    icon         // buttons and dialogs: the icon's resource number
+    cursor,  // pictures and dialogs: the cursor's name; a dialog's over the topic's "x y", if given
+    drawing,  // pictures: the recorded operations, one a line
+    topic,    // dialogs: Dialog::onDescribe of the topic
+    tooltip,  // controls: the tooltip's text now
+    icon      // buttons and dialogs: the icon's resource number
 };
 
 // The answer is code page 1250. The message returns the number of bytes that the whole answer has

@@ -130,11 +130,10 @@ bool WindowsDialog::reflect(UINT message, WPARAM wParam, LPARAM lParam, LRESULT&
             ControlCore* control = controlOf(reinterpret_cast<HWND>(lParam));
             if (!control) return false;
             // Buttons cannot be pressed by a message either while the user could not press them.
-            const bool pressing = GetWindowLongPtrW(control->window(), GWL_STYLE) &&
-                                  (dynamic_cast<WindowsButton*>(control) ||
+            const bool pressable = dynamic_cast<WindowsButton*>(control) ||
                                    control->kind() == ControlKind::checkBox ||
-                                   control->kind() == ControlKind::radioButton);
-            if (pressing && HIWORD(wParam) == BN_CLICKED &&
+                                   control->kind() == ControlKind::radioButton;
+            if (pressable && HIWORD(wParam) == BN_CLICKED &&
                 (!control->isEnabled() || !control->isReachable() || !IsWindowEnabled(m_window))) {
                 return true;
             }
@@ -210,26 +209,29 @@ bool WindowsDialog::handleMouse(UINT message, LPARAM lParam) {
     }
 }
 
+CursorShape WindowsDialog::cursorAt(Point p) const {
+    const auto ask = onCursor;
+    const std::optional<CursorShape> shape = ask ? ask(p) : std::nullopt;
+    return shape.value_or(m_cursor);
+}
+
 bool WindowsDialog::showCursor() {
     POINT at = {};
     GetCursorPos(&at);
     ScreenToClient(m_window, &at);
-    const auto ask = onCursor;
-    const std::optional<CursorShape> shape =
-        ask ? ask(Point{static_cast<int>(at.x), static_cast<int>(at.y)}) : std::nullopt;
-    if (!shape && m_cursor == CursorShape::arrow) return false;
-    SetCursor(systemCursor(shape.value_or(m_cursor)));
+    const CursorShape shape = cursorAt({static_cast<int>(at.x), static_cast<int>(at.y)});
+    if (shape == CursorShape::arrow) return false;
+    SetCursor(systemCursor(shape));
     return true;
 }
 
 // point: "x y" in the client area, or null.
 CursorShape WindowsDialog::cursorOver(const char* point) const {
-    const auto ask = onCursor;
-    if (!ask || !point) return m_cursor;
+    if (!point) return m_cursor;
     char* rest = nullptr;
     const long x = std::strtol(point, &rest, 10);
     const long y = std::strtol(rest, nullptr, 10);
-    return ask(Point{static_cast<int>(x), static_cast<int>(y)}).value_or(m_cursor);
+    return cursorAt({static_cast<int>(x), static_cast<int>(y)});
 }
 
 Text WindowsDialog::describeSelf(DescribeQuestion question, const DescribeRequest& request) {

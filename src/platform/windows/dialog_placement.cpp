@@ -36,11 +36,11 @@ void WindowsDialog::setIcon(int number) {
     m_icon = number;
     if (!m_window) return;
     const Size large{GetSystemMetrics(SM_CXICON), GetSystemMetrics(SM_CYICON)};
-    const Size small_{GetSystemMetrics(SM_CXSMICON), GetSystemMetrics(SM_CYSMICON)};
+    const Size little{GetSystemMetrics(SM_CXSMICON), GetSystemMetrics(SM_CYSMICON)};
     SendMessageW(m_window, WM_SETICON, ICON_BIG,
                  reinterpret_cast<LPARAM>(icons().get(number, large)));
     SendMessageW(m_window, WM_SETICON, ICON_SMALL,
-                 reinterpret_cast<LPARAM>(icons().get(number, small_)));
+                 reinterpret_cast<LPARAM>(icons().get(number, little)));
 }
 
 Rect WindowsDialog::clientArea() const {
@@ -123,6 +123,7 @@ Rect WindowsDialog::toPixels(const UnitRect& units) const {
 }
 
 void WindowsDialog::setArea(const Rect& area) {
+    if (!isPage()) return;
     m_windowArea = area;
     if (!m_window) return;
     SetWindowPos(m_window, nullptr, area.left, area.top, area.width(), area.height(),
@@ -133,7 +134,7 @@ void WindowsDialog::show(bool on) {
     if (!isPage() || on == m_pageVisible) return;
     m_pageVisible = on;
     WindowsDialog& top = root();
-    if (!on && top.m_focus && &top.m_focus->dialog() == this) {
+    if (!on && top.m_focus && !top.m_focus->isReachable()) {
         top.moveFocusQuietly(top.nextStop(top.m_focus, false));
     }
     if (!m_window) return;

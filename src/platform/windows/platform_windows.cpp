@@ -127,7 +127,10 @@ bool WindowsPlatform::setClipboardText(std::string_view text) {
         std::memcpy(memory, converted.c_str(), bytes);
         GlobalUnlock(block);
         // The clipboard needs a window that owns what is put there.
-        const HWND owner = m_dialogs.empty() ? GetActiveWindow() : m_dialogs.back()->window();
+        HWND owner = GetActiveWindow();
+        for (const WindowsDialog* dialog : m_dialogs) {
+            if (dialog->window()) owner = dialog->window();
+        }
         if (openClipboard(owner)) {
             done = EmptyClipboard() && SetClipboardData(CF_UNICODETEXT, block);
             CloseClipboard();

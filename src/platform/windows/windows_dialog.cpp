@@ -227,14 +227,6 @@ ControlCore* WindowsDialog::controlOf(HWND window) const {
 
 // ---- ending
 
-void WindowsDialog::runGuarded(const std::function<void()>& action) {
-    try {
-        action();
-    } catch (...) {
-        failed();
-    }
-}
-
 void WindowsDialog::failed() {
     root().end(-1);
 }
@@ -303,17 +295,14 @@ void WindowsDialog::aboutToGo() {
     runGuarded([this] { fire(onDestroy); });
     for (WindowsDialog* page : m_pages) page->aboutToGo();
     if (m_running) end(id::cancel);
-    if (!isPage()) {
-        sendGuestsHome();
-        release();
-    } else if (!m_parent || !m_parent->m_closed) {
-        // A page that goes alone.
-        sendGuestsHome();
-        release();
+    // A page that goes with its dialog is released by it.
+    if (!isPage() || !m_parent || !m_parent->m_closed) {
+        runGuarded([this] {
+            sendGuestsHome();
+            release();
+        });
         WindowsDialog& top = root();
-        for (const auto& control : m_controls) {
-            if (top.m_focus == control.get()) top.m_focus = nullptr;
-        }
+        if (isPage() && top.m_focus && &top.m_focus->dialog() == this) top.m_focus = nullptr;
     }
     --m_quietFocus;
 }

@@ -103,7 +103,15 @@ private:
     void aboutToGo();
     void sendGuestsHome();
     void release();
-    void runGuarded(const std::function<void()>& action);
+    // An exception of the action ends the modal dialog and goes no further.
+    template <class Action>
+    void runGuarded(const Action& action) {
+        try {
+            action();
+        } catch (...) {
+            failed();
+        }
+    }
 
     // ---- place and state of the window (dialog_placement.cpp)
     void centre();
@@ -139,6 +147,7 @@ private:
     bool activated();
     CursorShape cursorOver(const char* point) const;
     Text describeSelf(DescribeQuestion question, const DescribeRequest& request);
+    CursorShape cursorAt(Point p) const;
     bool showCursor();
 
     WindowsPlatform& m_platform;
