@@ -86,7 +86,8 @@ Data picture(int width, int height) {
     for (int y = 0; y < height; ++y) {
         for (int x = 0; x < 3 * width; ++x) {
             const bool noise = y % 7 == 3 || x % 101 < 5;
-            rgb.push_back(static_cast<std::uint8_t>(noise ? random() & 0xFFU : 240U + x / 300U));
+            const auto flat = static_cast<std::uint8_t>(240 + x / 300);
+            rgb.push_back(noise ? static_cast<std::uint8_t>(random()) : flat);
         }
     }
     return rgb;
