@@ -4,7 +4,9 @@
 #include <limits>
 #include <utility>
 
+#include "composition/layout.h"
 #include "composition/library_entries.h"
+#include "composition/section_scale.h"
 #include "composition/stored_form.h"
 
 namespace lx {
@@ -136,14 +138,19 @@ LibraryRead loadLibrary(const Path& path, std::int32_t project, Files& files) {
 }
 
 bool findStoredSame(const Path& path, std::int32_t project, std::string_view label,
-                    const CRez& head, Files& files) {
+                    const CRez& head, Size preview, Files& files) {
     const FileRead file = files.read(path);
     if (project == deletedProject) return false;
     LibraryEntries entries(file.bytes);
     while (entries.next()) {
         if (entries.project() != project || entries.label() != label) continue;
         BinaryReader reader(entries.design());
-        if (compare(&head, readDesign(reader).design.head()) == 0) return true;
+        const RezChain stored = readDesign(reader).design;
+        if (stored.head() != nullptr && hasFlaggedBend(*stored.head())) {
+            layOut(*stored.head());
+            settleSection(*stored.head(), preview);
+        }
+        if (compare(&head, stored.head()) == 0) return true;
     }
     return false;
 }

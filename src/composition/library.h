@@ -6,6 +6,7 @@
 
 #include "composition/records.h"
 #include "platform/files.h"
+#include "platform/geometry.h"
 
 namespace lx {
 
@@ -31,9 +32,10 @@ LibraryRead loadLibrary(const Path& path, std::int32_t project, Files& files);
 LibraryRead parseLibrary(std::string_view bytes, std::int32_t project);
 
 // True when an entry of that project and label holds the same design (compare gives 0, the given
-// design first).
+// design first). The levels of layers on a sloping step depend on the preview of the program that
+// stored them; they are taken as a preview of this size, in pixels, shows them.
 bool findStoredSame(const Path& path, std::int32_t project, std::string_view label,
-                    const CRez& head, Files& files);
+                    const CRez& head, Size preview, Files& files);
 
 // Appends the finished entry in one write, then marks the entries of that project and replaceLabel
 // that were there before it deleted (none when replaceLabel is empty). A torn tail is first closed

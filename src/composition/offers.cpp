@@ -6,6 +6,7 @@
 #include <string_view>
 #include <utility>
 
+#include "composition/bearing.h"
 #include "composition/saturate.h"
 #include "platform/numbers.h"
 
@@ -41,10 +42,6 @@ RezChain withoutOversized(std::vector<Candidate> candidates) {
 
 bool spans(const CPreklItem& item, double openingWidth) {
     return item.maxOpening - openingWidth > -openingTolerance;
-}
-
-std::int32_t lengthOver(std::int32_t opening, std::int32_t bearing) {
-    return saturated(opening + 2 * std::int64_t{bearing});
 }
 
 // Items of a type carry its number counted from 1.

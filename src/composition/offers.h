@@ -8,9 +8,6 @@
 
 namespace lx {
 
-// Default bearing length of steel sections at each end, mm.
-inline constexpr std::int32_t defaultBearing = 150;
-
 // Chain of offered records in catalogue order. type from 0; openingWidth in mm as the call has it;
 // headLength is the design's opening width in whole mm. chosen: items that stay however oversized.
 RezChain buildPrecastOffer(const CPreklItem* catalogue, std::int32_t type, double openingWidth,

@@ -55,13 +55,17 @@ std::array<DesignPage*, page::count> CObr1::pages() const {
 
 int CObr1::Relayout() {
     if (!m_model.Relayout()) return -1;
+    RefreshAll();
+    return 0;
+}
+
+void CObr1::RefreshAll() {
     RedrawPreviews();
     RefreshProperties();
     RefreshAvailability();
     m_precast->refreshOfferLooks();
     m_steel->refreshOfferLooks();
     m_geometry->RefreshDescription();
-    return 0;
 }
 
 void CObr1::SelectRecord(CRez* record) {
@@ -128,11 +132,6 @@ void CObr1::ShowDesignTypes() {
     }
 }
 
-// No value can be edited in the previews, so there is never an edit to refuse.
-bool CObr1::EndEdit() {
-    return true;
-}
-
 MessageAnswer CObr1::showMessage(std::string_view text, MessageIcon icon, MessageButtons buttons) {
     return m_context.platform.messageBox(Owner{m_window.get(), m_owner.hostWindow}, text,
                                          str(warningCaption), icon, buttons);
@@ -183,6 +182,7 @@ void CObr1::confirm() {
     resultA = result.insert;
     resultB = result.foldedSection;
     resultText = std::move(result.text);
+    RedrawPreviews();
     switch (answer) {
         case ConfirmationAnswer::done:
             m_window->end(id::ok);

@@ -4,6 +4,7 @@
 
 #include <array>
 
+#include "design/CRoletka.h"
 #include "design/dialog_settings.h"
 #include "design/library_session.h"
 #include "design/page_index.h"
@@ -39,6 +40,7 @@ private:
     DialogSettings& settings() override { return m_settings; }
     Dialog& window() override { return *m_window; }
     int Relayout() override;
+    void RefreshAll() override;
     void SelectRecord(CRez* record) override;
     void ShowTab(int index) override;
     void RefreshProperties() override;
@@ -46,7 +48,15 @@ private:
     void RebuildPrecastOffer() override;
     void RebuildSteelOffer() override;
     void ShowDesignTypes() override;
-    bool EndEdit() override;
+    void SetBends(int shape) override;
+    void ComposePrecast() override;
+    void ComposeSteel() override;
+    void RemoveCurrent() override;
+    bool EndEdit() override { return m_roletka->commit(); }
+    void OpenEdit(const EditRequest& request, Picture& picture, Point at) override {
+        m_roletka->open(request, picture, at);
+    }
+    bool editVisible() const override { return m_roletka->visible(); }
     void RedrawPreviews() override;
     MessageAnswer showMessage(std::string_view text, MessageIcon icon,
                               MessageButtons buttons) override;
@@ -69,6 +79,9 @@ private:
     bool focusOutsidePages();
     void chooseSource(PropertiesSource source);
     void confirm();
+    void openCommandMenu();
+    bool commandEnabled(int command);
+    void run(int command);
     void showBubbleField();
     Text describe(std::string_view topic) const;
 
@@ -81,6 +94,7 @@ private:
     DialogSettings m_settings;
     LibrarySession m_library;
     std::unique_ptr<Dialog> m_window;
+    std::unique_ptr<CRoletka> m_roletka;
     // Children of the window, none until it opens; none at all when a catalogue is missing.
     std::unique_ptr<SectionPreview> m_section;
     std::unique_ptr<GeometryPage> m_geometry;

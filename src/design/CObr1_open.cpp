@@ -23,6 +23,9 @@ constexpr int identifyAnswer = 1;
 
 void CObr1::connect() {
     Dialog& window = *m_window;
+    DesignServices& services = *this;
+    m_roletka = std::make_unique<CRoletka>(window.get<ComboBox>(id::inPlaceBox), services);
+    window.get<Picture>(id::sectionPreview).onContext = [this] { openCommandMenu(); };
     window.setIcon(icon::module);
     window.get<Button>(id::moduleIcon).setIcon(icon::module);
     window.answerMessage(identifyMessage, identifyAnswer);

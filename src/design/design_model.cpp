@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
+#include "composition/automatic.h"
 #include "composition/hand_over.h"
+#include "composition/section_scale.h"
 #include "design/opening.h"
 #include "design/page_index.h"
 #include "design/properties_text.h"
@@ -63,6 +65,7 @@ CRez* DesignModel::head() const {
 bool DesignModel::Relayout() {
     if (head() == nullptr) return false;
     layOut(*head());
+    settleSection(*head(), m_values.sectionSize);
     return true;
 }
 
@@ -76,6 +79,21 @@ int DesignModel::LayerCount() const {
 
 Family DesignModel::DesignFamily() const {
     return head() ? designFamily(*head()) : Family::none;
+}
+
+bool DesignModel::ComposePrecast(const Profile& rules) {
+    return composed(
+        composePrecast(chain(), m_precastOffer.selectedRecord(), m_precastOffer.rows(), rules));
+}
+
+bool DesignModel::ComposeSteel() {
+    return composed(composeSteel(chain(), m_steelOffer.selectedRecord()));
+}
+
+bool DesignModel::composed(CRez* current) {
+    if (current == nullptr) return false;
+    m_current = current;
+    return true;
 }
 
 std::int32_t DesignModel::headLength() const {

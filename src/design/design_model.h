@@ -8,6 +8,7 @@
 #include "design/layer_commands.h"
 #include "design/module_values.h"
 #include "design/offer.h"
+#include "settings/profile.h"
 
 namespace lx {
 
@@ -44,12 +45,17 @@ public:
     int LayerCount() const;
     Family DesignFamily() const;
     DesignEdit edit() { return {chain(), m_current}; }
+    // Replace every layer by what the selected element of the offer makes, laid out; false when
+    // there is none, then nothing has changed. Steel may turn that element in the offer.
+    bool ComposePrecast(const Profile& rules);
+    bool ComposeSteel();
 
     // ---- catalogues and offers
     void rebuildPrecastOffer(int type);
     void rebuildSteelOffer(int type);
     Offer& precastOffer() { return m_precastOffer; }
     Offer& steelOffer() { return m_steelOffer; }
+    bool precastSelected() const { return m_precastOffer.selectedRecord() != nullptr; }
     // Catalogue type of the last precast or steel layer; none without such a layer.
     std::optional<int> precastTypeUsed() const;
     std::optional<int> steelTypeUsed() const;
@@ -76,6 +82,7 @@ public:
 
 private:
     std::int32_t headLength() const;
+    bool composed(CRez* current);
 
     ModuleValues& m_values;
     RezChain m_own;                      // what entry 0 names

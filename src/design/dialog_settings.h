@@ -4,6 +4,7 @@
 
 #include "design/annotation.h"
 #include "settings/profile.h"
+#include "settings/value_history.h"
 
 namespace lx {
 
@@ -27,6 +28,8 @@ public:
     void storeSteelType(int type);
     Text bubbleName() const;
     void storeBubbleName(std::string_view name);
+    // Values remembered for one kind of in-place edit.
+    ValueHistory history(std::string_view section) { return {m_dialog, section}; }
 
 private:
     Profile m_user;

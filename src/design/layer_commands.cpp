@@ -1,49 +1,82 @@
 #include "design/layer_commands.h"
 
+#include <algorithm>
+
+#include "composition/bearing.h"
 #include "composition/layout.h"
-#include "composition/offers.h"
 #include "composition/saturate.h"
-#include "resources/strings.h"
+#include "composition/special_layers.h"
+#include "design/availability.h"
 
 namespace lx {
 
 namespace {
 
-// Least free space that a command accepts, mm; its button asks for more.
+// Least room that a command accepts, mm; its button asks for more.
 constexpr std::int32_t insulationFrom = 10;
 constexpr std::int32_t spaceFrom = 5;
+constexpr std::int32_t monolithFrom = 5;
 
 constexpr std::int32_t insulationHeight = 200;  // mm, when there is no layer to take it from
 constexpr std::int32_t spaceHeight = 100;       // mm
+constexpr std::int32_t monolithHeight = 300;    // mm
 
-constexpr int insulationName = 83;
-constexpr int spaceName = 94;
+constexpr std::int64_t firstInsulationWidth = 80;  // mm at most, in a wall without layers
+constexpr std::int32_t thinInsulationWidth = 30;   // mm
+constexpr std::int32_t leastCastBearing = 50;      // mm; less becomes the default
 
-std::int32_t sum(std::int32_t length, std::int32_t bearing) {
-    return saturated(std::int64_t{length} + 2 * std::int64_t{bearing});
+CRez& insertBehindCurrent(DesignEdit design, std::unique_ptr<CRez> layer) {
+    design.current = design.chain.insertAfter(design.current, std::move(layer));
+    return *design.current;
 }
 
-// What a new layer starts from: the current layer, or nothing behind the head.
-std::unique_ptr<CRez> likeCurrent(const CRez& current) {
-    if (current.isHead()) return std::make_unique<CRez>();
-    return std::make_unique<CRez>(current);
+CRez& insertElement(DesignEdit design, const CRez& element) {
+    if (!design.chain.contains(design.current)) design.current = design.chain.last();
+    return insertBehindCurrent(design, std::make_unique<CRez>(element));
+}
+
+// A new layer behind the current record: a copy of it, or of nothing behind the head.
+CRez& insertSpecial(DesignEdit design, std::int32_t kind, std::int32_t width) {
+    const CRez& current = *design.current;
+    auto layer = current.isHead() ? std::make_unique<CRez>() : std::make_unique<CRez>(current);
+    makeSpecial(*layer, kind);
+    layer->width = width;
+    return insertBehindCurrent(design, std::move(layer));
+}
+
+enum class Neighbour { before, behind };
+
+// The neighbour that is preferred becomes current; the one before is always there.
+CommandAnswer remove(DesignEdit design, Neighbour preferred) {
+    if (design.current == nullptr || design.current->isHead()) return CommandAnswer::nothing;
+    CRez* before = design.chain.before(design.current);
+    if (before == nullptr) return CommandAnswer::nothing;
+    CRez* behind = design.current->next;
+    design.chain.unlink(design.current);
+    design.current = preferred == Neighbour::behind && behind != nullptr ? behind : before;
+    return CommandAnswer::done;
 }
 
 }  // namespace
-
-std::int32_t settledBearing(CRez& head) {
-    if (head.maxOpening == 0) head.maxOpening = defaultBearing;
-    return head.maxOpening;
-}
 
 CommandAnswer addPrecast(DesignEdit design, const CRez* element) {
     if (design.chain.empty()) return CommandAnswer::nothing;
     const Family family = designFamily(*design.chain.head());
     if (family == Family::steel || family == Family::monolith) return CommandAnswer::wrongType;
     if (element == nullptr) return CommandAnswer::nothing;
-    const bool known = design.chain.contains(design.current);
-    CRez* place = known ? design.current : design.chain.last();
-    design.current = design.chain.insertAfter(place, std::make_unique<CRez>(*element));
+    insertElement(design, *element);
+    return CommandAnswer::done;
+}
+
+CommandAnswer addSteel(DesignEdit design, const CRez* element) {
+    if (design.chain.empty()) return CommandAnswer::nothing;
+    CRez& head = *design.chain.head();
+    const Family family = designFamily(head);
+    if (family == Family::precast || family == Family::monolith) return CommandAnswer::wrongType;
+    if (element == nullptr) return CommandAnswer::nothing;
+    const std::int32_t total = lengthOver(head.length, settledBearing(head));
+    CRez& section = insertElement(design, *element);
+    if (section.next == nullptr) section.length = total;
     return CommandAnswer::done;
 }
 
@@ -52,18 +85,15 @@ CommandAnswer addInsulation(DesignEdit design) {
     CRez& head = *design.chain.head();
     const std::int32_t free = freeSpace(head);
     if (free < insulationFrom) return CommandAnswer::nothing;
-    const std::int32_t total = sum(head.length, settledBearing(head));
+    const std::int32_t total = lengthOver(head.length, settledBearing(head));
     if (!design.chain.contains(design.current)) return CommandAnswer::nothing;
 
-    auto layer = likeCurrent(*design.current);
-    if (design.current->isHead()) {
-        layer->height = insulationHeight;
-        layer->length = total;
+    const bool behindHead = design.current->isHead();
+    CRez& layer = insertSpecial(design, kind::insulation, free);
+    if (behindHead) {
+        layer.height = insulationHeight;
+        layer.length = total;
     }
-    layer->width = free;
-    layer->name = Text(str(insulationName));
-    layer->kind = kind::insulation;
-    design.current = design.chain.insertAfter(design.current, std::move(layer));
     return CommandAnswer::done;
 }
 
@@ -73,24 +103,71 @@ CommandAnswer addSpace(DesignEdit design) {
     if (free < spaceFrom) return CommandAnswer::nothing;
     const bool layerIsCurrent = design.chain.contains(design.current) && !design.current->isHead();
     if (!layerIsCurrent) return CommandAnswer::nothing;
+    insertSpecial(design, kind::space, free).height = spaceHeight;
+    return CommandAnswer::done;
+}
 
-    auto layer = std::make_unique<CRez>(*design.current);
-    layer->width = free;
-    layer->height = spaceHeight;
-    layer->name = Text(str(spaceName));
-    layer->kind = kind::space;
-    design.current = design.chain.insertAfter(design.current, std::move(layer));
+CommandAnswer addSteelInsulation(DesignEdit design) {
+    if (design.chain.empty()) return CommandAnswer::nothing;
+    CRez& head = *design.chain.head();
+    std::int64_t room = insulationRoom(head, design.current);
+    if (room < insulationFrom) return CommandAnswer::nothing;
+    if (head.next == nullptr) room = std::min(room, firstInsulationWidth);
+    const std::int32_t total = lengthOver(head.length, settledBearing(head));
+    if (!design.chain.contains(design.current)) return CommandAnswer::nothing;
+
+    const bool behindHead = design.current->isHead();
+    CRez& layer = insertSpecial(design, kind::insulation, saturated(room));
+    if (behindHead) layer.height = insulationHeight;
+    layer.length = total;
+    return CommandAnswer::done;
+}
+
+CommandAnswer addMonolith(DesignEdit design) {
+    if (design.chain.empty()) return CommandAnswer::nothing;
+    CRez& head = *design.chain.head();
+    const std::int32_t free = freeSpace(head);
+    if (free < monolithFrom) return CommandAnswer::nothing;
+    settledBearing(head);
+    if (!design.chain.contains(design.current)) return CommandAnswer::nothing;
+
+    if (head.maxOpening < leastCastBearing) head.maxOpening = defaultBearing;
+    CRez& layer = insertSpecial(design, kind::monolith, free);
+    layer.height = monolithHeight;
+    layer.length = lengthOver(head.length, head.maxOpening);
+    return CommandAnswer::done;
+}
+
+CommandAnswer insertInsulation(DesignEdit design) {
+    if (!design.chain.contains(design.current)) return CommandAnswer::nothing;
+    const CRez& current = *design.current;
+    auto layer = std::make_unique<CRez>();
+    makeSpecial(*layer, kind::insulation);
+    layer->width = thinInsulationWidth;
+    layer->length = current.length;
+    layer->height = current.height;
+    layer->offset = saturated(std::int64_t{current.offset} + current.width);
+    insertBehindCurrent(design, std::move(layer));
+    return CommandAnswer::done;
+}
+
+CommandAnswer moveCurrent(DesignEdit design, CRez* target) {
+    RezChain& chain = design.chain;
+    CRez* current = design.current;
+    const bool movable = chain.contains(current) && !current->isHead() && chain.contains(target);
+    if (!movable || target == current || target == current->next) return CommandAnswer::nothing;
+    std::unique_ptr<CRez> moved = chain.unlink(current);
+    CRez* place = target->isHead() ? chain.last() : chain.before(target);
+    design.current = chain.insertAfter(place, std::move(moved));
     return CommandAnswer::done;
 }
 
 CommandAnswer removeCurrent(DesignEdit design) {
-    if (design.current == nullptr || design.current->isHead()) return CommandAnswer::nothing;
-    CRez* before = design.chain.before(design.current);
-    if (before == nullptr) return CommandAnswer::nothing;
-    CRez* after = design.current->next;
-    design.chain.unlink(design.current);
-    design.current = after != nullptr ? after : before;
-    return CommandAnswer::done;
+    return remove(design, Neighbour::behind);
+}
+
+CommandAnswer removeCurrentGoingBack(DesignEdit design) {
+    return remove(design, Neighbour::before);
 }
 
 }  // namespace lx

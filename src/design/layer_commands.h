@@ -1,5 +1,5 @@
-// The commands of the pages that add and remove layers, on a design and its current record. None of
-// them lays the design out.
+// The commands of the pages and of the design's menu that add and remove layers, on a design and
+// its current record. None of them lays the design out.
 #pragma once
 
 #include "composition/records.h"
@@ -18,17 +18,27 @@ struct DesignEdit {
     CRez*& current;
 };
 
-// Bearing length of elements that follow the opening, at each end: the head's, which becomes the
-// default when it is 0.
-std::int32_t settledBearing(CRez& head);
-
 // A copy of the offered element behind the current record, or at the end when that is not in the
-// chain; null = nothing selected.
+// chain; null = nothing selected. A steel section at the end takes the length of the opening with
+// the head's bearing, between others it keeps the offer's.
 CommandAnswer addPrecast(DesignEdit design, const CRez* element);
+CommandAnswer addSteel(DesignEdit design, const CRez* element);
 // Insulation and a space as the precast page adds them, filling the free space of the wall.
 CommandAnswer addInsulation(DesignEdit design);
 CommandAnswer addSpace(DesignEdit design);
+// Insulation as the pages of steel and cast parts add it: it reaches into an open section before
+// it and over the bearing on both sides, and does not fill a wall that is still empty.
+CommandAnswer addSteelInsulation(DesignEdit design);
+// A cast part that fills the free space, in a design of any family.
+CommandAnswer addMonolith(DesignEdit design);
+// A thin insulation behind the current record whatever room there is.
+CommandAnswer insertInsulation(DesignEdit design);
+// Moves the current layer before another one, or behind the last one when the target is the head.
+// Nothing happens onto itself or the layer behind it.
+CommandAnswer moveCurrent(DesignEdit design, CRez* target);
 // Removes the current layer; the one behind it becomes current, else the one before it.
 CommandAnswer removeCurrent(DesignEdit design);
+// The same, but the record before it becomes current.
+CommandAnswer removeCurrentGoingBack(DesignEdit design);
 
 }  // namespace lx

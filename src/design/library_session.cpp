@@ -59,7 +59,8 @@ StoreAnswer LibrarySession::StoreDesign(DesignModel& model, std::string_view bub
     const Text label = paddedLabel(bubble);
     Text replaced;
     if (model.listsLabel(label)) {
-        if (!findStoredSame(*path, project, label, head, m_files)) return StoreAnswer::differs;
+        if (!findStoredSame(*path, project, label, head, model.values().sectionSize, m_files))
+            return StoreAnswer::differs;
         replaced = label;
     }
     return appendDesign(*path, project, head, replaced, m_files) ? StoreAnswer::done

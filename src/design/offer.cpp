@@ -3,14 +3,14 @@
 namespace lx {
 
 Offer::Offer(RezChain records) : m_records(std::move(records)) {
-    for (const CRez* record = m_records.head(); record != nullptr; record = record->next) {
+    for (CRez* record = m_records.head(); record != nullptr; record = record->next) {
         m_rows.push_back(record);
     }
     select(0);
 }
 
 Offer::Offer(RezChain records, const std::vector<int>& order) : Offer(std::move(records)) {
-    std::vector<const CRez*> sorted;
+    std::vector<CRez*> sorted;
     sorted.reserve(order.size());
     for (const int index : order) sorted.push_back(m_rows[static_cast<std::size_t>(index)]);
     m_rows = std::move(sorted);

@@ -1,6 +1,7 @@
 // An offer as its page lists it: the records in the order of the list, and which one is selected.
 #pragma once
 
+#include <span>
 #include <vector>
 
 #include "composition/offers.h"
@@ -22,10 +23,16 @@ public:
     // Anything outside the list selects nothing.
     void select(int row);
     const CRez* selectedRecord() const { return m_selected < 0 ? nullptr : &row(m_selected); }
+    // To be changed in the offer itself; its links lead on in the order of the chain.
+    CRez* selectedRecord() {
+        return m_selected < 0 ? nullptr : m_rows[static_cast<std::size_t>(m_selected)];
+    }
+    // In list order.
+    std::span<const CRez* const> rows() const { return m_rows; }
 
 private:
     RezChain m_records;
-    std::vector<const CRez*> m_rows;  // into m_records, which alone owns them
+    std::vector<CRez*> m_rows;  // into m_records, which alone owns them
     int m_selected = -1;
 };
 

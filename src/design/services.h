@@ -5,6 +5,7 @@
 #include "design/dialog_settings.h"
 #include "design/library_session.h"
 #include "design/module_values.h"
+#include "design/value_commit.h"
 
 namespace lx {
 
@@ -25,6 +26,8 @@ public:
     // properties text, the availability of the layer commands and the geometry page. -1 without a
     // design.
     virtual int Relayout() = 0;
+    // What Relayout does, without laying the design out.
+    virtual void RefreshAll() = 0;
     // Null means the head. Redraws both previews; refreshes availability and properties.
     virtual void SelectRecord(CRez* record) = 0;
     virtual void ShowTab(int index) = 0;
@@ -35,8 +38,18 @@ public:
     virtual void RebuildSteelOffer() = 0;
     // The "Typ:" boxes show the types of the design's last precast and last steel layer.
     virtual void ShowDesignTypes() = 0;
+    // The commands that pages and the command menu share. Each ends a pending edit first and lays
+    // the design out. shape: number of the bend preset, 0 = straight.
+    virtual void SetBends(int shape) = 0;
+    virtual void ComposePrecast() = 0;
+    virtual void ComposeSteel() = 0;
+    // The layer behind the removed one becomes current, else the one before it.
+    virtual void RemoveCurrent() = 0;
     // Commits and closes a pending in-place edit; false when its value was refused.
     virtual bool EndEdit() = 0;
+    // Stands the in-place drop-down over that point of the picture.
+    virtual void OpenEdit(const EditRequest& request, Picture& picture, Point at) = 0;
+    virtual bool editVisible() const = 0;
     virtual void RedrawPreviews() = 0;
     // A message box over the dialog with the caption "Upozornění".
     virtual MessageAnswer showMessage(std::string_view text, MessageIcon icon,

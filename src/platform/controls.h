@@ -226,6 +226,7 @@ public:
     std::function<void(Point)> onRightDown;
     // The menu key or Shift+F10.
     std::function<void()> onContext;
+    // Asked for when a paint that was due has happened.
     std::function<std::vector<PictureRegion>()> regions;
 };
 

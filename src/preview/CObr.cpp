@@ -1,11 +1,38 @@
 #include "preview/CObr.h"
 
-#include "preview/ground.h"
+#include <vector>
+
+#include "design/services.h"
+#include "preview/section_drawing.h"
 
 namespace lx {
 
-CObr::CObr(Picture& picture) : m_picture(picture) {
-    picture.onPaint = [&picture](Canvas& canvas) { fillGround(canvas, picture.size()); };
+CObr::CObr(DesignServices& services, Picture& picture)
+    : m_services(services), m_picture(picture), m_mouse(services, picture, m_regions) {
+    picture.onPaint = [this](Canvas& canvas) { paint(canvas); };
+    picture.regions = [this] { return pictureRegions(m_regions); };
+}
+
+// The old picture can be clicked until the new one stands, but nothing of it whose record is gone.
+void CObr::redraw() {
+    const RezChain& design = m_services.model().chain();
+    std::erase_if(m_regions, [&design](const HitRegion& region) {
+        return recordOf(design, region.target) == nullptr;
+    });
+    m_picture.redraw();
+}
+
+void CObr::paint(Canvas& canvas) {
+    const DesignModel& model = m_services.model();
+    SectionInput input;
+    input.head = model.head();
+    input.current = model.current();
+    input.client = m_picture.size();
+    input.openingWidth = model.values().openingWidth;
+    input.exteriorLeft = m_exteriorLeft;
+    input.dropMarker = m_mouse.dropMarker();
+    input.iconSize = m_services.context().platform.screen().iconSize;
+    m_regions = drawSection(canvas, input);
 }
 
 }  // namespace lx

@@ -1,24 +1,29 @@
-// The section preview of the design dialog. For now a black picture: nothing of the design is
-// drawn.
+// The section preview of the design dialog.
 #pragma once
 
 #include "design/pages.h"
+#include "preview/hit_regions.h"
+#include "preview/section_mouse.h"
 
 namespace lx {
 
 class CObr : public SectionPreview {
 public:
-    // Takes the picture's events; it must outlive the preview.
-    explicit CObr(Picture& picture);
+    // Takes the picture's events; services and picture must outlive the preview.
+    CObr(DesignServices& services, Picture& picture);
 
     Size size() const override { return m_picture.size(); }
-    void redraw() override { m_picture.redraw(); }
+    void redraw() override;
     void setExteriorSide(bool left) override { m_exteriorLeft = left; }
-    bool exteriorLeft() const { return m_exteriorLeft; }
 
 private:
+    void paint(Canvas& canvas);
+
+    DesignServices& m_services;
     Picture& m_picture;
-    bool m_exteriorLeft = false;
+    bool m_exteriorLeft = true;
+    HitRegions m_regions;  // of the picture on the screen; their records are in the design
+    SectionMouse m_mouse;
 };
 
 }  // namespace lx

@@ -21,6 +21,14 @@ inline constexpr int fromPreview = 1025;
 inline constexpr int fromOffer = 1026;
 inline constexpr int moduleIcon = 1027;
 
+// Command menu of the design dialog
+inline constexpr int commandCompose = 1040;
+inline constexpr int commandBends = 1041;   // none to 5 bends, ids in a row
+inline constexpr int commandBrowse = 1047;  // the catalogue browser
+inline constexpr int commandBrowseToAdd = 1048;
+inline constexpr int commandRemove = 1049;
+inline constexpr int commandInsulation = 1050;
+
 // Page "Geometrie"
 inline constexpr int planPreview = 1100;
 inline constexpr int bendNone = 1101;  // six buttons, ids in a row

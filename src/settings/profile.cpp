@@ -11,6 +11,7 @@ namespace lx {
 namespace {
 
 constexpr std::string_view lineEnds("\r\n\0", 3);
+constexpr std::size_t intBuffer = 30;  // from which the platform reads a number
 
 // One pair of quotes of either kind around the whole text.
 std::string_view withoutQuotes(std::string_view text) {
@@ -95,7 +96,7 @@ std::optional<Bytes> changed(std::string_view bytes, std::string_view section, s
 }
 
 // As the platform reads it: sign, then decimal digits or 0x, 0o, 0b with theirs; an overflow wraps.
-std::int32_t profileInt(std::string_view text) {
+std::int32_t leadingNumber(std::string_view text) {
     std::size_t at = 0;
     while (at < text.size() && static_cast<unsigned char>(text[at]) <= ' ') ++at;
     const bool negative = at < text.size() && text[at] == '-';
@@ -121,6 +122,10 @@ std::int32_t profileInt(std::string_view text) {
 
 }  // namespace
 
+std::int32_t profileInt(std::string_view value, std::int32_t fallback) {
+    return value.empty() ? fallback : leadingNumber(value.substr(0, intBuffer - 1));
+}
+
 Profile::Profile(Files& files, Path path) : m_files(files), m_path(std::move(path)) {}
 
 Text Profile::read(std::string_view section, std::string_view key, std::string_view fallback,
@@ -136,9 +141,7 @@ Text Profile::read(std::string_view section, std::string_view key, std::string_v
 
 std::int32_t Profile::readInt(std::string_view section, std::string_view key,
                               std::int32_t fallback) const {
-    // The platform reads the number from a buffer of 30 characters.
-    const Text value = read(section, key, {}, 30);
-    return value.empty() ? fallback : profileInt(value);
+    return profileInt(read(section, key, {}), fallback);
 }
 
 std::optional<Text> Profile::find(std::string_view section, std::string_view key) const {

@@ -23,6 +23,10 @@ struct ProfileEntry {
     Text value;  // without quotes around it
 };
 
+// The leading number of a value (its first 29 bytes; 0x, 0o and 0b as the platform's function takes
+// them; 0 when there is none), fallback when the value is empty.
+std::int32_t profileInt(std::string_view value, std::int32_t fallback);
+
 class Profile {
 public:
     Profile(Files& files, Path path);
@@ -33,8 +37,7 @@ public:
     // missing. A line without "=" is a key without a value: it is there, but reads as missing.
     Text read(std::string_view section, std::string_view key, std::string_view fallback,
               std::size_t bufferSize = 1024) const;
-    // The leading number of the value (its first 29 bytes; 0x, 0o and 0b as the platform's function
-    // takes them; 0 when there is none), fallback when the key is missing or its value empty.
+    // profileInt of the value, fallback when the key is missing.
     std::int32_t readInt(std::string_view section, std::string_view key,
                          std::int32_t fallback) const;
     // none when the key is missing.

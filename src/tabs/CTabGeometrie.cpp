@@ -34,7 +34,7 @@ CTabGeometrie::CTabGeometrie(DesignServices& services)
     for (std::size_t i = 0; i < std::size(bendButtons); ++i) {
         Button& button = m_window->get<Button>(bendButtons[i]);
         dress(button, icon::bends[i], texts::bends[i]);
-        button.enable(false);
+        button.onClick = [this, shape = static_cast<int>(i)] { m_services.SetBends(shape); };
     }
     m_window->get<Button>(id::annotationSettings).enable(false);
     m_bubble.onChange = [this] { bubbleChanged(); };

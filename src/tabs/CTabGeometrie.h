@@ -1,6 +1,6 @@
-// The page "Geometrie": the plan, the description, the bubble name and what is to be inserted into
-// the drawing. The bend presets and the annotation settings are not there yet; their buttons are
-// disabled.
+// The page "Geometrie": the plan, the bend presets of the head, the description, the bubble name
+// and what is to be inserted into the drawing. The annotation settings are not there yet; their
+// button is disabled.
 #pragma once
 
 #include <memory>

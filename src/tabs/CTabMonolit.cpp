@@ -8,20 +8,30 @@
 namespace lx {
 
 CTabMonolit::CTabMonolit(DesignServices& services)
-    : m_window(makePageWindow(services, monolithTemplate)),
-      m_remove(m_window->get<Button>(id::monolithRemove)) {
-    Button& add = m_window->get<Button>(id::monolithAdd);
-    Button& insulation = m_window->get<Button>(id::monolithInsulation);
-    dress(add, icon::monolith, texts::addMonolith);
+    : m_services(services),
+      m_window(makePageWindow(services, monolithTemplate)),
+      m_add(m_window->get<Button>(id::monolithAdd)),
+      m_remove(m_window->get<Button>(id::monolithRemove)),
+      m_insulation(m_window->get<Button>(id::monolithInsulation)) {
+    dress(m_add, icon::monolith, texts::addMonolith);
     dress(m_remove, icon::remove, texts::removeLayer);
-    dress(insulation, icon::insulation, texts::addInsulation);
-    m_remove.onClick = [&services] { removeCurrentLayer(services); };
-    add.enable(false);
-    insulation.enable(false);
+    dress(m_insulation, icon::insulation, texts::addInsulation);
+    m_add.onClick = [this] { insert(addMonolith); };
+    m_remove.onClick = [this] { m_services.RemoveCurrent(); };
+    m_insulation.onClick = [this] { insert(addSteelInsulation); };
 }
 
 void CTabMonolit::showAvailability(const Availability& available) {
-    m_remove.enable(available.remove);
+    // The one that can be used takes the focus of the one that goes.
+    if (available.remove) m_remove.enable(true);
+    enableOrLeave(m_add, available.addMonolith, m_remove);
+    enableOrLeave(m_insulation, available.insertInsulation, m_remove);
+    enableOrLeave(m_remove, available.remove, m_add);
+}
+
+void CTabMonolit::insert(CommandAnswer (*command)(DesignEdit)) {
+    m_services.EndEdit();
+    if (command(m_services.model().edit()) == CommandAnswer::done) m_services.Relayout();
 }
 
 }  // namespace lx

@@ -1,5 +1,4 @@
-// The page "Monolitické překlady". Of its commands only the removal of a layer is there yet; the
-// other buttons are disabled.
+// The page "Monolitické překlady": cast parts and insulation, without an offer.
 #pragma once
 
 #include <memory>
@@ -17,8 +16,13 @@ public:
     void showAvailability(const Availability& available) override;
 
 private:
+    void insert(CommandAnswer (*command)(DesignEdit));
+
+    DesignServices& m_services;
     std::unique_ptr<Dialog> m_window;
+    Button& m_add;
     Button& m_remove;
+    Button& m_insulation;
 };
 
 }  // namespace lx

@@ -1,5 +1,4 @@
-// The page "Ocelové překlady": the steel offer. Of its commands only the removal of a layer is
-// there yet; the other buttons are disabled.
+// The page "Ocelové překlady": the steel offer, and the commands that build a lintel of sections.
 #pragma once
 
 #include "tabs/offer_page.h"
@@ -15,9 +14,16 @@ public:
 private:
     Offer& offer() override { return services().model().steelOffer(); }
     void changeType() override { services().RebuildSteelOffer(); }
-    void addByDoubleClick() override {}
+    void addByDoubleClick() override;
 
+    void addSelected();
+    void insertInsulation();
+    void insertSpace();
+
+    Button& m_add;
     Button& m_remove;
+    Button& m_insulation;
+    Button& m_space;
 };
 
 }  // namespace lx

@@ -18,11 +18,14 @@ CTabPrefa::CTabPrefa(DesignServices& services)
     dress(m_insulation, icon::insulation, texts::addInsulation);
     dress(m_space, icon::space, texts::addSpace);
     m_add.onClick = [this] { addSelected(); };
-    m_remove.onClick = [this] { removeCurrentLayer(this->services()); };
+    m_remove.onClick = [this] { this->services().RemoveCurrent(); };
     m_insulation.onClick = [this] { insertInsulation(); };
     m_space.onClick = [this] { insertSpace(); };
-    // No automatic composition and no catalogue browser yet.
-    get<Button>(id::precastCompose).enable(false);
+    get<Button>(id::precastCompose).onClick = [this] {
+        this->services().ComposePrecast();
+        Refresh();
+    };
+    // No catalogue browser yet.
     get<Button>(id::precastCatalogue).enable(false);
 }
 
@@ -52,15 +55,6 @@ void CTabPrefa::insertInsulation() {
 void CTabPrefa::insertSpace() {
     services().EndEdit();
     finish(addSpace(services().model().edit()));
-}
-
-void CTabPrefa::finish(CommandAnswer answer) {
-    if (answer == CommandAnswer::wrongType) {
-        services().showMessage(texts::wrongType, MessageIcon::stop);
-        return;
-    }
-    if (answer == CommandAnswer::done) services().Relayout();
-    Refresh();
 }
 
 }  // namespace lx

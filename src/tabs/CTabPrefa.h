@@ -19,7 +19,6 @@ private:
     void addSelected();
     void insertInsulation();
     void insertSpace();
-    void finish(CommandAnswer answer);
 
     Button& m_add;
     Button& m_remove;

@@ -1,5 +1,6 @@
 #include "tabs/offer_page.h"
 
+#include "resources/strings.h"
 #include "tabs/page_window.h"
 
 namespace lx {
@@ -38,6 +39,15 @@ void OfferPageWindow::showOffer() {
 
 void OfferPageWindow::refreshOfferLooks() {
     m_offer.refreshLooks(offer(), m_services.model().FreeSpace());
+}
+
+void OfferPageWindow::finish(CommandAnswer answer) {
+    if (answer == CommandAnswer::wrongType) {
+        m_services.showMessage(texts::wrongType, MessageIcon::stop);
+        return;
+    }
+    if (answer == CommandAnswer::done) m_services.Relayout();
+    Refresh();
 }
 
 void OfferPageWindow::Refresh() {

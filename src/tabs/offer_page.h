@@ -33,6 +33,8 @@ protected:
     virtual void changeType() = 0;
     // The page's command "add the selected element", when its button is enabled.
     virtual void addByDoubleClick() = 0;
+    // After a command: lays out when the design has changed, or tells why it has not.
+    void finish(CommandAnswer answer);
     // After a command and a new selection.
     void Refresh();
 

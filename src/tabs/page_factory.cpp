@@ -29,8 +29,9 @@ std::unique_ptr<LibraryPage> TabFactory::makeLibrary(DesignServices& services) {
     return std::make_unique<CTabKnihovna>(services);
 }
 
-std::unique_ptr<SectionPreview> TabFactory::makeSection(DesignServices&, Picture& picture) {
-    return std::make_unique<CObr>(picture);
+std::unique_ptr<SectionPreview> TabFactory::makeSection(DesignServices& services,
+                                                        Picture& picture) {
+    return std::make_unique<CObr>(services, picture);
 }
 
 }  // namespace lx

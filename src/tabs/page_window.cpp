@@ -1,7 +1,5 @@
 #include "tabs/page_window.h"
 
-#include "design/layer_commands.h"
-
 namespace lx {
 
 std::unique_ptr<Dialog> makePageWindow(DesignServices& services, const DialogTemplate& layout) {
@@ -16,11 +14,6 @@ void dress(Button& button, int icon, std::string_view tooltip) {
 void enableOrLeave(Button& button, bool on, Control& instead) {
     if (!on && button.focused() && instead.enabled()) instead.focus();
     button.enable(on);
-}
-
-void removeCurrentLayer(DesignServices& services) {
-    services.EndEdit();
-    if (removeCurrent(services.model().edit()) == CommandAnswer::done) services.Relayout();
 }
 
 }  // namespace lx

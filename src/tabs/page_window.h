@@ -1,5 +1,4 @@
-// What the pages have in common: their child window, icon buttons with a tooltip, the command that
-// removes the current layer.
+// What the pages have in common: their child window, icon buttons with a tooltip.
 #pragma once
 
 #include <memory>
@@ -15,8 +14,5 @@ void dress(Button& button, int icon, std::string_view tooltip);
 
 // Enables the button or, when it goes, first leads the focus from it to another control.
 void enableOrLeave(Button& button, bool on, Control& instead);
-
-// Ends a pending edit, removes the current layer and lays the design out.
-void removeCurrentLayer(DesignServices& services);
 
 }  // namespace lx

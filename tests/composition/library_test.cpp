@@ -5,6 +5,8 @@
 #include <limits>
 #include <random>
 
+#include "composition/layout.h"
+#include "composition/section_scale.h"
 #include "tests/support/designs.h"
 #include "tests/support/failing_files.h"
 #include "tests/support/memory_files.h"
@@ -82,16 +84,17 @@ TEST(Library, StoringAgainReplacesEveryOlderOneOfTheLabel) {
 TEST(Library, SameMeansOneOfTheEntriesOfTheLabel) {
     MemoryFiles files;
     const RezChain design = sampleDesign("A");
-    EXPECT_FALSE(findStoredSame(path, 1, "A  ", *design.head(), files));
+    layOut(*design.head());
+    EXPECT_FALSE(findStoredSame(path, 1, "A  ", *design.head(), {}, files));
     store(files, 1, "A", 400);
     store(files, 1, "A", 300);
-    EXPECT_TRUE(findStoredSame(path, 1, "A  ", *design.head(), files));
-    EXPECT_FALSE(findStoredSame(path, 1, "A", *design.head(), files));
-    EXPECT_FALSE(findStoredSame(path, 2, "A  ", *design.head(), files));
+    EXPECT_TRUE(findStoredSame(path, 1, "A  ", *design.head(), {}, files));
+    EXPECT_FALSE(findStoredSame(path, 1, "A", *design.head(), {}, files));
+    EXPECT_FALSE(findStoredSame(path, 2, "A  ", *design.head(), {}, files));
     design.head()->next->letter = 'Q';
-    EXPECT_TRUE(findStoredSame(path, 1, "A  ", *design.head(), files));
+    EXPECT_TRUE(findStoredSame(path, 1, "A  ", *design.head(), {}, files));
     ++design.head()->next->length;
-    EXPECT_FALSE(findStoredSame(path, 1, "A  ", *design.head(), files));
+    EXPECT_FALSE(findStoredSame(path, 1, "A  ", *design.head(), {}, files));
     // Labels of four and more bytes never meet a stored one: both designs stand under "ABC".
     const RezChain first = sampleDesign("ABCD", 300);
     const RezChain second = sampleDesign("ABCE", 450);
@@ -100,6 +103,32 @@ TEST(Library, SameMeansOneOfTheEntriesOfTheLabel) {
     EXPECT_EQ(listed(files.content[path], 3), "ABC300 ABC450 ");
     EXPECT_TRUE(deleteEntries(path, 3, "ABC", files));
     EXPECT_EQ(listed(files.content[path], 3), "");
+}
+
+// Layers on a sloping step are stored as high as the preview of that display showed them.
+TEST(Library, TheSameDesignIsKnownOnAnotherDisplay) {
+    constexpr Size small{370, 300};
+    constexpr Size large{555, 300};
+    MemoryFiles files;
+    RezChain design;
+    CRez& head = *design.append(headOf(300, "A"));
+    head.addBend(150, 100, false);
+    head.addBend(150, 100, true);
+    design.append(layer(kind::precast, 150));
+    design.append(layer(kind::precast, 150));
+    layOut(head);
+    settleSection(head, small);
+    const std::int32_t lifted = design.last()->level;
+    ASSERT_TRUE(appendDesign(path, 1, head, {}, files));
+    EXPECT_TRUE(findStoredSame(path, 1, "A  ", head, small, files));
+    layOut(head);
+    settleSection(head, large);
+    ASSERT_NE(design.last()->level, lifted);
+    EXPECT_TRUE(findStoredSame(path, 1, "A  ", head, large, files));
+    head.next->width = 149;
+    layOut(head);
+    settleSection(head, large);
+    EXPECT_FALSE(findStoredSame(path, 1, "A  ", head, large, files));
 }
 
 TEST(Library, ATornTailIsClosedOffAndTheNextEntryIsReachable) {
@@ -203,7 +232,7 @@ TEST(Library, NoiseIsReadWithoutHarm) {
         noisy.content[path] = files.content[path];
         Bytes& bytes = noisy.content[path];
         for (int i = 0; i < 8; ++i) bytes[random() % bytes.size()] = static_cast<char>(random());
-        findStoredSame(path, 0, "A  ", *design.head(), noisy);
+        findStoredSame(path, 0, "A  ", *design.head(), {}, noisy);
         ASSERT_TRUE(appendDesign(path, 1, *design.head(), "A  ", noisy));
         const LibraryRead read = loadLibrary(path, 1, noisy);
         ASSERT_FALSE(read.entries.empty());

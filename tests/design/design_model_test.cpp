@@ -4,6 +4,7 @@
 #include "design/design_model.h"
 #include "design/page_index.h"
 #include "tests/support/designs.h"
+#include "tests/support/memory_files.h"
 
 namespace lx {
 namespace {
@@ -53,6 +54,40 @@ TEST_F(DesignModelTest, OffersAreListedInTheirOrderWithTheFirstEntrySelected) {
     EXPECT_FALSE(model.available().addPrecast);
     model.rebuildPrecastOffer(-1);
     EXPECT_EQ(offer.count(), 0);
+}
+
+TEST_F(DesignModelTest, ACompositionStartsFromTheSelectedElement) {
+    MemoryFiles files;
+    files.content["R"] = "[0]\nkp 750=A M[10] A\n";
+    const Profile rules(files, "R");
+    for (CPreklItem* item = values.precast.get(); item; item = item->next.get()) {
+        item->compositionMark = 'A';
+    }
+    EXPECT_FALSE(model.ComposePrecast(rules));
+    model.rebuildPrecastOffer(0);
+    model.precastOffer().select(1);
+    EXPECT_TRUE(model.ComposePrecast(rules));
+    EXPECT_EQ(model.current(), model.head());
+    std::string made;
+    for (const CRez* one = model.head()->next; one; one = one->next) made += *one->name + ";";
+    EXPECT_EQ(made, "KP 9;kp 750;KP 1000;MEZERA;KP 9;kp 750;KP 1000;");
+    model.select(model.head()->next);
+    model.precastOffer().select(-1);
+    EXPECT_FALSE(model.ComposePrecast(rules));
+    EXPECT_EQ(model.current(), model.head()->next);
+
+    EXPECT_FALSE(model.ComposeSteel());
+    values.steel = std::make_unique<CPreklItem>();
+    values.steel->group = -1;
+    values.steel->length = kind::channel;
+    values.steel->next = std::make_unique<CPreklItem>();
+    values.steel->next->group = 1;
+    values.steel->next->width = 60;
+    model.rebuildSteelOffer(0);
+    EXPECT_TRUE(model.ComposeSteel());
+    EXPECT_EQ(model.LayerCount(), 6);
+    EXPECT_EQ(model.current(), model.head()->next);
+    EXPECT_EQ(model.steelOffer().row(0).kind, kind::channelMirrored);
 }
 
 TEST_F(DesignModelTest, PropertiesFollowTheSourceAndThePage) {

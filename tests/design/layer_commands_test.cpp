@@ -125,6 +125,162 @@ TEST_F(LayerCommands, RemovingMakesTheNextLayerCurrentElseTheOneBefore) {
     EXPECT_EQ(removeCurrent(edit()), CommandAnswer::nothing);
 }
 
+TEST_F(LayerCommands, TheMenuMakesTheRecordBeforeTheRemovedLayerCurrent) {
+    EXPECT_EQ(removeCurrentGoingBack(edit()), CommandAnswer::nothing);
+    append(layer(kind::precast, 70, "A"));
+    append(layer(kind::precast, 70, "B"));
+    append(layer(kind::precast, 70, "C"));
+    current = design.head()->next->next;
+    EXPECT_EQ(removeCurrentGoingBack(edit()), CommandAnswer::done);
+    EXPECT_EQ(names(), "A* C ");
+    EXPECT_EQ(removeCurrentGoingBack(edit()), CommandAnswer::done);
+    EXPECT_EQ(current, design.head());
+    EXPECT_EQ(names(), "C ");
+}
+
+TEST_F(LayerCommands, OnlyASectionAtTheEndTakesTheLengthOfTheDay) {
+    auto section = layer(kind::channel, 60, "S");
+    section->length = 777;
+    EXPECT_EQ(addSteel(edit(), nullptr), CommandAnswer::nothing);
+    EXPECT_EQ(design.head()->maxOpening, 0);
+    EXPECT_EQ(addSteel(edit(), section.get()), CommandAnswer::done);
+    EXPECT_EQ(current->length, 1300);
+    EXPECT_EQ(design.head()->maxOpening, 150);
+    design.head()->maxOpening = 200;
+    current = design.head();
+    EXPECT_EQ(addSteel(edit(), section.get()), CommandAnswer::done);
+    EXPECT_EQ(current->length, 777);
+    EXPECT_EQ(names(), "S* S ");
+    CRez stranger;
+    current = &stranger;
+    EXPECT_EQ(addSteel(edit(), section.get()), CommandAnswer::done);
+    EXPECT_EQ(current, design.last());
+    EXPECT_EQ(current->length, 1400);
+    EXPECT_EQ(section->length, 777);
+}
+
+TEST_F(LayerCommands, ASectionGoesIntoAnEmptyOrSteelDesignAlone) {
+    append(layer(kind::insulation, 50));
+    append(layer(kind::angleMirrored, 60));
+    append(layer(kind::precast, 70));
+    EXPECT_EQ(addSteel(edit(), element.get()), CommandAnswer::done);
+    for (const std::int32_t typed : {kind::precast, kind::monolith}) {
+        RezChain other;
+        CRez* place = other.append(headOf(300));
+        other.append(layer(kind::space, 10));
+        other.append(layer(typed, 60));
+        other.append(layer(kind::beam, 70));
+        EXPECT_EQ(addSteel({other, place}, nullptr), CommandAnswer::wrongType);
+        EXPECT_EQ(addSteel({other, place}, element.get()), CommandAnswer::wrongType);
+        EXPECT_EQ(layerCount(*other.head()), 3);
+        EXPECT_EQ(other.head()->maxOpening, 0);
+    }
+}
+
+TEST_F(LayerCommands, InsulationBesideSteelNestsAndDoesNotFillAnEmptyWall) {
+    EXPECT_EQ(addSteelInsulation(edit()), CommandAnswer::done);
+    EXPECT_EQ(design.head()->maxOpening, 150);
+    EXPECT_EQ(current->kind, kind::insulation);
+    EXPECT_EQ(current->name, "IZOLACE");
+    EXPECT_EQ(current->width, 80);
+    EXPECT_EQ(current->height, 200);
+    EXPECT_EQ(current->length, 1300);
+
+    layOut(*design.head());
+    CRez* section = current = append(layer(kind::channel, 220, "S"));
+    section->height = 140;
+    section->length = 777;
+    section->letter = 'Q';
+    EXPECT_EQ(addSteelInsulation(edit()), CommandAnswer::done);
+    EXPECT_EQ(names(), "IZOLACE S IZOLACE* ");
+    EXPECT_EQ(current->width, 220);
+    EXPECT_EQ(current->height, 140);
+    EXPECT_EQ(current->length, 1300);
+    EXPECT_EQ(current->letter, 'Q');
+}
+
+TEST_F(LayerCommands, InsulationBesideSteelNeedsTenMillimetresOfRoom) {
+    const auto widthFor = [](std::int32_t kind, std::int32_t width, std::int32_t wall) {
+        RezChain other;
+        CRez* place = other.append(headOf(wall));
+        place = other.append(layer(kind, width));
+        layOut(*other.head());
+        const CommandAnswer answer = addSteelInsulation({other, place});
+        return answer == CommandAnswer::done ? place->width : -1;
+    };
+    EXPECT_EQ(widthFor(kind::beam, 100, 105), 55);
+    EXPECT_EQ(widthFor(kind::beam, 19, 20), 10);
+    EXPECT_EQ(widthFor(kind::beam, 19, 19), -1);
+    EXPECT_EQ(widthFor(kind::angle, 60, 10), 10);
+    EXPECT_EQ(widthFor(kind::angleMirrored, 60, 70), 10);
+    EXPECT_EQ(widthFor(kind::angleMirrored, 60, 69), -1);
+    EXPECT_EQ(widthFor(4, 60, 160), 100);
+    const auto inEmptyWall = [](std::int32_t wall) {
+        RezChain other;
+        CRez* place = other.append(headOf(wall));
+        addSteelInsulation({other, place});
+        return place->width;
+    };
+    EXPECT_EQ(inEmptyWall(79), 79);
+    EXPECT_EQ(inEmptyWall(81), 80);
+    current = nullptr;
+    EXPECT_EQ(addSteelInsulation(edit()), CommandAnswer::nothing);
+    EXPECT_EQ(addMonolith(edit()), CommandAnswer::nothing);
+    EXPECT_EQ(insertInsulation(edit()), CommandAnswer::nothing);
+    EXPECT_EQ(design.head()->next, nullptr);
+}
+
+TEST_F(LayerCommands, ACastPartFillsTheFreeSpaceInAnyDesign) {
+    EXPECT_EQ(addMonolith(edit()), CommandAnswer::done);
+    EXPECT_EQ(design.head()->maxOpening, 150);
+    EXPECT_EQ(current->kind, kind::monolith);
+    EXPECT_EQ(current->name, "MONOLIT");
+    EXPECT_EQ(current->width, 300);
+    EXPECT_EQ(current->height, 300);
+    EXPECT_EQ(current->length, 1300);
+
+    // A short bearing would not carry it.
+    for (const auto& [bearing, settled] : {std::pair{40, 150}, {49, 150}, {50, 50}, {-3, 150}}) {
+        RezChain other;
+        CRez* place = other.append(headOf(75));
+        place->length = 900;
+        place->maxOpening = bearing;
+        place = other.append(layer(kind::precast, 70, "P"));
+        place->letter = 'Q';
+        layOut(*other.head());
+        EXPECT_EQ(addMonolith({other, place}), CommandAnswer::done);
+        EXPECT_EQ(other.head()->maxOpening, settled);
+        EXPECT_EQ(place->width, 5);
+        EXPECT_EQ(place->length, 900 + 2 * settled);
+        EXPECT_EQ(place->letter, 'Q');
+        EXPECT_EQ(designFamily(*other.head()), Family::precast);
+        place->width = 1;
+        layOut(*other.head());
+        EXPECT_EQ(addMonolith({other, place}), CommandAnswer::nothing);
+    }
+}
+
+TEST_F(LayerCommands, TheMenuInsertsThinInsulationWithoutAskingForRoom) {
+    design.head()->height = 2300;
+    EXPECT_EQ(insertInsulation(edit()), CommandAnswer::done);
+    EXPECT_EQ(current->kind, kind::insulation);
+    EXPECT_EQ(current->width, 30);
+    EXPECT_EQ(current->length, 1000);
+    EXPECT_EQ(current->height, 2300);
+    CRez* lintel = current = append(layer(kind::precast, 400, "P"));
+    append(layer(kind::precast, 70, "Q"));
+    lintel->height = 238;
+    lintel->length = 1190;
+    lintel->bearing = 125;
+    EXPECT_EQ(insertInsulation(edit()), CommandAnswer::done);
+    EXPECT_EQ(names(), "IZOLACE P IZOLACE* Q ");
+    EXPECT_EQ(current->width, 30);
+    EXPECT_EQ(current->offset, 430);
+    EXPECT_EQ(current->length, 1190);
+    EXPECT_EQ(current->height, 238);
+    EXPECT_EQ(current->bearing, 0);
+}
+
 TEST_F(LayerCommands, ButtonsAreOfferedByTheFreeSpace) {
     CRez* head = design.head();
     CRez* filler = append(layer(kind::precast, 0));

@@ -378,7 +378,7 @@ HWND WindowsDriver::mouseTarget(ControlName picture, ScreenPoint& p, bool press)
 void WindowsDriver::mouseMove(ControlName picture, ScreenPoint p, bool leftDown) {
     if (picture.empty()) m_mouseAt = std::to_string(p.x) + " " + std::to_string(p.y);
     const HWND window = mouseTarget(picture, p, false);
-    // Over a control that stands there, the move is that control's.
+    // Over a control that stands there, the move is that control's, and so is the release below.
     if (GetCapture() != window && childAt(window, {p.x, p.y}) != nullptr) return;
     PostMessageW(window, WM_MOUSEMOVE, leftDown ? MK_LBUTTON : 0, MAKELPARAM(p.x, p.y));
     m_stepper->rest();
@@ -392,6 +392,7 @@ void WindowsDriver::mouseDown(ControlName picture, ScreenPoint p) {
 
 void WindowsDriver::mouseUp(ControlName picture, ScreenPoint p) {
     const HWND window = mouseTarget(picture, p, false);
+    if (GetCapture() != window && childAt(window, {p.x, p.y}) != nullptr) return;
     PostMessageW(window, WM_LBUTTONUP, 0, MAKELPARAM(p.x, p.y));
     m_stepper->rest();
 }

@@ -269,21 +269,29 @@ void HeadlessPicture::checkPoint(const char* act, Point p) const {
         refuse("the point (" + formatInt(p.x) + "," + formatInt(p.y) + ") is outside, it is " +
                formatInt(inside.width) + " by " + formatInt(inside.height));
     }
-    for (const HeadlessControl* other : m_dialog->root().allControls()) {
-        if (other->container() == this && other->shown() && other->control().area().contains(p)) {
-            refuse("a control stands at that point of it");
-        }
-    }
 }
 
+bool HeadlessPicture::covered(Point p) const {
+    const auto controls = m_dialog->root().allControls();
+    return std::any_of(controls.begin(), controls.end(), [&](const HeadlessControl* other) {
+        return other->container() == this && other->shown() && other->control().area().contains(p);
+    });
+}
+
+void HeadlessPicture::checkPress(Point p) const {
+    checkPoint("be clicked", p);
+    if (covered(p)) refuse("a control stands at that point of it");
+}
+
+// Over a control that stands in the picture, moves and releases are that control's.
 void HeadlessPicture::userMouseMove(Point p, bool leftDown) {
     checkPoint("be reached by the mouse", p);
-    callCopy(onMouseMove, p, leftDown);
+    if (!covered(p)) callCopy(onMouseMove, p, leftDown);
     settle();
 }
 
 void HeadlessPicture::userLeftDown(Point p) {
-    checkPoint("be clicked", p);
+    checkPress(p);
     clickFocus();
     if (m_dialog->root().running()) callCopy(onLeftDown, p);
     settle();
@@ -291,12 +299,12 @@ void HeadlessPicture::userLeftDown(Point p) {
 
 void HeadlessPicture::userLeftUp(Point p) {
     checkPoint("be reached by the mouse", p);
-    callCopy(onLeftUp, p);
+    if (!covered(p)) callCopy(onLeftUp, p);
     settle();
 }
 
 void HeadlessPicture::userRightDown(Point p) {
-    checkPoint("be clicked", p);
+    checkPress(p);
     clickFocus();
     if (m_dialog->root().running()) callCopy(onRightDown, p);
     settle();

@@ -416,6 +416,9 @@ protected:
 
 private:
     void checkPoint(const char* act, Point p) const;
+    void checkPress(Point p) const;
+    // By a control that was moved into the picture.
+    bool covered(Point p) const;
 
     CursorShape m_cursor = CursorShape::arrow;
     bool m_dirty = true;

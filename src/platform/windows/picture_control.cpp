@@ -164,6 +164,8 @@ LRESULT WindowsPicture::message(UINT message, WPARAM wParam, LPARAM lParam) {
 Text WindowsPicture::describe(DescribeQuestion question, const DescribeRequest&) {
     if (question == DescribeQuestion::cursor) return cursorName(m_cursor);
     if (question == DescribeQuestion::regions && regions) {
+        // A picture that is about to change has none yet.
+        if (window()) UpdateWindow(window());
         Text lines;
         const auto ask = regions;
         for (const PictureRegion& region : ask()) {

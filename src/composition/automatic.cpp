@@ -1,0 +1,138 @@
+#include "composition/automatic.h"
+
+#include <utility>
+
+#include "composition/bearing.h"
+#include "composition/layout.h"
+#include "composition/rules_file.h"
+#include "composition/saturate.h"
+#include "composition/special_layers.h"
+
+namespace lx {
+
+namespace {
+
+constexpr int mostRepeated = 20;             // layers of the chosen element
+constexpr std::int64_t insulationFrom = 20;  // mm of room
+constexpr int mostDigits = 9;                // of a number in a rule
+
+CRez* appendCopy(RezChain& design, const CRez& element) {
+    return design.append(std::make_unique<CRez>(element));
+}
+
+void removeLayers(RezChain& design) {
+    while (design.head()->next != nullptr) design.unlink(design.head()->next);
+}
+
+// Laid out after each copy: it has no place of its own before, and the free space would be wrong.
+void repeat(RezChain& design, const CRez& element) {
+    CRez& head = *design.head();
+    for (int i = 0; i < mostRepeated && freeSpace(head) >= element.width; ++i) {
+        appendCopy(design, element);
+        layOut(head);
+    }
+}
+
+// Null when there is nothing to insulate or not enough room.
+CRez* insulateFirstFace(RezChain& design, const CRez& chosen, std::int64_t room) {
+    if (design.head()->next == nullptr || room < insulationFrom) return nullptr;
+    auto insulation = std::make_unique<CRez>(chosen);
+    makeSpecial(*insulation, kind::insulation);
+    insulation->width = saturated(room);
+    return design.insertAfter(design.head(), std::move(insulation));
+}
+
+// The digits of a rule since the last closing bracket; 0 without any.
+class CollectedNumber {
+public:
+    void add(char digit) {
+        if (m_digits == mostDigits) return;
+        m_value = m_value * 10 + (digit - '0');
+        ++m_digits;
+    }
+    std::int32_t take() {
+        m_digits = 0;
+        return std::exchange(m_value, 0);
+    }
+
+private:
+    std::int32_t m_value = 0;
+    int m_digits = 0;
+};
+
+const CRez& elementX(const CRez& chosen) {
+    const CRez* element = &chosen;
+    while (element->letter != 'X' && element->next != nullptr) element = element->next;
+    return *element;
+}
+
+void followRule(RezChain& design, std::string_view rule, const CRez& chosen,
+                std::span<const CRez* const> listed) {
+    const CRez& x = elementX(chosen);
+    CollectedNumber number;
+    for (const char c : rule) {
+        if (c >= '0' && c <= '9') {
+            number.add(c);
+        } else if (c == ']') {
+            design.last()->width = number.take();
+        } else if (c == '}') {
+            design.last()->height = number.take();
+        } else if (c == 'X') {
+            appendCopy(design, x);
+        } else if (c == 'I' || c == 'M') {
+            makeSpecial(*appendCopy(design, chosen), c == 'I' ? kind::insulation : kind::space);
+        } else if (c >= 'A' && c <= 'Z') {
+            for (const CRez* element : listed) {
+                if (element->letter == c) appendCopy(design, *element);
+            }
+        }
+    }
+}
+
+// How deep the first section nests into insulation in front of it, mm; an open one is turned.
+std::int32_t turnTowardsInsulation(CRez& section) {
+    switch (section.kind) {
+        case kind::beam:
+            return section.width / 2;
+        case kind::angle:
+            section.kind = kind::angleMirrored;
+            return section.width;
+        case kind::channel:
+            section.kind = kind::channelMirrored;
+            return section.width;
+        default:
+            return 0;
+    }
+}
+
+}  // namespace
+
+CRez* composePrecast(RezChain& design, const CRez* chosen, std::span<const CRez* const> listed,
+                     const Profile& rules) {
+    if (design.empty() || chosen == nullptr) return nullptr;
+    removeLayers(design);
+    CRez& head = *design.head();
+    if (const auto rule = compositionRule(rules, head.width, chosen->nameOrEmpty())) {
+        followRule(design, *rule, *chosen, listed);
+    } else {
+        repeat(design, *chosen);
+        insulateFirstFace(design, *chosen, freeSpace(head));
+    }
+    layOut(head);
+    return &head;
+}
+
+CRez* composeSteel(RezChain& design, CRez* chosen) {
+    if (design.empty() || chosen == nullptr) return nullptr;
+    const std::int64_t nesting = turnTowardsInsulation(*chosen);
+    removeLayers(design);
+    CRez& head = *design.head();
+    CRez section(*chosen);
+    section.length = lengthOver(head.length, settledBearing(head));
+    repeat(design, section);
+    CRez* insulation = insulateFirstFace(design, *chosen, freeSpace(head) + nesting);
+    layOut(head);
+    return insulation != nullptr ? insulation : design.last();
+}
+
+}  // namespace lx

@@ -1,0 +1,16 @@
+#include "composition/bearing.h"
+
+#include "composition/saturate.h"
+
+namespace lx {
+
+std::int32_t settledBearing(CRez& head) {
+    if (head.maxOpening == 0) head.maxOpening = defaultBearing;
+    return head.maxOpening;
+}
+
+std::int32_t lengthOver(std::int32_t opening, std::int32_t bearing) {
+    return saturated(opening + 2 * std::int64_t{bearing});
+}
+
+}  // namespace lx

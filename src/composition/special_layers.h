@@ -1,0 +1,12 @@
+// Layers that come from no catalogue.
+#pragma once
+
+#include "composition/records.h"
+
+namespace lx {
+
+// Makes the record insulation, a space or a cast part: its kind and the name that goes with it.
+// Everything else stays as it is.
+void makeSpecial(CRez& layer, std::int32_t kind);
+
+}  // namespace lx

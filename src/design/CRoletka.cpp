@@ -1,0 +1,129 @@
+#include "design/CRoletka.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "resources/strings.h"
+
+namespace lx {
+
+namespace {
+
+// Nearest place within the picture; a box larger than the picture begins at its edge.
+int within(int wanted, int size, int available) {
+    return std::max(0, std::min(wanted, available - size));
+}
+
+}  // namespace
+
+CRoletka::CRoletka(ComboBox& box, DesignServices& services) : m_box(box), m_services(services) {
+    m_box.onKey = [this](const KeyEvent& event) { return key(event); };
+    m_box.onBlur = [this] { commit(Message::posted); };
+}
+
+void CRoletka::open(const EditRequest& request, Picture& picture, Point at) {
+    commit(Message::posted);
+    m_historySection = request.historySection;
+    m_picture = &picture;
+    m_box.moveInto(&picture);
+    fill(request.edit.shown);
+    place(picture, at);
+    m_edit = request.edit;
+    m_box.show(true);
+    m_box.focus();
+    m_box.selectAllText();
+}
+
+void CRoletka::fill(const Text& shown) {
+    ValueHistory history = m_services.settings().history(m_historySection);
+    m_box.clear();
+    int selected = -1;
+    for (const Text& value : history.shown()) {
+        const int index = m_box.add(value);
+        if (selected < 0 && value == shown) selected = index;
+    }
+    if (selected < 0) {
+        selected = m_box.add(shown);
+        history.add(shown);
+    }
+    m_box.select(selected);
+}
+
+void CRoletka::place(Picture& picture, Point at) {
+    const Size own = m_box.area().size();
+    const Size client = picture.size();
+    const int left = within(at.x - own.width / 2, own.width, client.width);
+    const int top = within(at.y - own.height / 2, own.height, client.height);
+    m_box.setArea({left, top, left + own.width, top + own.height});
+}
+
+void CRoletka::cancel() {
+    m_edit = {};
+    hide();
+}
+
+// The picture keeps the keyboard, so that its own keys work at once.
+void CRoletka::hide() {
+    if (m_box.focused() && m_picture != nullptr) m_picture->focus();
+    m_box.show(false);
+}
+
+// The edit is over before anything else happens: hiding, messages and rebuilt offers lead back
+// here.
+bool CRoletka::commit(Message message) {
+    const ValueEdit edit = std::exchange(m_edit, {});
+    const Text typed = m_box.text();
+    if (m_box.visible()) hide();
+    if (edit.kind == edit_kind::none) return true;
+    DesignModel& model = m_services.model();
+    const CommitAnswer answer = commitValue(model.edit(), edit, typed, model.values().openingWidth);
+    if (answer.message != 0) {
+        if (edit.kind == edit_kind::specialWidth) m_edit.kind = edit_kind::refusedWidth;
+        refuse(answer, message);
+        return false;
+    }
+    if (!answer.changed) return true;
+    m_services.Relayout();
+    if (answer.precastOffer) m_services.RebuildPrecastOffer();
+    if (answer.steelOffer) m_services.RebuildSteelOffer();
+    return true;
+}
+
+void CRoletka::refuse(const CommitAnswer& answer, Message message) {
+    m_box.setText(answer.kept);
+    const auto show = [this, number = answer.message] {
+        m_services.showMessage(str(number), MessageIcon::stop);
+    };
+    if (message == Message::now) return show();
+    m_services.window().post(show);
+}
+
+KeyAnswer CRoletka::key(const KeyEvent& event) {
+    if (event.ctrl || event.shift || event.alt) return KeyAnswer::pass;
+    switch (event.key) {
+        case key::enter:
+            commit();
+            return KeyAnswer::swallow;
+        case key::escape:
+            if (m_box.droppedDown()) return KeyAnswer::pass;
+            cancel();
+            return KeyAnswer::swallow;
+        case key::del:
+            return removeSelected() ? KeyAnswer::swallow : KeyAnswer::pass;
+        default:
+            return KeyAnswer::pass;
+    }
+}
+
+// Forgets the remembered value that is selected; typed text selects none. The edit ends with it.
+bool CRoletka::removeSelected() {
+    const int index = m_box.selected();
+    if (m_box.count() < 2 || index < 0) return false;
+    m_services.settings().history(m_historySection).remove(m_box.item(index));
+    m_box.remove(index);
+    m_box.select(std::max(index - 1, 0));
+    cancel();
+    return true;
+}
+
+}  // namespace lx

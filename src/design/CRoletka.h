@@ -1,0 +1,48 @@
+// The in-place drop-down of the design dialog: stands over a number of a preview while the user
+// types another one, and offers the values used before.
+#pragma once
+
+#include "design/services.h"
+#include "design/value_commit.h"
+#include "settings/value_history.h"
+
+namespace lx {
+
+class CRoletka {
+public:
+    // Takes the box's events. Both must outlive it.
+    CRoletka(ComboBox& box, DesignServices& services);
+
+    // Commits a pending edit and stands the box over that point of the picture, filled with the
+    // remembered values, its text selected, with the focus.
+    void open(const EditRequest& request, Picture& picture, Point at);
+    bool visible() const { return m_box.visible(); }
+    // edit_kind::none when no edit is pending.
+    int kind() const { return m_edit.kind; }
+    // Takes the edit away, hides the box and puts the typed value into the design. False when the
+    // value was refused: a message has been shown and the design is as before. True as well when
+    // there was nothing to commit.
+    bool commit() { return commit(Message::now); }
+    // Takes the edit away and hides the box; the design keeps its value.
+    void cancel();
+
+private:
+    // A message box may not come up while the focus is on its way.
+    enum class Message { now, posted };
+
+    bool commit(Message message);
+    void fill(const Text& shown);
+    void place(Picture& picture, Point at);
+    void hide();
+    KeyAnswer key(const KeyEvent& event);
+    bool removeSelected();
+    void refuse(const CommitAnswer& answer, Message message);
+
+    ComboBox& m_box;
+    DesignServices& m_services;
+    ValueEdit m_edit;
+    Text m_historySection;
+    Picture* m_picture = nullptr;  // that the box stands in
+};
+
+}  // namespace lx

@@ -1,0 +1,68 @@
+#include "preview/hit_regions.h"
+
+#include <algorithm>
+
+#include "platform/numbers.h"
+
+namespace lx {
+
+namespace {
+
+Text nameOfValue(const EditTarget& target) {
+    switch (target.field) {
+        case EditField::width:
+            return "width";
+        case EditField::height:
+            return "height";
+        case EditField::bendRun:
+            return "run " + formatInt(target.bend + 1);
+        case EditField::bendStep:
+            return "step " + formatInt(target.bend + 1);
+        case EditField::length:
+        case EditField::maxOpening:
+        case EditField::kind:
+            break;
+    }
+    return {};
+}
+
+}  // namespace
+
+bool HitRegion::contains(Point p) const {
+    return p.x >= x && p.x - std::int64_t{x} <= width && p.y >= y &&
+           p.y - std::int64_t{y} <= height;
+}
+
+const HitRegion* regionAt(const HitRegions& regions, Point p) {
+    const auto found = std::find_if(regions.begin(), regions.end(),
+                                    [p](const HitRegion& each) { return each.contains(p); });
+    return found == regions.end() ? nullptr : &*found;
+}
+
+std::vector<PictureRegion> pictureRegions(const HitRegions& regions) {
+    std::vector<PictureRegion> result;
+    int layers = 0;
+    for (auto each = regions.rbegin(); each != regions.rend(); ++each) {
+        Text name;
+        switch (each->kind) {
+            case region::layerName:
+                name = "layer " + formatInt(++layers);
+                break;
+            case region::mirror:
+                name = "mirror";
+                break;
+            case region::planLevel:
+                name = "level";
+                break;
+            default:
+                name = nameOfValue(each->target);
+                break;
+        }
+        if (name.empty()) continue;
+        result.push_back(
+            {std::move(name), {each->x, each->y, each->x + each->width, each->y + each->height}});
+    }
+    return result;
+}
+
+}  // namespace lx

@@ -1,0 +1,44 @@
+// The places of a preview that can be clicked, each bound to one value of the design or to one
+// layer, and their names for programs that act as the user.
+#pragma once
+
+#include <vector>
+
+#include "design/edit_target.h"
+#include "platform/controls.h"
+
+namespace lx {
+
+// Kinds of hit regions.
+namespace region {
+inline constexpr int specialWidth = -1;  // width of a special layer, checked against the wall
+inline constexpr int number = 0;
+inline constexpr int layerName = 1;  // selects the layer
+inline constexpr int mirror = 2;     // mirrors a steel section
+inline constexpr int planLevel = 103;
+}  // namespace region
+
+struct HitRegion {
+    bool absoluteOnly = false;  // a value typed in is stored as its absolute value
+    int kind = region::number;
+    EditTarget target;  // layerName: the record alone counts
+    int x = 0;          // pixels of the preview; all four edges belong to the region
+    int y = 0;
+    int width = 0;
+    int height = 0;
+
+    bool contains(Point p) const;
+    bool operator==(const HitRegion&) const = default;
+};
+
+// Newest first: which value a number is can be told from the regions around it in this order.
+using HitRegions = std::vector<HitRegion>;
+
+// The newest region at that point, or null.
+const HitRegion* regionAt(const HitRegions& regions, Point p);
+
+// In the order of their making: "layer N" (a layer's name, from 1), "mirror", "width" and "height"
+// of the current layer, "run N" and "step N" of a bend (from 1), "level" in the plan.
+std::vector<PictureRegion> pictureRegions(const HitRegions& regions);
+
+}  // namespace lx

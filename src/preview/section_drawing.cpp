@@ -1,0 +1,102 @@
+#include "preview/section_drawing.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "composition/layout.h"
+#include "composition/saturate.h"
+#include "design/designation.h"
+#include "design/opening.h"
+#include "platform/numbers.h"
+#include "preview/ground.h"
+#include "preview/section_records.h"
+#include "resources/strings.h"
+
+namespace lx {
+
+namespace {
+
+constexpr int titleText = 79;
+constexpr int exteriorText = 80;
+constexpr int interiorText = 81;
+constexpr int openingFormat = 82;
+
+constexpr Pen markerPen{previewWhite, 1, PenStyle::dot};
+constexpr int markerTop = -500;  // px
+constexpr int markerBottom = 500;
+
+constexpr Point title{2, 5};
+constexpr Point side{2, 35};
+constexpr int margin = 5;  // px on the right and at the bottom
+
+void drawRecords(SectionSheet& sheet, const SectionInput& input) {
+    for (const CRez* record = input.head; record; record = record->next) {
+        if (record == input.head || record->isHead()) {
+            drawHead(sheet, *record);
+        } else {
+            drawLayer(sheet, *record, record == input.current, input.iconSize);
+        }
+    }
+}
+
+void drawDropMarker(SectionSheet& sheet, int marker) {
+    if (marker < 0) return;
+    const int x = sheet.x(marker);
+    sheet.canvas.setPen(markerPen);
+    sheet.line({{x, markerTop}, {x, markerBottom}});
+}
+
+void drawSides(Canvas& canvas, const SectionInput& input) {
+    canvas.drawText(title, str(titleText));
+    const std::string_view left = str(input.exteriorLeft ? exteriorText : interiorText);
+    const std::string_view right = str(input.exteriorLeft ? interiorText : exteriorText);
+    canvas.drawText(side, left);
+    canvas.drawText({input.client.width - canvas.measure(right).width - margin, side.y}, right);
+}
+
+void drawOpeningWidth(Canvas& canvas, const SectionInput& input) {
+    const std::int64_t width = std::abs(std::int64_t{shownOpening(input.openingWidth)});
+    const Text text = fillIn(str(openingFormat), {formatInt(width)});
+    const Size size = canvas.measure(text);
+    canvas.drawText(
+        {input.client.width - size.width - margin, input.client.height - size.height - margin},
+        text);
+}
+
+// One name a line, the last one a line above the bottom.
+void drawLayerNames(SectionSheet& sheet, const CRez& head) {
+    constexpr int left = 2;
+    const int line = sheet.canvas.measure("A").height;
+    std::int64_t linesUp = layerCount(head) + 1;
+    for (const CRez* layer = head.next; layer; layer = layer->next) {
+        const Text name = shownDesignation(*layer);
+        const int y = saturated(sheet.height - line * linesUp--);
+        sheet.canvas.drawText({left, y}, name);
+        const Size size = sheet.canvas.measure(name);
+        sheet.regions.push_back(
+            {false, region::layerName, {layer}, left, y, size.width, size.height});
+    }
+}
+
+}  // namespace
+
+HitRegions drawSection(Canvas& canvas, const SectionInput& input) {
+    const Size client = input.client;
+    if (client.width <= 0 || client.height <= 0) return {};
+    canvas.setClip({0, 0, client.width, client.height});
+    canvas.setTextColor(previewWhite);
+    fillGround(canvas, client);
+    if (!input.head) return {};
+
+    SectionSheet sheet{canvas, sectionScale(input.head->width, client), client.height, {}};
+    drawRecords(sheet, input);
+    drawDropMarker(sheet, input.dropMarker);
+    canvas.setFont(labelFont());
+    drawSides(canvas, input);
+    drawOpeningWidth(canvas, input);
+    drawLayerNames(sheet, *input.head);
+    std::reverse(sheet.regions.begin(), sheet.regions.end());
+    return std::move(sheet.regions);
+}
+
+}  // namespace lx

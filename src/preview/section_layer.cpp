@@ -1,0 +1,164 @@
+#include "platform/numbers.h"
+#include "preview/section_records.h"
+#include "preview/section_zigzag.h"
+#include "resources/icons.h"
+#include "resources/strings.h"
+
+namespace lx {
+
+namespace {
+
+constexpr Color layerColor{255, 153, 153};
+constexpr Color currentColor{255, 255, 170};
+constexpr int wide = 4;
+constexpr int fine = 1;
+constexpr int inset = 2;     // from the layer's edges to the lines of its symbol
+constexpr int halfMark = 2;  // of the square in the middle of a layer
+
+constexpr int thicknessWord = 76;
+constexpr int widthWord = 77;
+constexpr int heightWord = 78;
+constexpr Point firstValue{10, 80};
+constexpr int leaderStart = 60;  // px from the left
+constexpr int mirrorAbove = 55;  // px from the layer's top up to the button's
+
+void drawMark(SectionSheet& sheet, Point middle) {
+    const auto& [x, y] = middle;
+    sheet.line({{x - halfMark, y - halfMark},
+                {x + halfMark, y - halfMark},
+                {x + halfMark, y + halfMark},
+                {x - halfMark, y + halfMark},
+                {x - halfMark, y - halfMark}});
+}
+
+// One layer: its place on the picture, and its colour.
+class LayerDrawing {
+public:
+    LayerDrawing(SectionSheet& sheet, const CRez& layer, bool current);
+    void drawSymbol();
+    void drawMirrorButton(Size size);
+    void drawValues();
+
+private:
+    void drawShape(std::int32_t shape);
+    void drawInsulation();
+    int drawValue(int y, int word, std::int32_t value, int kind, EditField field);
+
+    SectionSheet& m_sheet;
+    const CRez& m_layer;
+    Color m_color;
+    Rect m_area;  // the layer's four edges; a negative size turns them about
+    Point m_middle;
+};
+
+LayerDrawing::LayerDrawing(SectionSheet& sheet, const CRez& layer, bool current)
+    : m_sheet(sheet), m_layer(layer), m_color(current ? currentColor : layerColor) {
+    const std::int64_t left = layer.offset;
+    const std::int64_t bottom = layer.level;
+    m_area = {sheet.x(left), sheet.y(bottom + layer.height), sheet.x(left + layer.width),
+              sheet.y(bottom)};
+    m_middle = sheet.at(left + layer.width / 2, bottom + layer.height / 2);
+}
+
+void LayerDrawing::drawSymbol() {
+    const auto& [left, top, right, bottom] = m_area;
+    const bool thin = m_layer.kind == kind::insulation || m_layer.kind == kind::space ||
+                      m_layer.kind == kind::monolith;
+    m_sheet.canvas.setPen({m_color, thin ? fine : wide});
+    switch (m_layer.kind) {
+        case kind::insulation:
+            return drawInsulation();
+        case kind::space:
+            return drawMark(m_sheet, m_middle);
+        case kind::monolith:
+            m_sheet.line({{right, top}, {left, top}});
+            return drawMark(m_sheet, m_middle);
+        default:
+            return drawShape(m_layer.kind);
+    }
+}
+
+// The lines of a shape lie a little inside the layer.
+void LayerDrawing::drawShape(std::int32_t shape) {
+    const int left = m_area.left + inset;
+    const int right = m_area.right - inset;
+    const int bottom = m_area.bottom - inset;
+    const int top = m_area.top + inset;
+    const auto across = [&](int y) { m_sheet.line({{left, y}, {right, y}}); };
+    const auto upright = [&](int x) { m_sheet.line({{x, top}, {x, bottom}}); };
+    switch (shape) {
+        case kind::beam:
+            across(bottom);
+            across(top);
+            return upright(m_middle.x);
+        case kind::angle:
+        case kind::angleMirrored:
+            across(bottom);
+            return upright(shape == kind::angle ? left : right);
+        case kind::channel:
+        case kind::channelMirrored:
+            across(bottom);
+            across(top);
+            return upright(shape == kind::channel ? left : right);
+        default:
+            return m_sheet.line(
+                {{left, bottom}, {right, bottom}, {right, top}, {left, top}, {left, bottom}});
+    }
+}
+
+void LayerDrawing::drawInsulation() {
+    const auto& [left, top, right, bottom] = m_area;
+    m_sheet.line({{left, bottom}, {right, bottom}, {right, top}, {left, top}, {left, bottom}});
+    const int step = truncatedPixel(m_layer.width * m_sheet.scale.scale / 2.0);
+    drawZigzag(m_sheet.canvas, {left, bottom}, top, step, m_sheet.height);
+}
+
+void LayerDrawing::drawMirrorButton(Size size) {
+    const double middle =
+        static_cast<double>(std::int64_t{m_layer.offset} + m_layer.width / 2) * m_sheet.scale.scale;
+    const int x = truncatedPixel(m_sheet.scale.origin.x + middle - size.width / 2);
+    const int y = m_area.top - mirrorAbove;
+    m_sheet.canvas.drawIcon(icon::mirror, {x, y}, size);
+    m_sheet.regions.push_back(
+        {false, region::mirror, {&m_layer, EditField::kind}, x, y, size.width, size.height});
+}
+
+// Answers the height of the line.
+int LayerDrawing::drawValue(int y, int word, std::int32_t value, int kind, EditField field) {
+    Canvas& canvas = m_sheet.canvas;
+    canvas.drawText({firstValue.x, y}, str(word));
+    const int x = firstValue.x + canvas.measure(str(word)).width;
+    const Text number = formatInt(value);
+    const Size size = canvas.measure(number);
+    canvas.drawText({x, y}, number);
+    m_sheet.regions.push_back({true, kind, {&m_layer, field}, x, y, size.width, size.height});
+    return size.height;
+}
+
+void LayerDrawing::drawValues() {
+    const bool insulation = m_layer.kind == kind::insulation;
+    m_sheet.canvas.setFont(labelFont());
+    int y = firstValue.y;
+    y += drawValue(y, insulation ? thicknessWord : widthWord, m_layer.width, region::specialWidth,
+                   EditField::width);
+    if (insulation || m_layer.kind == kind::monolith) {
+        y += drawValue(y, heightWord, m_layer.height, region::number, EditField::height);
+    }
+    m_sheet.canvas.setPen({m_color, fine});
+    m_sheet.line({{leaderStart, y}, m_middle});
+}
+
+}  // namespace
+
+void drawLayer(SectionSheet& sheet, const CRez& layer, bool current, Size mirrorButton) {
+    LayerDrawing drawing(sheet, layer, current);
+    drawing.drawSymbol();
+    if (!current) return;
+    if (layer.kind > kind::special) {
+        drawing.drawValues();
+    } else if (layer.kind >= kind::angle) {
+        drawing.drawMirrorButton(mirrorButton);
+    }
+}
+
+}  // namespace lx

@@ -1,0 +1,173 @@
+#include "preview/section_mouse.h"
+
+#include <utility>
+
+#include "design/layer_commands.h"
+#include "platform/numbers.h"
+#include "preview/value_family.h"
+
+namespace lx {
+
+namespace {
+
+// A mirrored steel section is the same shape this much further on.
+constexpr std::int32_t mirrored = 50;
+
+bool between(std::int64_t value, std::int64_t low, std::int64_t high) {
+    return value >= low && value <= high;
+}
+
+}  // namespace
+
+CRez* layerAt(const CRez* head, const SectionScale& scale, Point p) {
+    if (head == nullptr) return nullptr;
+    const auto pixels = [&scale](double millimetres) {
+        return std::int64_t{truncateToInt(millimetres * scale.scale)};
+    };
+    for (CRez* layer = head->next; layer != nullptr; layer = layer->next) {
+        const double end = static_cast<double>(layer->offset) + layer->width;
+        const double top = static_cast<double>(layer->level) + layer->height;
+        if (between(p.x, pixels(layer->offset) + scale.origin.x, pixels(end) + scale.origin.x) &&
+            between(p.y, pixels(-top) + scale.origin.y,
+                    pixels(-static_cast<double>(layer->level)) + scale.origin.y)) {
+            return layer;
+        }
+    }
+    return nullptr;
+}
+
+SectionMouse::SectionMouse(DesignServices& services, Picture& picture, const HitRegions& regions)
+    : m_services(services), m_picture(picture), m_regions(regions) {
+    picture.onMouseMove = [this](Point p, bool leftDown) { move(p, leftDown); };
+    picture.onLeftDown = [this](Point p) { press(p); };
+    picture.onLeftUp = [this](Point) { release(); };
+    picture.onRightDown = [this](Point p) { selectAt(p); };
+    picture.onKey = [this](const KeyEvent& event) { return key(event); };
+}
+
+CRez* SectionMouse::layerUnder(Point p) {
+    const CRez* head = m_services.model().head();
+    if (head == nullptr) return nullptr;
+    return layerAt(head, sectionScale(head->width, m_picture.size()), p);
+}
+
+bool SectionMouse::known(const CRez* record) {
+    return record != nullptr && m_services.model().chain().contains(record);
+}
+
+void SectionMouse::mark(int offset) {
+    if (offset == m_dropMarker) return;
+    m_dropMarker = offset;
+    m_picture.redraw();
+}
+
+void SectionMouse::move(Point p, bool leftDown) {
+    if (regionAt(m_regions, p) != nullptr) {
+        m_target = nullptr;
+        m_picture.setCursor(CursorShape::hand);
+        return;
+    }
+    m_target = layerUnder(p);
+    CRez* head = m_services.model().head();
+    const CRez* current = m_services.model().current();
+    const bool drag = leftDown && head != nullptr && known(m_pressed) && m_pressed == current;
+    if (!drag) {
+        m_picture.setCursor(m_target != nullptr ? CursorShape::hand : CursorShape::arrow);
+        return;
+    }
+    m_dragging = true;
+    if (m_target == nullptr) m_target = head;
+    m_picture.setCursor(CursorShape::upArrow);
+    mark(m_target == head ? head->width : m_target->offset);
+}
+
+// The region is what the user saw when the button went down: a pending edit that this click commits
+// and the selection draw the picture anew.
+void SectionMouse::press(Point p) {
+    const HitRegion* hit = regionAt(m_regions, p);
+    HitRegion region;
+    Text family;
+    if (hit != nullptr) {
+        region = *hit;
+        const auto index = static_cast<std::size_t>(hit - m_regions.data());
+        family = valueFamily(m_regions, index, m_services.model().chain());
+    }
+    m_services.EndEdit();
+    m_target = nullptr;
+    m_dragging = false;
+    mark(-1);
+    m_pressed = layerUnder(p);
+    if (m_pressed != nullptr) m_services.SelectRecord(m_pressed);
+    if (hit != nullptr) clickRegion(region, family, p);
+}
+
+void SectionMouse::clickRegion(const HitRegion& region, const Text& family, Point p) {
+    RezChain& design = m_services.model().chain();
+    std::int32_t* value = valueOf(design, region.target);
+    if (value == nullptr) return;
+    if (region.kind == region::layerName) {
+        m_services.SelectRecord(recordOf(design, region.target));
+    } else if (region.kind == region::mirror) {
+        mirror(*value);
+    } else {
+        const ValueEdit edit{region.kind, region.absoluteOnly, region.target, formatInt(*value)};
+        m_services.OpenEdit({edit, family}, m_picture, p);
+    }
+}
+
+// The layers stay where they are until the design is laid out for another reason.
+void SectionMouse::mirror(std::int32_t& kind) {
+    kind += kind >= mirrored ? -mirrored : mirrored;
+    m_services.RefreshAll();
+}
+
+void SectionMouse::release() {
+    CRez* target = std::exchange(m_target, nullptr);
+    const bool dropped = std::exchange(m_dragging, false) && known(m_pressed) &&
+                         m_pressed == m_services.model().current() && known(target);
+    m_picture.setCursor(CursorShape::arrow);
+    mark(-1);
+    if (!dropped) return;
+    const bool moved = moveCurrent(m_services.model().edit(), target) == CommandAnswer::done;
+    if (moved) m_services.Relayout();
+}
+
+void SectionMouse::selectAt(Point p) {
+    m_services.EndEdit();
+    if (CRez* layer = layerUnder(p)) m_services.SelectRecord(layer);
+}
+
+KeyAnswer SectionMouse::key(const KeyEvent& event) {
+    if (event.ctrl || event.shift || event.alt) return KeyAnswer::pass;
+    switch (event.key) {
+        case key::del:
+            m_services.RemoveCurrent();
+            return KeyAnswer::swallow;
+        case key::left:
+        case key::up:
+            step(true);
+            return KeyAnswer::swallow;
+        case key::right:
+        case key::down:
+            step(false);
+            return KeyAnswer::swallow;
+        case key::home:
+            m_services.SelectRecord(nullptr);
+            return KeyAnswer::swallow;
+        case key::end:
+            m_services.SelectRecord(m_services.model().chain().last());
+            return KeyAnswer::swallow;
+        default:
+            return KeyAnswer::pass;
+    }
+}
+
+void SectionMouse::step(bool back) {
+    DesignModel& model = m_services.model();
+    CRez* current = model.current();
+    if (!known(current)) return m_services.SelectRecord(nullptr);
+    CRez* next = back ? model.chain().before(current) : current->next;
+    if (next != nullptr) m_services.SelectRecord(next);
+}
+
+}  // namespace lx

@@ -1,0 +1,325 @@
+#include "preview/section_drawing.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <fstream>
+#include <limits>
+#include <sstream>
+
+#include "composition/layout.h"
+#include "composition/section_scale.h"
+#include "platform/recording_canvas.h"
+#include "preview/section_zigzag.h"
+#include "tests/support/designs.h"
+
+namespace lx {
+namespace {
+
+// A design with what its drawing depends on.
+struct Scene {
+    RezChain design;
+    SectionInput input;
+
+    explicit Scene(std::int32_t wall, Size client = {480, 400}) {
+        design.append(headOf(wall));
+        input.client = client;
+        input.openingWidth = 1200;
+    }
+    Scene& bend(std::int32_t run, std::int32_t step, bool flagged = false) {
+        design.head()->addBend(run, step, flagged);
+        return *this;
+    }
+    Scene& add(std::int32_t kind, std::int32_t width, std::int32_t height,
+               const char* name = "prvek") {
+        design.append(layer(kind, width, name))->height = height;
+        return *this;
+    }
+    // Makes the last record the current one.
+    Scene& here() {
+        input.current = design.last();
+        return *this;
+    }
+    HitRegions draw(Canvas& canvas) {
+        layOut(*design.head());
+        settleSection(*design.head(), input.client);
+        input.head = design.head();
+        return drawSection(canvas, input);
+    }
+};
+
+std::string fieldName(const HitRegion& region) {
+    if (region.kind == region::layerName) return "";
+    const std::string bend = std::to_string(region.target.bend);
+    switch (region.target.field) {
+        case EditField::width:
+            return " width";
+        case EditField::height:
+            return " height";
+        case EditField::kind:
+            return " kind";
+        case EditField::bendRun:
+            return " run of bend " + bend;
+        case EditField::bendStep:
+            return " step of bend " + bend;
+        default:
+            return " ?";
+    }
+}
+
+std::string asText(const HitRegion& region, const CRez* head) {
+    int place = 0;
+    for (const CRez* record = head; record && record != region.target.record; record = record->next)
+        ++place;
+    std::ostringstream text;
+    text << "region kind " << region.kind << (region.absoluteOnly ? " absolute" : "") << ", record "
+         << place << fieldName(region) << ", (" << region.x << "," << region.y << ") "
+         << region.width << "x" << region.height << "\n";
+    return text.str();
+}
+
+std::string recorded(Scene& scene) {
+    RecordingCanvas canvas;
+    const HitRegions regions = scene.draw(canvas);
+    std::string text = canvas.asText();
+    for (const HitRegion& region : regions) text += asText(region, scene.design.head());
+    return text;
+}
+
+// ---- drawings compared with files
+
+Scene thinWall() {
+    Scene scene(150);
+    scene.input.openingWidth = 1200.5;
+    scene.input.current = scene.design.head();
+    return scene;
+}
+
+Scene oneBend() {
+    Scene scene(300);
+    scene.bend(100, 50).add(kind::precast, 71, 238, "KPV 7/145").add(kind::precast, 71, 238);
+    scene.input.current = scene.design.head();
+    scene.input.exteriorLeft = false;
+    scene.input.openingWidth = 1200.6;
+    return scene;
+}
+
+Scene beamsAndInsulation() {
+    Scene scene(300);
+    scene.bend(151, -30).add(kind::beam, 101, 161, "I 160").add(kind::insulation, 81, 203).here();
+    scene.add(kind::beam, 101, 161, "I 160");
+    return scene;
+}
+
+Scene slopingHead() {
+    Scene scene(301);
+    scene.bend(101, 75).bend(7, 53, true);
+    scene.add(kind::precast, 71, 239, "KV ?/1 ?").here();
+    scene.design.last()->bearing = 125;
+    scene.design.last()->length = 1500;
+    scene.add(kind::precast, 71, 239, "KP").add(kind::space, 33, 100);
+    return scene;
+}
+
+// The flagged bend is not the last one, and goes down.
+Scene slopingMiddle() {
+    Scene scene(300);
+    scene.bend(90, 60).bend(0, -45, true).bend(20, 10);
+    return scene;
+}
+
+Scene angles() {
+    Scene scene(200);
+    scene.add(kind::angle, 45, 61, "L").here();
+    scene.add(kind::insulation, 15, 61).add(kind::angleMirrored, 45, 61, "L");
+    return scene;
+}
+
+Scene channels() {
+    Scene scene(200);
+    scene.add(kind::channel, 45, 81, "U").add(kind::space, 51, 81, "MEZERA");
+    scene.add(kind::channelMirrored, 45, 81, "U").here();
+    scene.input.dropMarker = 96;
+    return scene;
+}
+
+Scene currentSpace() {
+    Scene scene(365, {417, 339});
+    scene.add(kind::space, 123, 77, "MEZERA").here();
+    scene.input.dropMarker = 0;
+    return scene;
+}
+
+// A cast layer wider than the wall.
+Scene currentMonolith() {
+    Scene scene(250, {417, 339});
+    scene.bend(125, 50).bend(60, 25).add(kind::monolith, 333, 251, "MONOLIT").here();
+    return scene;
+}
+
+Scene otherShapes() {
+    Scene scene(400);
+    scene.add(5, 81, 100, "?").here();
+    scene.add(kind::precast, 70, 100).add(104, 33, 55).add(60, 21, 31);
+    scene.design.head()->next->next->name.reset();
+    return scene;
+}
+
+// Elements without a value of their own to be typed over.
+Scene currentBeam() {
+    Scene scene(200);
+    scene.add(kind::beam, 99, 100, "I 100").here();
+    return scene;
+}
+
+Scene currentOfNoKind() {
+    Scene scene(200);
+    scene.add(105, 99, 100).here();
+    return scene;
+}
+
+struct Drawing {
+    const char* name;
+    Scene (*make)();
+};
+constexpr Drawing drawings[] = {
+    {"thin_wall", thinWall},
+    {"one_bend", oneBend},
+    {"beams_and_insulation", beamsAndInsulation},
+    {"sloping_head", slopingHead},
+    {"sloping_middle", slopingMiddle},
+    {"angles", angles},
+    {"channels", channels},
+    {"current_space", currentSpace},
+    {"current_monolith", currentMonolith},
+    {"other_shapes", otherShapes},
+    {"current_beam", currentBeam},
+    {"current_of_no_kind", currentOfNoKind},
+};
+
+std::string contentOf(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    std::ostringstream content;
+    content << file.rdbuf();
+    return content.str();
+}
+
+// LX_WRITE_DRAWINGS=1 writes the files anew; look at their differences before keeping them.
+TEST(SectionDrawing, DrawsWhatTheFilesSay) {
+    const bool write = std::getenv("LX_WRITE_DRAWINGS") != nullptr;
+    for (const Drawing& drawing : drawings) {
+        Scene scene = drawing.make();
+        const std::string path =
+            std::string(LX_SOURCE_DIR "/tests/preview/drawings/") + drawing.name + ".txt";
+        const std::string drawn = recorded(scene);
+        if (write) {
+            std::ofstream(path, std::ios::binary) << drawn;
+        } else {
+            EXPECT_EQ(drawn, contentOf(path)) << drawing.name;
+        }
+    }
+    if (write) GTEST_SKIP() << "drawings written anew";
+}
+
+// ---- what a file does not tell
+
+TEST(SectionDrawing, IsBlackWithoutADesignAndNothingWithoutRoom) {
+    RecordingCanvas black;
+    SectionInput input;
+    input.client = {480, 400};
+    input.dropMarker = 10;
+    EXPECT_TRUE(drawSection(black, input).empty());
+    EXPECT_EQ(black.asText(), "clip (0,0)-(480,400)\nfill (0,0)-(480,400) 0,0,0\n");
+
+    for (const Size none : {Size{0, 400}, Size{480, 0}, Size{-1, -1}}) {
+        Scene scene(300, none);
+        RecordingCanvas canvas;
+        EXPECT_TRUE(scene.bend(1, 2).add(kind::insulation, 80, 200).here().draw(canvas).empty());
+        EXPECT_TRUE(canvas.empty());
+    }
+}
+
+TEST(SectionDrawing, NoNumberMakesItLong) {
+    constexpr std::int32_t least = std::numeric_limits<std::int32_t>::min();
+    constexpr std::int32_t most = std::numeric_limits<std::int32_t>::max();
+    constexpr std::int32_t numbers[] = {least, -300, 0, 80, most};
+    for (const std::int32_t wall : {least, 300, most}) {
+        for (const std::int32_t size : numbers) {
+            for (const std::int32_t place : numbers) {
+                Scene scene(wall);
+                scene.bend(place, size).bend(size, place, true).bend(size, size);
+                for (const std::int32_t k : {1, 2, 3, 53, 0, 101, 102, 103, 500, -1}) {
+                    scene.add(k, 80, size).design.last()->width = place;
+                }
+                layOut(*scene.design.head());
+                scene.input.head = scene.design.head();
+                scene.input.dropMarker = place;
+                scene.input.openingWidth = size * 1e300;
+                for (CRez* record = scene.design.head(); record; record = record->next) {
+                    record->offset = place;
+                    record->level = size;
+                    scene.input.current = record;
+                    RecordingCanvas canvas;
+                    EXPECT_GE(drawSection(canvas, scene.input).size(), 10U);
+                    EXPECT_LT(canvas.asText().size(), 20000U);
+                }
+            }
+        }
+    }
+}
+
+std::string zigzag(int start, int top, int step) {
+    RecordingCanvas canvas;
+    drawZigzag(canvas, {5, start}, top, step, 300);
+    return canvas.asText();
+}
+
+TEST(SectionDrawing, TheZigzagIsCutWhereItCannotBeSeen) {
+    const std::string pen = "pen 0,0,0 width 1 solid\nline ";
+    EXPECT_EQ(zigzag(100, 70, 10), pen + "(5,100)-(25,90)-(5,80)\n") << "not up to the top edge";
+    EXPECT_EQ(zigzag(100, 69, 10), pen + "(5,100)-(25,90)-(5,80)-(25,70)\n");
+    EXPECT_EQ(zigzag(100, 50, 7), "") << "too narrow";
+    EXPECT_EQ(zigzag(50, 100, 10), "") << "a negative height";
+    EXPECT_EQ(zigzag(250, -2'000'000'000, 100), pen + "(5,250)-(205,150)-(5,50)-(205,-50)\n");
+    EXPECT_EQ(zigzag(2'000'000'050, 0, 100), pen + "(205,350)-(5,250)-(205,150)-(5,50)\n")
+        << "the side that it would have come to, counted from its start";
+    EXPECT_EQ(zigzag(2'000'000'050, 1'000'000'000, 100), "") << "all of it below the picture";
+}
+
+TEST(SectionDrawing, RegionsAreNamedInTheOrderOfTheirMaking) {
+    Scene scene = beamsAndInsulation();
+    RecordingCanvas canvas;
+    const HitRegions regions = scene.draw(canvas);
+    std::string names;
+    for (const PictureRegion& region : pictureRegions(regions)) names += region.name + "; ";
+    EXPECT_EQ(names, "run 1; step 1; width; height; layer 1; layer 2; layer 3; ");
+    const PictureRegion width = pictureRegions(regions).at(2);
+    EXPECT_EQ(width.area, (Rect{66, 80, 78, 93}));
+
+    Scene steel = angles();
+    RecordingCanvas other;
+    EXPECT_EQ(pictureRegions(steel.draw(other)).front().name, "mirror");
+}
+
+TEST(HitRegions, BelongToTheirEdgesAndTheNewestOneWins) {
+    const HitRegions regions = {{false, region::number, {}, 20, 20, 10, 5},
+                                {false, region::number, {}, 10, 10, 10, 10},
+                                {false, region::number, {}, 40, 40, 0, 13}};
+    const auto hit = [&](int x, int y) {
+        const HitRegion* found = regionAt(regions, {x, y});
+        return found ? static_cast<int>(found - regions.data()) : -1;
+    };
+    EXPECT_EQ(hit(10, 10), 1);
+    EXPECT_EQ(hit(19, 20), 1);
+    EXPECT_EQ(hit(20, 20), 0) << "the corner of both";
+    EXPECT_EQ(hit(30, 25), 0);
+    EXPECT_EQ(hit(31, 25), -1);
+    EXPECT_EQ(hit(30, 26), -1);
+    EXPECT_EQ(hit(9, 15), -1);
+    EXPECT_EQ(hit(40, 53), 2) << "the name of a layer without one";
+    constexpr int least = std::numeric_limits<int>::min();
+    EXPECT_EQ(hit(least, least), -1);
+}
+
+}  // namespace
+}  // namespace lx
