@@ -31,7 +31,10 @@ void CObr1::connect() {
     window.answerMessage(identifyMessage, identifyAnswer);
     window.onKey = [this](const KeyEvent& event) { return key(event); };
     window.onTimer = [this](int) { m_window->bringToFront(); };
-    window.onDestroy = [this] { m_model.clear(); };
+    window.onDestroy = [this] {
+        m_roletka->leave();
+        m_model.clear();
+    };
     window.onDescribe = [this](std::string_view topic) { return describe(topic); };
     window.get<Button>(id::ok).onClick = [this] { confirm(); };
     window.get<Button>(id::help).onClick = [this] { m_context.host.showHelp(m_helpTopic); };

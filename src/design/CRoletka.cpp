@@ -62,6 +62,13 @@ void CRoletka::cancel() {
     hide();
 }
 
+void CRoletka::leave() {
+    m_edit = {};
+    m_box.show(false);
+    m_box.moveInto(nullptr);
+    m_picture = nullptr;
+}
+
 // The picture keeps the keyboard, so that its own keys work at once.
 void CRoletka::hide() {
     if (m_box.focused() && m_picture != nullptr) m_picture->focus();

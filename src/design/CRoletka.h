@@ -25,6 +25,8 @@ public:
     bool commit() { return commit(Message::now); }
     // Takes the edit away and hides the box; the design keeps its value.
     void cancel();
+    // Leaves the picture before its window goes; the edit is over.
+    void leave();
 
 private:
     // A message box may not come up while the focus is on its way.
