@@ -1,6 +1,8 @@
 // The lines of a scenario that set something up or act as the user.
 #include <charconv>
+#include <chrono>
 #include <stdexcept>
+#include <thread>
 
 #include "host/ini_text.h"
 #include "host/paths.h"
@@ -50,6 +52,17 @@ void takeSamples(PlayContext& context, const Words&) {
     }
     copyFile(context.folders.path("sample:VDLINTEL.TXT"),
              context.folders.path("data:VDLINTEL.TXT"));
+}
+
+// Another program makes it meanwhile.
+void awaitFile(PlayContext& context, const Words& words) {
+    constexpr auto step = std::chrono::milliseconds(20);
+    constexpr int most = 3000;
+    const fs::path file = context.folders.path(words[0]);
+    for (int tries = 0; !fs::exists(file); ++tries) {
+        if (tries == most) throw std::runtime_error("nobody made " + words[0]);
+        std::this_thread::sleep_for(step);
+    }
 }
 
 void writeText(PlayContext& context, const Words& words) {
@@ -178,6 +191,7 @@ const std::vector<Command>& commands() {
          [](C& c, const W& w) { copyFile(c.folders.path(w[0]), c.folders.path(w[1])); }},
         {"remove", 1, 1, Where::anywhere,
          [](C& c, const W& w) { fs::remove_all(c.folders.path(w[0])); }},
+        {"await", 1, 1, Where::anywhere, awaitFile},
         {"setting", 4, 4, Where::anywhere, setSetting},
         {"host", 2, 2, Where::anywhere, setHost},
         {"opening", 2, anyNumber, Where::anywhere, setOpening},

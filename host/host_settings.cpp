@@ -105,8 +105,11 @@ const std::vector<Setting>& settings() {
          [](S& s, V v) { return setText(s.drawing, v); }},
         {"units", "N|none", "drawing units per metre; none: the table cannot tell",
          [](S& s, V v) { return setUnits(s.units, v); }},
-        {"lock", "granted|refused|N|none", "answer to both locks; none: no such entry",
+        {"lock", "granted|refused|shared|N|none",
+         "answer to both locks; shared: granted to one program at a time; none: no such entry",
          [](S& s, V v) {
+             s.sharedLocks = v == "shared";
+             if (s.sharedLocks) v = "granted";
              const std::string error = setLock(s.libraryLock, s.lockEntry, v);
              s.catalogueLock = s.libraryLock;
              return error;

@@ -29,6 +29,7 @@ struct HostSettings {
     bool lockEntry = true;                                       // entry 44
     int libraryLock = 1;                                         // answers of entry 44
     int catalogueLock = 1;
+    bool sharedLocks = false;  // the locks are those of all programs that share the folders
     std::optional<std::vector<std::string>> styles =
         std::vector<std::string>{"Standard", "Popisy", "Kóty"};  // none: no entry 59
     std::optional<std::string> title = "Stand-in";               // none: no entry 94

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <filesystem>
 
 #include "host/paths.h"
 #include "platform/text.h"
@@ -57,9 +58,11 @@ struct ServiceEntries {
         if (g_current == nullptr) return 0;
         const HostSettings& settings = g_current->settings;
         const bool isRequest = mode == lockMode;
-        const int answer = !isRequest              ? 0
-                           : resource == libraryId ? settings.libraryLock
-                                                   : settings.catalogueLock;
+        int answer = !isRequest              ? 0
+                     : resource == libraryId ? settings.libraryLock
+                                             : settings.catalogueLock;
+        if (settings.sharedLocks && isRequest) answer = g_current->requestShared(resource);
+        if (settings.sharedLocks && !isRequest) g_current->releaseShared(resource);
         g_current->lockCalls.push_back({resource, mode, answer});
         return answer;
     }
@@ -91,7 +94,27 @@ HostServices::HostServices() : m_table(tableSize, nullptr) {
 }
 
 HostServices::~HostServices() {
+    while (!m_held.empty()) releaseShared(*m_held.begin());
     g_current = nullptr;
+}
+
+std::string HostServices::sharedLock(int resource) const {
+    const std::optional<std::string>& folder =
+        resource == libraryId ? settings.library : settings.catalogue;
+    return asFolder(folder.value_or("")) + "lock-" + std::to_string(resource);
+}
+
+int HostServices::requestShared(int resource) {
+    std::error_code error;
+    if (!std::filesystem::create_directory(pathFromUtf8(sharedLock(resource)), error)) return 0;
+    m_held.insert(resource);
+    return 1;
+}
+
+void HostServices::releaseShared(int resource) {
+    if (m_held.erase(resource) == 0) return;
+    std::error_code error;
+    std::filesystem::remove(pathFromUtf8(sharedLock(resource)), error);
 }
 
 void HostServices::clearLogs() {

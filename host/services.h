@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -40,6 +41,12 @@ public:
 
 private:
     friend struct ServiceEntries;
+    // A lock of all programs that share its folder is a folder in there, made and removed.
+    std::string sharedLock(int resource) const;
+    int requestShared(int resource);
+    void releaseShared(int resource);
+    std::set<int> m_held;
+
     // Texts handed out as pointers, valid until the entry is asked again.
     std::string m_variable;
     std::string m_title;

@@ -137,12 +137,15 @@ enum {
     LX_ERASE_DESCRIPTION = 8
 };
 
+/* What mergeLibraryFiles brings up to date. */
+enum { LX_MERGE_LIBRARY = 2, LX_MERGE_CATALOGUE = 3 };
+
 /* What mergeLibraryFiles returns. */
 enum {
     LX_MERGE_DONE = 0,
     LX_MERGE_UNKNOWN_MODE = 1,
-    LX_MERGE_NO_SOURCE = -1,
-    LX_MERGE_NO_TARGET = -2 /* no host, folder or lock, or the target cannot be read or replaced */
+    LX_MERGE_NO_SOURCE = -1, /* no name, or the supplied file cannot be read */
+    LX_MERGE_NO_TARGET = -2  /* no host, folder or lock, or the target cannot be read or replaced */
 };
 
 /* Bytes that a result text buffer must hold: at most 1023 of text, and the zero. Longer text is
@@ -189,12 +192,18 @@ int LX_STDCALL CallLXdata6Base(void* parent);
  * the erasing. */
 int LX_STDCALL LintelErase(void* parent);
 
-/* Brings an installed file up to date from a supplied one. This version changes nothing and answers
- * LX_MERGE_NO_TARGET.
+/* Brings an installed file up to date from a supplied one; shows nothing. LX_MERGE_LIBRARY puts the
+ * supplied library in the place of the installed one. LX_MERGE_CATALOGUE merges a catalogue into
+ * the installed one of its kind: types and items of the same name are updated in their place, new
+ * ones follow, the user's own stay. With any result but LX_MERGE_DONE the installed file is as it
+ * was.
  *
- * sourcePath   full name of the supplied file
- * targetFolder folder of the installed files, or null for the host's own
- * mode         2 = library file, 3 = catalogue file
+ * sourcePath   full name of the supplied file; a catalogue's name that ends in "LXDATA6S.DAT",
+ *              exactly so, is one of steel sections, any other of precast lintels
+ * targetFolder folder of the installed files, no lock is asked for; or null or empty for the host's
+ *              folder LX_FOLDER_CATALOGUE, under the host's lock. A lock is released at the end of
+ *              a merge even if it was not asked for
+ * mode         LX_MERGE_...
  */
 int LX_CDECL mergeLibraryFiles(void* unused, const char* sourcePath, const char* targetFolder,
                                int32_t mode);
@@ -235,8 +244,8 @@ enum {
     LX_LOCK_RELEASE_REFUSED = 2 /* ends a request that was not granted */
 };
 
-/* Puts a folder with its trailing separator into the buffer of 260 bytes. Only the low byte of the
- * answer counts: not 0 = the buffer holds it. */
+/* Puts a folder with its trailing separator into the buffer of size bytes: 260, or 1024 for
+ * mergeLibraryFiles. Only the low byte of the answer counts: not 0 = the buffer holds it. */
 typedef unsigned char(LX_CDECL* LxFolderService)(int folder, char* buffer, int size);
 /* The value of a variable such as "DWGNAME" (the drawing's file name), or null. */
 typedef const char*(LX_CDECL* LxVariableService)(const char* name);

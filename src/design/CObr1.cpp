@@ -4,6 +4,8 @@
 
 #include "design/confirmation.h"
 #include "design/describe.h"
+#include "design/description.h"
+#include "platform/numbers.h"
 #include "resources/ids.h"
 #include "resources/strings.h"
 #include "resources/templates.h"
@@ -13,6 +15,7 @@ namespace lx {
 namespace {
 
 constexpr int warningCaption = 22;
+constexpr int bearingText = 38;
 constexpr int bubbleMissingText = 87;
 constexpr int labelTakenText = 88;
 
@@ -60,12 +63,17 @@ int CObr1::Relayout() {
 }
 
 void CObr1::RefreshAll() {
+    refreshShown();
+    m_geometry->RefreshDescription();
+}
+
+void CObr1::refreshShown() {
     RedrawPreviews();
     RefreshProperties();
     RefreshAvailability();
     m_precast->refreshOfferLooks();
     m_steel->refreshOfferLooks();
-    m_geometry->RefreshDescription();
+    m_libraryPage->refreshDesignLooks();
 }
 
 void CObr1::SelectRecord(CRez* record) {
@@ -78,6 +86,15 @@ void CObr1::SelectRecord(CRez* record) {
 void CObr1::RedrawPreviews() {
     m_section->redraw();
     m_geometry->redrawPlan();
+}
+
+void CObr1::ShowBearing(std::int32_t bearing) {
+    const Text text = fillIn(str(bearingText), {formatInt(bearing)});
+    m_window->get<Edit>(id::properties).setText(text);
+}
+
+void CObr1::EnableConfirmation(bool on) {
+    m_window->item(id::ok).enable(on);
 }
 
 void CObr1::ShowTab(int index) {
@@ -167,8 +184,20 @@ void CObr1::chooseSource(PropertiesSource source) {
     RefreshProperties();
 }
 
+// Turning a section leaves the layers where they are, and a description that the user has not
+// touched follows what is stored.
+void CObr1::layOutToConfirm() {
+    const CRez* head = m_model.head();
+    if (head == nullptr) return;
+    const bool untouched = m_geometry->description() == descriptionSummary(*head);
+    m_model.Relayout();
+    if (untouched) m_geometry->setDescription(descriptionSummary(*head));
+    refreshShown();
+}
+
 void CObr1::confirm() {
     if (!EndEdit()) return;
+    layOutToConfirm();
     const ConfirmationInput input{m_geometry->bubbleName(),
                                   m_geometry->description(),
                                   m_geometry->annotation(),
@@ -182,7 +211,6 @@ void CObr1::confirm() {
     resultA = result.insert;
     resultB = result.foldedSection;
     resultText = std::move(result.text);
-    RedrawPreviews();
     switch (answer) {
         case ConfirmationAnswer::done:
             m_window->end(id::ok);

@@ -58,6 +58,8 @@ private:
     }
     bool editVisible() const override { return m_roletka->visible(); }
     void RedrawPreviews() override;
+    void ShowBearing(std::int32_t bearing) override;
+    void EnableConfirmation(bool on) override;
     MessageAnswer showMessage(std::string_view text, MessageIcon icon,
                               MessageButtons buttons) override;
 
@@ -79,6 +81,8 @@ private:
     bool focusOutsidePages();
     void chooseSource(PropertiesSource source);
     void confirm();
+    void layOutToConfirm();
+    void refreshShown();
     void openCommandMenu();
     bool commandEnabled(int command);
     void run(int command);

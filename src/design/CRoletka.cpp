@@ -18,7 +18,7 @@ int within(int wanted, int size, int available) {
 
 CRoletka::CRoletka(ComboBox& box, DesignServices& services) : m_box(box), m_services(services) {
     m_box.onKey = [this](const KeyEvent& event) { return key(event); };
-    m_box.onBlur = [this] { commit(Message::posted); };
+    m_box.onBlur = [this] { leaveFocus(); };
 }
 
 void CRoletka::open(const EditRequest& request, Picture& picture, Point at) {
@@ -75,13 +75,22 @@ void CRoletka::hide() {
     m_box.show(false);
 }
 
+void CRoletka::leaveFocus() {
+    if (m_edit.target.record != nullptr) {
+        m_left = true;
+        m_services.window().post([this] { m_left = false; });
+    }
+    commit(Message::posted);
+}
+
 // The edit is over before anything else happens: hiding, messages and rebuilt offers lead back
 // here.
 bool CRoletka::commit(Message message) {
     const ValueEdit edit = std::exchange(m_edit, {});
     const Text typed = m_box.text();
     if (m_box.visible()) hide();
-    if (edit.kind == edit_kind::none) return true;
+    // A refusal by the loss of the focus has not been told when the act that took the focus begins.
+    if (edit.target.record == nullptr) return message == Message::posted || !tellRefusal();
     DesignModel& model = m_services.model();
     const CommitAnswer answer = commitValue(model.edit(), edit, typed, model.values().openingWidth);
     if (answer.message != 0) {
@@ -98,11 +107,19 @@ bool CRoletka::commit(Message message) {
 
 void CRoletka::refuse(const CommitAnswer& answer, Message message) {
     m_box.setText(answer.kept);
-    const auto show = [this, number = answer.message] {
-        m_services.showMessage(str(number), MessageIcon::stop);
-    };
-    if (message == Message::now) return show();
-    m_services.window().post(show);
+    m_untold = answer.message;
+    if (message == Message::posted) {
+        m_services.window().post([this] { tellRefusal(); });
+    } else {
+        tellRefusal();
+    }
+}
+
+bool CRoletka::tellRefusal() {
+    const int number = std::exchange(m_untold, 0);
+    if (number == 0) return false;
+    m_services.showMessage(str(number), MessageIcon::stop);
+    return true;
 }
 
 KeyAnswer CRoletka::key(const KeyEvent& event) {

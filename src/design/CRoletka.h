@@ -16,11 +16,12 @@ public:
     // Commits a pending edit and stands the box over that point of the picture, filled with the
     // remembered values, its text selected, with the focus.
     void open(const EditRequest& request, Picture& picture, Point at);
-    bool visible() const { return m_box.visible(); }
+    // Also during the event that has closed the box by taking its focus.
+    bool visible() const { return m_box.visible() || m_left; }
     // edit_kind::none when no edit is pending.
     int kind() const { return m_edit.kind; }
     // Takes the edit away, hides the box and puts the typed value into the design. False when the
-    // value was refused: a message has been shown and the design is as before. True as well when
+    // value was refused, also when the message about it is still to come. True as well when
     // there was nothing to commit.
     bool commit() { return commit(Message::now); }
     // Takes the edit away and hides the box; the design keeps its value.
@@ -32,6 +33,7 @@ private:
     // A message box may not come up while the focus is on its way.
     enum class Message { now, posted };
 
+    void leaveFocus();
     bool commit(Message message);
     void fill(const Text& shown);
     void place(Picture& picture, Point at);
@@ -39,12 +41,16 @@ private:
     KeyAnswer key(const KeyEvent& event);
     bool removeSelected();
     void refuse(const CommitAnswer& answer, Message message);
+    // Shows a refusal that has not been told yet. True when there was one.
+    bool tellRefusal();
 
     ComboBox& m_box;
     DesignServices& m_services;
     ValueEdit m_edit;
     Text m_historySection;
+    int m_untold = 0;              // text of a refusal whose message is posted; 0 = none
     Picture* m_picture = nullptr;  // that the box stands in
+    bool m_left = false;           // the event that took the focus is still being handled
 };
 
 }  // namespace lx

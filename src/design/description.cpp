@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "composition/layout.h"
 #include "design/designation.h"
 #include "platform/numbers.h"
 
@@ -18,8 +19,7 @@ Text sizeSuffix(std::int32_t width, std::int64_t height, std::int32_t length) {
     return fillIn(sizeFormat, {formatInt(width), formatInt(height), formatInt(length)});
 }
 
-}  // namespace
-
+// Smallest of 0 and the levels after each bend, mm.
 std::int64_t lowestLevel(const CZalom* bends) {
     std::int64_t lowest = 0;
     std::int64_t level = 0;
@@ -30,22 +30,31 @@ std::int64_t lowestLevel(const CZalom* bends) {
     return lowest;
 }
 
-Text layerLabel(const CRez& layer, std::int64_t lowest) {
+// A cast part reaches down to the lowest point of the head. The lift of a layer on a sloping step
+// depends on the size of the preview, so it does not count: the description must not.
+std::int64_t castHeight(const CRez& layer, const CZalom* bends, std::int64_t lowest) {
+    const std::int32_t level = levelAbove(bends, layer.offset, layer.width);
+    return std::int64_t{layer.height} + level - lowest;
+}
+
+// One line of the summary, without its count.
+Text layerLabel(const CRez& layer, const CZalom* bends, std::int64_t lowest) {
     Text label = shownDesignation(layer);
     if (layer.kind == kind::insulation) {
         label += sizeSuffix(layer.width, layer.height, layer.length);
     } else if (isSteel(layer.kind)) {
         label += fillIn(lengthFormat, {formatInt(layer.length)});
     } else if (layer.kind == kind::monolith) {
-        // A cast part reaches from above its own level down to the lowest point of the head.
-        const std::int64_t height = std::int64_t{layer.height} + layer.level - lowest;
-        label += sizeSuffix(layer.width, height, layer.length);
+        label += sizeSuffix(layer.width, castHeight(layer, bends, lowest), layer.length);
     }
     return label;
 }
 
+}  // namespace
+
 Text descriptionSummary(const CRez& head) {
-    const std::int64_t lowest = lowestLevel(head.bends.get());
+    const CZalom* bends = head.bends.get();
+    const std::int64_t lowest = lowestLevel(bends);
     Text summary;
     Text group;
     int count = 0;
@@ -57,7 +66,7 @@ Text descriptionSummary(const CRez& head) {
     };
     for (const CRez* layer = head.next; layer != nullptr; layer = layer->next) {
         if (layer->kind == kind::space) continue;
-        Text label = layerLabel(*layer, lowest);
+        Text label = layerLabel(*layer, bends, lowest);
         if (count > 0 && label == group) {
             ++count;
             continue;

@@ -8,6 +8,7 @@
 #include "design/opening.h"
 #include "design/page_index.h"
 #include "design/properties_text.h"
+#include "design/stored_fit.h"
 #include "resources/strings.h"
 
 namespace lx {
@@ -142,12 +143,44 @@ std::optional<Text> DesignModel::properties(PropertiesSource source, int page) c
 }
 
 void DesignModel::setStoredDesigns(std::vector<LibraryEntry> designs) {
-    if (m_shown != 0) m_current = m_own.head();
-    m_shown = 0;
+    if (m_shown != 0) showStored(0);
     m_stored = std::move(designs);
     std::stable_sort(
         m_stored.begin(), m_stored.end(),
         [](const LibraryEntry& a, const LibraryEntry& b) { return offerLess(a.label, b.label); });
+}
+
+void DesignModel::showStored(int entry) {
+    if (entry < 0 || static_cast<std::size_t>(entry) > m_stored.size()) return;
+    const CRez* before = head();
+    m_shown = static_cast<std::size_t>(entry);
+    m_current = head();
+    if (before != nullptr && m_current != nullptr) m_current->height = before->height;
+}
+
+Text DesignModel::removeShownStored() {
+    if (m_shown == 0) return {};
+    const std::size_t removed = m_shown;
+    const Text label = m_stored[removed - 1].label;
+    const auto labelled = [&label](const LibraryEntry& one) { return one.label == label; };
+    const auto before = std::count_if(
+        m_stored.begin(), m_stored.begin() + static_cast<std::ptrdiff_t>(removed - 1), labelled);
+    // The design is left before it is destroyed; it hands its level on.
+    showStored(0);
+    std::erase_if(m_stored, labelled);
+    showStored(
+        static_cast<int>(std::min(removed - static_cast<std::size_t>(before), m_stored.size())));
+    return label;
+}
+
+bool DesignModel::storedSuits(int entry) const {
+    const RezChain& design =
+        entry == 0 ? m_own : m_stored[static_cast<std::size_t>(entry) - 1].design;
+    return design.empty() || suitsOpening(*design.head(), m_values.openingWidth);
+}
+
+bool DesignModel::shownFits() const {
+    return m_shown == 0 || !bearingCheck || storedSuits(shownStored());
 }
 
 std::vector<Text> DesignModel::storedLabels() const {

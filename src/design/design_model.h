@@ -68,6 +68,17 @@ public:
     // Replaces the list behind entry 0, sorted by label; the dialog's own design becomes the one
     // being edited.
     void setStoredDesigns(std::vector<LibraryEntry> designs);
+    // The design of that entry becomes the one being edited, its head the current record. The level
+    // of the opening stays the one shown before. Nothing happens outside the list.
+    void showStored(int entry);
+    int shownStored() const { return static_cast<int>(m_shown); }
+    // Takes the entry that is shown, and others of its label, out of the list and shows the one
+    // that takes its place; entry 0 stays. The label, empty when nothing was removed.
+    Text removeShownStored();
+    // Whether the design of that entry suits the opening.
+    bool storedSuits(int entry) const;
+    // The same for the entry that is shown, unless it is entry 0 or designs are not checked.
+    bool shownFits() const;
     // Labels in list order; entry 0 names the dialog's own design.
     std::vector<Text> storedLabels() const;
     bool listsLabel(std::string_view paddedLabel) const;

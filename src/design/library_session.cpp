@@ -1,5 +1,9 @@
 #include "design/library_session.h"
 
+#include <algorithm>
+#include <limits>
+#include <set>
+
 #include "composition/library.h"
 
 namespace lx {
@@ -36,6 +40,57 @@ bool LibrarySession::SaveProjects() {
     if (readOnly()) return false;
     const auto path = pathOf(projectFileName);
     return path && saveProjects(*path, m_projects, m_files);
+}
+
+void LibrarySession::selectProject(int index) {
+    if (index >= 0 && static_cast<std::size_t>(index) < m_projects.projects.size()) {
+        m_projects.selected = index;
+    }
+}
+
+bool LibrarySession::hasProject(std::string_view name) const {
+    const std::string_view kept = name.substr(0, projectNameLimit);
+    return std::any_of(
+        m_projects.projects.begin(), m_projects.projects.end(),
+        [kept](const Project& project) { return equalIgnoringCase(project.name, kept); });
+}
+
+void LibrarySession::addProject(std::string_view name) {
+    std::int32_t largest = deletedProject;
+    std::set<std::int32_t> ids;
+    for (const Project& project : m_projects.projects) {
+        largest = std::max(largest, project.id);
+        ids.insert(project.id);
+    }
+    std::int32_t id = 0;
+    if (largest < std::numeric_limits<std::int32_t>::max()) {
+        id = largest + 1;
+    } else {
+        while (ids.contains(id)) ++id;
+    }
+    m_projects.projects.push_back({id, Text(name.substr(0, projectNameLimit))});
+    m_projects.selected = static_cast<int>(m_projects.projects.size()) - 1;
+}
+
+std::int32_t LibrarySession::removeProject() {
+    const std::int32_t id = m_projects.currentId();
+    if (m_projects.selected > 0) {
+        m_projects.projects.erase(m_projects.projects.begin() + m_projects.selected);
+        m_projects.selected = 0;
+    }
+    return id;
+}
+
+Text LibrarySession::proposedProjectName() {
+    constexpr std::size_t extension = 4;  // with its point
+    const Text drawing = m_host.variable("DWGNAME");
+    return drawing.size() > extension ? drawing.substr(0, drawing.size() - extension) : Text();
+}
+
+bool LibrarySession::DeleteEntries(std::int32_t project, std::string_view label) {
+    if (readOnly()) return false;
+    const auto path = pathOf(libraryFileName);
+    return path && deleteEntries(*path, project, label, m_files);
 }
 
 bool LibrarySession::LoadLibrary(DesignModel& model) {

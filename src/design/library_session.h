@@ -32,6 +32,20 @@ public:
     // False when read-only, or when the file must not or cannot be replaced.
     bool SaveProjects();
 
+    // Inside the list.
+    void selectProject(int index);
+    // The name without regard to letter case.
+    bool hasProject(std::string_view name) const;
+    // Behind the others and selected, with an id of its own; names are cut to what the file holds.
+    void addProject(std::string_view name);
+    // Takes the selected project, not the first one, out of the list and selects the first. Its id.
+    std::int32_t removeProject();
+    // What a new project is called at first: the drawing's file name without its extension.
+    Text proposedProjectName();
+    // Marks the project's stored designs of that label deleted, all of them when it is empty. False
+    // when there are none, and when read-only.
+    bool DeleteEntries(std::int32_t project, std::string_view label);
+
     // Fills the model's list with the current project's designs; its own design becomes the one
     // being edited. False when the file is there but cannot be opened, or the folder is unknown.
     bool LoadLibrary(DesignModel& model);

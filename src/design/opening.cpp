@@ -1,5 +1,6 @@
 #include "design/opening.h"
 
+#include <cstdlib>
 #include <limits>
 
 #include "platform/numbers.h"
@@ -28,6 +29,10 @@ std::int32_t shownOpening(double width) {
     const std::int32_t whole = truncateToInt(width);
     const bool above = width - whole > 0.5;
     return above && whole < std::numeric_limits<std::int32_t>::max() ? whole + 1 : whole;
+}
+
+std::int64_t shownOpeningSize(double width) {
+    return std::abs(std::int64_t{shownOpening(width)});
 }
 
 std::int32_t shownBearing(std::int32_t length, double openingWidth) {

@@ -15,6 +15,8 @@ namespace lx {
 std::int32_t wholeMillimetres(double length);
 // The opening width as the user sees it: rounded to whole mm, a fraction of exactly 0.5 down.
 std::int32_t shownOpening(double width);
+// Its size, whatever its sign, as the previews tell it.
+std::int64_t shownOpeningSize(double width);
 // Bearing length at each end, mm: may be negative.
 std::int32_t shownBearing(std::int32_t length, double openingWidth);
 

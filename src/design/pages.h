@@ -35,6 +35,7 @@ public:
     virtual void RefreshDescription() = 0;
     virtual Text bubbleName() const = 0;
     virtual Text description() const = 0;
+    virtual void setDescription(std::string_view text) = 0;
     virtual void setAnnotation(const Annotation& annotation) = 0;
     virtual Annotation annotation() const = 0;
     // The bubble field takes the focus, its text selected.
@@ -62,8 +63,10 @@ class LibraryPage : public DesignPage {
 public:
     // From the library session: the projects and which one is selected.
     virtual void showProjects() = 0;
-    // From the model: "<výchozí>" and the stored designs of the project.
+    // From the model: "<výchozí>" and the stored designs of the project; selects the one shown.
     virtual void showDesigns() = 0;
+    // After a change of the design being edited: it may suit the opening no longer.
+    virtual void refreshDesignLooks() = 0;
     virtual void setBearingCheck(bool on) = 0;
     virtual bool bearingCheck() const = 0;
 };

@@ -49,8 +49,14 @@ public:
     virtual bool EndEdit() = 0;
     // Stands the in-place drop-down over that point of the picture.
     virtual void OpenEdit(const EditRequest& request, Picture& picture, Point at) = 0;
+    // Also while the event is handled that has closed the drop-down by taking its focus, so that a
+    // click in a picture can tell.
     virtual bool editVisible() const = 0;
     virtual void RedrawPreviews() = 0;
+    // The properties text becomes that bearing length at each end, mm.
+    virtual void ShowBearing(std::int32_t bearing) = 0;
+    // Whether the design may be confirmed.
+    virtual void EnableConfirmation(bool on) = 0;
     // A message box over the dialog with the caption "Upozornění".
     virtual MessageAnswer showMessage(std::string_view text, MessageIcon icon,
                                       MessageButtons buttons = MessageButtons::ok) = 0;

@@ -9,8 +9,6 @@ namespace lx {
 
 namespace {
 
-// What the folder service is told that its buffer holds.
-constexpr int folderBufferSize = 260;
 // The help library's command "show the topic with this context number".
 constexpr std::uintptr_t helpContext = 1;
 
@@ -38,14 +36,15 @@ Function HostLinks::service(int position) {
     return table ? std::bit_cast<Function>(table[position]) : nullptr;
 }
 
-std::optional<Path> HostLinks::folder(HostFolder id) {
+std::optional<Path> HostLinks::folderWithin(HostFolder id, int bufferSize) {
     const auto ask = service<LxFolderService>(LX_SERVICE_FOLDER);
     if (!ask) return std::nullopt;
     // One byte more than the service may use, so that a folder that fills it still ends.
-    std::array<char, folderBufferSize + 1> buffer{};
-    if (ask(static_cast<int>(id), buffer.data(), folderBufferSize) == 0) return std::nullopt;
+    Path buffer(static_cast<std::size_t>(bufferSize) + 1, '\0');
+    if (ask(static_cast<int>(id), buffer.data(), bufferSize) == 0) return std::nullopt;
     buffer.back() = '\0';
-    return Path(buffer.data());
+    buffer.resize(buffer.find('\0'));
+    return buffer;
 }
 
 int HostLinks::requestLock(HostResource resource, int mode) {

@@ -18,7 +18,7 @@ public:
     // dataFolder and helpFile belong to the application and may be settled later.
     HostLinks(Modules& modules, const Path& dataFolder, const Path& helpFile);
 
-    std::optional<Path> folder(HostFolder id) override;
+    std::optional<Path> folderWithin(HostFolder id, int bufferSize) override;
     const Path& dataFolder() const override { return m_dataFolder; }
     bool present() override { return services() != nullptr; }
     int requestLock(HostResource resource, int mode) override;

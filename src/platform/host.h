@@ -21,7 +21,9 @@ public:
     virtual ~Host() = default;
 
     // The host's folder with its trailing separator, or none when the host does not tell.
-    virtual std::optional<Path> folder(HostFolder id) = 0;
+    std::optional<Path> folder(HostFolder id) { return folderWithin(id, 260); }
+    // The same, with the number of bytes that the host is told its answer may take.
+    virtual std::optional<Path> folderWithin(HostFolder id, int bufferSize) = 0;
     // The module's own data folder, ending in "DAT" and a separator; known from start-up on.
     virtual const Path& dataFolder() const = 0;
     // True when the host has a service table at all.

@@ -1,7 +1,5 @@
 #include "preview/CObr.h"
 
-#include <vector>
-
 #include "design/services.h"
 #include "preview/section_drawing.h"
 
@@ -15,10 +13,7 @@ CObr::CObr(DesignServices& services, Picture& picture)
 
 // The old picture can be clicked until the new one stands, but nothing of it whose record is gone.
 void CObr::redraw() {
-    const RezChain& design = m_services.model().chain();
-    std::erase_if(m_regions, [&design](const HitRegion& region) {
-        return recordOf(design, region.target) == nullptr;
-    });
+    forgetRemoved(m_regions, m_services.model().chain());
     m_picture.redraw();
 }
 

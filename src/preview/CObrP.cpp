@@ -1,11 +1,67 @@
 #include "preview/CObrP.h"
 
-#include "preview/ground.h"
+#include "design/overhang.h"
+#include "platform/numbers.h"
+#include "preview/plan_drawing.h"
+#include "settings/keys.h"
 
 namespace lx {
 
-CObrP::CObrP(Picture& picture) : m_picture(picture) {
-    picture.onPaint = [&picture](Canvas& canvas) { fillGround(canvas, picture.size()); };
+CObrP::CObrP(DesignServices& services, const Dialog& page, Picture& picture, const CheckBox& folded)
+    : m_services(services), m_page(page), m_picture(picture), m_folded(folded) {
+    picture.onPaint = [this](Canvas& canvas) { paint(canvas); };
+    picture.regions = [this] { return pictureRegions(m_regions); };
+    picture.onMouseMove = [this](Point p, bool) { move(p); };
+    picture.onLeftDown = [this](Point p) { press(p); };
+}
+
+void CObrP::redraw() {
+    forgetRemoved(m_regions, m_services.model().chain());
+    m_picture.redraw();
+}
+
+void CObrP::paint(Canvas& canvas) {
+    const DesignModel& model = m_services.model();
+    PlanInput input;
+    input.head = model.head();
+    input.current = model.current();
+    input.client = m_picture.size();
+    input.openingWidth = model.values().openingWidth;
+    input.foldedSection = m_folded.checked();
+    // A hidden page may be asked for its picture too.
+    if (model.head() != nullptr && m_page.visible()) {
+        settleOverhang(*model.head(), input.openingWidth);
+    }
+    m_regions = drawPlan(canvas, input);
+}
+
+void CObrP::move(Point p) {
+    const bool over = regionAt(m_regions, p) != nullptr;
+    m_picture.setCursor(over ? CursorShape::hand : CursorShape::arrow);
+}
+
+// A refused value brings up a message, during which the button can go down once more.
+void CObrP::press(Point p) {
+    if (m_pressed) return;
+    m_pressed = true;
+    if (m_services.editVisible()) {
+        m_services.EndEdit();
+        m_picture.focus();
+    } else if (const HitRegion* hit = regionAt(m_regions, p)) {
+        edit(*hit, p);
+    }
+    m_pressed = false;
+    move(p);
+}
+
+void CObrP::edit(const HitRegion& region, Point p) {
+    const std::int32_t* value = valueOf(m_services.model().chain(), region.target);
+    if (value == nullptr) return;
+    const bool level = region.kind == region::planLevel;
+    const Text shown = level ? levelText(*value) : formatInt(*value);
+    const Text history(level ? settings::lintelLevel : settings::lintelOverhang);
+    m_services.OpenEdit({{region.kind, region.absoluteOnly, region.target, shown}, history},
+                        m_picture, p);
 }
 
 }  // namespace lx

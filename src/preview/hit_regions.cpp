@@ -1,7 +1,9 @@
 #include "preview/hit_regions.h"
 
 #include <algorithm>
+#include <unordered_set>
 
+#include "composition/saturate.h"
 #include "platform/numbers.h"
 
 namespace lx {
@@ -18,8 +20,9 @@ Text nameOfValue(const EditTarget& target) {
             return "run " + formatInt(target.bend + 1);
         case EditField::bendStep:
             return "step " + formatInt(target.bend + 1);
-        case EditField::length:
         case EditField::maxOpening:
+            return "overhang";
+        case EditField::length:
         case EditField::kind:
             break;
     }
@@ -37,6 +40,14 @@ const HitRegion* regionAt(const HitRegions& regions, Point p) {
     const auto found = std::find_if(regions.begin(), regions.end(),
                                     [p](const HitRegion& each) { return each.contains(p); });
     return found == regions.end() ? nullptr : &*found;
+}
+
+void forgetRemoved(HitRegions& regions, const RezChain& design) {
+    std::unordered_set<const CRez*> records;
+    for (const CRez* record = design.head(); record; record = record->next) records.insert(record);
+    std::erase_if(regions, [&records](const HitRegion& region) {
+        return !records.contains(region.target.record);
+    });
 }
 
 std::vector<PictureRegion> pictureRegions(const HitRegions& regions) {
@@ -59,8 +70,9 @@ std::vector<PictureRegion> pictureRegions(const HitRegions& regions) {
                 break;
         }
         if (name.empty()) continue;
-        result.push_back(
-            {std::move(name), {each->x, each->y, each->x + each->width, each->y + each->height}});
+        const int right = saturated(std::int64_t{each->x} + each->width);
+        const int bottom = saturated(std::int64_t{each->y} + each->height);
+        result.push_back({std::move(name), {each->x, each->y, right, bottom}});
     }
     return result;
 }

@@ -37,8 +37,12 @@ using HitRegions = std::vector<HitRegion>;
 // The newest region at that point, or null.
 const HitRegion* regionAt(const HitRegions& regions, Point p);
 
+// Drops the regions whose record is gone.
+void forgetRemoved(HitRegions& regions, const RezChain& design);
+
 // In the order of their making: "layer N" (a layer's name, from 1), "mirror", "width" and "height"
-// of the current layer, "run N" and "step N" of a bend (from 1), "level" in the plan.
+// of the current layer, "run N" and "step N" of a bend (from 1), "level" and "overhang" in the
+// plan.
 std::vector<PictureRegion> pictureRegions(const HitRegions& regions);
 
 }  // namespace lx

@@ -1,14 +1,12 @@
 #include "preview/section_drawing.h"
 
-#include <algorithm>
-#include <cstdlib>
+#include <utility>
 
 #include "composition/layout.h"
 #include "composition/saturate.h"
 #include "design/designation.h"
 #include "design/opening.h"
 #include "platform/numbers.h"
-#include "preview/ground.h"
 #include "preview/section_records.h"
 #include "resources/strings.h"
 
@@ -55,8 +53,7 @@ void drawSides(Canvas& canvas, const SectionInput& input) {
 }
 
 void drawOpeningWidth(Canvas& canvas, const SectionInput& input) {
-    const std::int64_t width = std::abs(std::int64_t{shownOpening(input.openingWidth)});
-    const Text text = fillIn(str(openingFormat), {formatInt(width)});
+    const Text text = fillIn(str(openingFormat), {formatInt(shownOpeningSize(input.openingWidth))});
     const Size size = canvas.measure(text);
     canvas.drawText(
         {input.client.width - size.width - margin, input.client.height - size.height - margin},
@@ -82,21 +79,16 @@ void drawLayerNames(SectionSheet& sheet, const CRez& head) {
 
 HitRegions drawSection(Canvas& canvas, const SectionInput& input) {
     const Size client = input.client;
-    if (client.width <= 0 || client.height <= 0) return {};
-    canvas.setClip({0, 0, client.width, client.height});
-    canvas.setTextColor(previewWhite);
-    fillGround(canvas, client);
-    if (!input.head) return {};
+    if (!prepareGround(canvas, client) || !input.head) return {};
 
-    SectionSheet sheet{canvas, sectionScale(input.head->width, client), client.height, {}};
+    SectionSheet sheet{{canvas, {}}, sectionScale(input.head->width, client), client.height};
     drawRecords(sheet, input);
     drawDropMarker(sheet, input.dropMarker);
     canvas.setFont(labelFont());
     drawSides(canvas, input);
     drawOpeningWidth(canvas, input);
     drawLayerNames(sheet, *input.head);
-    std::reverse(sheet.regions.begin(), sheet.regions.end());
-    return std::move(sheet.regions);
+    return newestFirst(std::move(sheet.regions));
 }
 
 }  // namespace lx

@@ -21,7 +21,6 @@ constexpr int bendLine = 55;
 constexpr int runText = 70;
 constexpr int extensionTop = 80;
 constexpr int stepText = 95;
-constexpr int halfTick = 5;  // also how far lines stand out over one another
 
 constexpr std::string_view stepFormat = "+%d";
 
@@ -37,8 +36,7 @@ void drawBreak(SectionSheet& sheet, const CRez& head) {
 }
 
 void drawTick(SectionSheet& sheet, int x, int lineAbove) {
-    const int y = sheet.height - lineAbove;
-    sheet.line({{x - halfTick, y + halfTick}, {x + halfTick, y - halfTick}});
+    sheet.tick({x, sheet.height - lineAbove});
 }
 
 // A dimension line across the wall, at that height above the bottom.

@@ -8,8 +8,6 @@ namespace lx {
 
 namespace {
 
-constexpr Color layerColor{255, 153, 153};
-constexpr Color currentColor{255, 255, 170};
 constexpr int wide = 4;
 constexpr int fine = 1;
 constexpr int inset = 2;     // from the layer's edges to the lines of its symbol
@@ -114,9 +112,10 @@ void LayerDrawing::drawInsulation() {
 }
 
 void LayerDrawing::drawMirrorButton(Size size) {
-    const double middle =
-        static_cast<double>(std::int64_t{m_layer.offset} + m_layer.width / 2) * m_sheet.scale.scale;
-    const int x = truncatedPixel(m_sheet.scale.origin.x + middle - size.width / 2);
+    const std::int64_t middle = std::int64_t{m_layer.offset} + m_layer.width / 2;
+    const int half = size.width / 2;
+    const int x = truncatedPixel(m_sheet.scale.origin.x +
+                                 static_cast<double>(middle) * m_sheet.scale.scale - half);
     const int y = m_area.top - mirrorAbove;
     m_sheet.canvas.drawIcon(icon::mirror, {x, y}, size);
     m_sheet.regions.push_back(

@@ -71,6 +71,7 @@ void SectionMouse::move(Point p, bool leftDown) {
     CRez* head = m_services.model().head();
     const CRez* current = m_services.model().current();
     const bool drag = leftDown && head != nullptr && known(m_pressed) && m_pressed == current;
+    if (!leftDown) forgetDrag();
     if (!drag) {
         m_picture.setCursor(m_target != nullptr ? CursorShape::hand : CursorShape::arrow);
         return;
@@ -94,8 +95,7 @@ void SectionMouse::press(Point p) {
     }
     m_services.EndEdit();
     m_target = nullptr;
-    m_dragging = false;
-    mark(-1);
+    forgetDrag();
     m_pressed = layerUnder(p);
     if (m_pressed != nullptr) m_services.SelectRecord(m_pressed);
     if (hit != nullptr) clickRegion(region, family, p);
@@ -121,12 +121,19 @@ void SectionMouse::mirror(std::int32_t& kind) {
     m_services.RefreshAll();
 }
 
+// Released over the picture, or elsewhere, which is noticed when the mouse comes back.
+void SectionMouse::forgetDrag() {
+    m_dragging = false;
+    m_pressed = nullptr;
+    mark(-1);
+}
+
 void SectionMouse::release() {
     CRez* target = std::exchange(m_target, nullptr);
-    const bool dropped = std::exchange(m_dragging, false) && known(m_pressed) &&
+    const bool dropped = m_dragging && known(m_pressed) &&
                          m_pressed == m_services.model().current() && known(target);
     m_picture.setCursor(CursorShape::arrow);
-    mark(-1);
+    forgetDrag();
     if (!dropped) return;
     const bool moved = moveCurrent(m_services.model().edit(), target) == CommandAnswer::done;
     if (moved) m_services.Relayout();

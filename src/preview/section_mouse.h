@@ -34,6 +34,7 @@ private:
     CRez* layerUnder(Point p);
     bool known(const CRez* record);
     void mark(int offset);
+    void forgetDrag();
 
     DesignServices& m_services;
     Picture& m_picture;

@@ -4,12 +4,20 @@
 
 namespace lx::id {
 
+// Chooser of the catalogue; its buttons end it with their ids
+inline constexpr int choosePrecast = 1000;
+inline constexpr int chooseSteel = 1001;
+
 // Lintel erase dialog
 inline constexpr int eraseGroup = 1010;
 inline constexpr int eraseLintel = 1011;
 inline constexpr int eraseSection = 1012;
 inline constexpr int eraseBubble = 1013;
 inline constexpr int eraseDescription = 1014;
+
+// Name dialog
+inline constexpr int nameLabel = 1016;
+inline constexpr int name = 1017;
 
 // Design dialog
 inline constexpr int tabs = 1020;
@@ -83,5 +91,75 @@ inline constexpr int storedLabel = 1503;
 inline constexpr int makeDefault = 1504;
 inline constexpr int storedDesigns = 1505;
 inline constexpr int checkBearing = 1506;
+
+// Annotation settings
+inline constexpr int bubbleGroup = 1600;
+inline constexpr int bubbleHeightLabel = 1601;
+inline constexpr int bubbleHeight = 1602;
+inline constexpr int auxiliaryLine = 1603;
+inline constexpr int lineLengthLabel = 1604;
+inline constexpr int lineLength = 1605;
+inline constexpr int textStyleLabel = 1606;
+inline constexpr int textStyle = 1607;
+inline constexpr int bubbleColorLabel = 1608;
+inline constexpr int bubbleColor = 1609;
+inline constexpr int bubbleWidthLabel = 1610;
+inline constexpr int bubbleWidthFactor = 1611;
+inline constexpr int diameterLabel = 1612;
+inline constexpr int diameter = 1613;
+inline constexpr int hasEdges = 1614;
+inline constexpr int edges = 1615;
+inline constexpr int turningGroup = 1616;
+inline constexpr int followsOpening = 1617;
+inline constexpr int angleLabel = 1618;
+inline constexpr int angle = 1619;
+inline constexpr int descriptionGroup = 1620;
+inline constexpr int descriptionColorLabel = 1621;
+inline constexpr int descriptionColor = 1622;
+inline constexpr int descriptionHeightLabel = 1623;
+inline constexpr int descriptionHeight = 1624;
+inline constexpr int descriptionWidthLabel = 1625;
+inline constexpr int descriptionWidthFactor = 1626;
+
+// Catalogue browser
+inline constexpr int types = 1700;
+inline constexpr int items = 1701;
+inline constexpr int browserIcon = 1702;
+inline constexpr int pickItems = 2011;
+
+// Commands of the browser's menu bar and popup menus
+inline constexpr int renameType = 2061;
+inline constexpr int deleteType = 2062;
+inline constexpr int newType = 32772;
+inline constexpr int newItem = 32773;
+inline constexpr int newItemInList = 32774;  // the same, from the item list's popup menu
+inline constexpr int editItem = 32775;
+inline constexpr int deleteItem = 32776;
+
+// Item editor
+inline constexpr int itemDesignationLabel = 1720;
+inline constexpr int itemDesignation = 1721;
+inline constexpr int itemLengthLabel = 1722;
+inline constexpr int itemLength = 1723;
+inline constexpr int itemWidthLabel = 1724;
+inline constexpr int itemWidth = 1725;
+inline constexpr int itemHeightLabel = 1726;
+inline constexpr int itemHeight = 1727;
+inline constexpr int itemMaxOpeningLabel = 1728;
+inline constexpr int itemMaxOpening = 1729;
+inline constexpr int itemWeightLabel = 1730;
+inline constexpr int itemWeight = 1731;
+inline constexpr int itemQuLabel = 1732;
+inline constexpr int itemQu = 1733;
+inline constexpr int itemDescriptionLabel = 1734;
+inline constexpr int itemDescription = 1735;
+inline constexpr int itemMarkLabel = 1736;
+inline constexpr int itemMark = 1737;
+
+// Section type dialog
+inline constexpr int sectionNameLabel = 1750;
+inline constexpr int sectionName = 1751;
+inline constexpr int firstShape = 1752;  // fourteen buttons, ids in a row
+inline constexpr int sectionIcon = 1766;
 
 }  // namespace lx::id

@@ -22,4 +22,25 @@ Menu designMenu() {
             {"Přidat izolaci"_cz, id::commandInsulation, {}}};
 }
 
+Menu precastCatalogueMenu() {
+    return {{"&Nový"_cz, 0, {{"&Typ"_cz, id::newType, {}}, {"&Překlad"_cz, id::newItem, {}}}}};
+}
+
+Menu steelCatalogueMenu() {
+    return {
+        {"&Nový"_cz, 0, {{"&Typ průřezu"_cz, id::newType, {}}, {"&Průřez"_cz, id::newItem, {}}}}};
+}
+
+Menu typesPopup() {
+    return {{"Nový"_cz, id::newType, {}},
+            {"Přejmenovat"_cz, id::renameType, {}},
+            {"Vymazat"_cz, id::deleteType, {}}};
+}
+
+Menu itemsPopup() {
+    return {{"Nový"_cz, id::newItemInList, {}},
+            {"Upravit"_cz, id::editItem, {}},
+            {"Vymazat"_cz, id::deleteItem, {}}};
+}
+
 }  // namespace lx

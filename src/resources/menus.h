@@ -8,4 +8,11 @@ namespace lx {
 // Commands on the design; opens over the section preview.
 Menu designMenu();
 
+// The catalogue browser's menu bar.
+Menu precastCatalogueMenu();
+Menu steelCatalogueMenu();
+// The popup menus of its two lists.
+Menu typesPopup();
+Menu itemsPopup();
+
 }  // namespace lx

@@ -36,6 +36,8 @@ inline constexpr std::string_view removeLayer = "Vymazat vybraný prvek"_cz;
 inline constexpr std::string_view bends[] = {"Zrušit zalomení"_cz, "1 zalomení"_cz,
                                              "2 zalomení"_cz,      "3 zalomení"_cz,
                                              "4 zalomení"_cz,      "5 zalomení"_cz};
+// Tooltips of the section shapes that can be chosen, from shape 1.
+inline constexpr std::string_view shapes[] = {"I"_cz, "L"_cz, "U"_cz};
 }  // namespace texts
 
 }  // namespace lx

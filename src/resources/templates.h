@@ -9,6 +9,17 @@ namespace lx {
 
 extern const DialogTemplate lintelEraseTemplate;
 
+// Asks for a name; its title and its label are set by whoever asks.
+extern const DialogTemplate nameTemplate;
+
+// The catalogue browser and what it opens. The item editor and the browser are titled by whoever
+// opens them; steel items have no length and no largest opening, so those rows are hidden.
+extern const DialogTemplate chooserTemplate;
+extern const DialogTemplate browserTemplate;
+extern const DialogTemplate precastItemTemplate;
+extern const DialogTemplate steelItemTemplate;
+extern const DialogTemplate sectionTypeTemplate;
+
 // The design dialog and its five pages; a page's title is its tab's text.
 extern const DialogTemplate designTemplate;
 extern const DialogTemplate geometryTemplate;
@@ -16,5 +27,7 @@ extern const DialogTemplate precastTemplate;
 extern const DialogTemplate steelTemplate;
 extern const DialogTemplate monolithTemplate;
 extern const DialogTemplate libraryTemplate;
+// The annotation settings, over the geometry page.
+extern const DialogTemplate annotationTemplate;
 
 }  // namespace lx

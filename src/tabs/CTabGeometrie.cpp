@@ -4,6 +4,7 @@
 #include "resources/icons.h"
 #include "resources/strings.h"
 #include "resources/templates.h"
+#include "tabs/CSettings.h"
 #include "tabs/page_window.h"
 
 namespace lx {
@@ -23,26 +24,40 @@ constexpr int freeText = -1;
 CTabGeometrie::CTabGeometrie(DesignServices& services)
     : m_services(services),
       m_window(makePageWindow(services, geometryTemplate)),
-      m_plan(m_window->get<Picture>(id::planPreview)),
+      m_plan(services, *m_window, m_window->get<Picture>(id::planPreview),
+             m_window->get<CheckBox>(id::insertFoldedSection)),
       m_description(m_window->get<Edit>(id::description)),
       m_bubble(m_window->get<Edit>(id::bubbleName)),
       m_bubbleField(services.context().platform, *m_window, m_bubble, bubbleLimitAtFirst, freeText),
       m_insertBubble(m_window->get<CheckBox>(id::insertBubble)),
       m_insertDescription(m_window->get<CheckBox>(id::insertDescription)),
       m_insertFoldedSection(m_window->get<CheckBox>(id::insertFoldedSection)),
-      m_insertDiagonals(m_window->get<CheckBox>(id::insertDiagonals)) {
+      m_insertDiagonals(m_window->get<CheckBox>(id::insertDiagonals)),
+      m_annotationSettings(m_window->get<Button>(id::annotationSettings)) {
     for (std::size_t i = 0; i < std::size(bendButtons); ++i) {
         Button& button = m_window->get<Button>(bendButtons[i]);
         dress(button, icon::bends[i], texts::bends[i]);
         button.onClick = [this, shape = static_cast<int>(i)] { m_services.SetBends(shape); };
     }
-    m_window->get<Button>(id::annotationSettings).enable(false);
+    m_annotationSettings.onClick = [this] { openAnnotationSettings(); };
     m_bubble.onChange = [this] { bubbleChanged(); };
     m_insertFoldedSection.onClick = [this] { redrawPlan(); };
+    for (CheckBox* const box : {&m_insertBubble, &m_insertDescription, &m_insertDiagonals}) {
+        box->onClick = [this] { enableAnnotationSettings(); };
+    }
 }
 
 void CTabGeometrie::initialise() {
     m_bubbleField.setMaxLength(bubbleLimit);
+    enableAnnotationSettings();
+}
+
+void CTabGeometrie::enableAnnotationSettings() {
+    m_annotationSettings.enable(hasAnnotationStyle(annotation()));
+}
+
+void CTabGeometrie::openAnnotationSettings() {
+    CSettings(m_services.context(), Owner{&m_services.window(), nullptr}, annotation()).DoModal();
 }
 
 void CTabGeometrie::RefreshDescription() {

@@ -1,6 +1,5 @@
 // The page "Geometrie": the plan, the bend presets of the head, the description, the bubble name
-// and what is to be inserted into the drawing. The annotation settings are not there yet; their
-// button is disabled.
+// and what is to be inserted into the drawing, with the way to the style that it is drawn in.
 #pragma once
 
 #include <memory>
@@ -22,6 +21,7 @@ public:
     void RefreshDescription() override;
     Text bubbleName() const override { return m_bubble.text(); }
     Text description() const override { return m_description.text(); }
+    void setDescription(std::string_view text) override { m_description.setText(text); }
     void setAnnotation(const Annotation& annotation) override;
     Annotation annotation() const override;
     void focusBubble() override;
@@ -29,6 +29,8 @@ public:
 
 private:
     void bubbleChanged();
+    void enableAnnotationSettings();
+    void openAnnotationSettings();
 
     DesignServices& m_services;
     std::unique_ptr<Dialog> m_window;
@@ -40,6 +42,7 @@ private:
     CheckBox& m_insertDescription;
     CheckBox& m_insertFoldedSection;
     CheckBox& m_insertDiagonals;
+    Button& m_annotationSettings;
 };
 
 }  // namespace lx

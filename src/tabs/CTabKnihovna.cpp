@@ -1,37 +1,142 @@
 #include "tabs/CTabKnihovna.h"
 
+#include "catalogue/CAddVyrobce.h"
+#include "design/opening.h"
+#include "resources/strings.h"
 #include "resources/templates.h"
-#include "tabs/CNabidka.h"
 #include "tabs/page_window.h"
 
 namespace lx {
+
+namespace {
+
+constexpr int nameLabel = 3;
+constexpr int nameTaken = 19;
+constexpr int nameMissing = 27;
+constexpr int askDelete = 31;
+constexpr int doesNotFit = 96;
+constexpr int newProjectTitle = 97;
+constexpr int isReadOnly = 112;
+
+KeyAnswer onDelete(const KeyEvent& event, const std::function<bool()>& command) {
+    const bool plain = !event.ctrl && !event.shift && !event.alt;
+    if (event.key != key::del || !plain) return KeyAnswer::pass;
+    return command() ? KeyAnswer::swallow : KeyAnswer::pass;
+}
+
+}  // namespace
 
 CTabKnihovna::CTabKnihovna(DesignServices& services)
     : m_services(services),
       m_window(makePageWindow(services, libraryTemplate)),
       m_projects(m_window->get<ComboBox>(id::projects)),
-      m_designs(m_window->get<ListBox>(id::storedDesigns)),
+      m_designs(m_window->get<ListBox>(id::storedDesigns), services.model()),
       m_bearingCheck(m_window->get<CheckBox>(id::checkBearing)) {
-    m_bearingCheck.onClick = [this] { m_services.model().bearingCheck = m_bearingCheck.checked(); };
-    // A project or design that the user could choose here without effect would be stored over.
-    for (const int control : {id::projects, id::newProject, id::storedDesigns, id::makeDefault}) {
-        m_window->item(control).enable(false);
-    }
+    ComboBox& projects = m_projects.box();
+    projects.onSelect = [this, &projects] {
+        m_services.library().selectProject(projects.selected());
+        changeProject();
+    };
+    projects.onKey = [this](const KeyEvent& event) {
+        return onDelete(event, [this] { return deleteProject(); });
+    };
+    ListBox& designs = m_designs.list();
+    designs.onSelect = [this, &designs] { useStored(designs.selected()); };
+    designs.onKey = [this](const KeyEvent& event) {
+        return onDelete(event, [this] { return deleteStored(); });
+    };
+    m_bearingCheck.onClick = [this] {
+        m_services.model().bearingCheck = m_bearingCheck.checked();
+        useStored(m_services.model().shownStored());
+    };
+    Button& create = m_window->get<Button>(id::newProject);
+    create.onClick = [this] { newProject(); };
+    create.enable(!services.library().readOnly());
 }
 
 void CTabKnihovna::showProjects() {
-    const ProjectList& list = m_services.library().projects();
-    m_projects.clear();
-    for (const Project& project : list.projects) m_projects.add(project.name);
-    m_projects.select(list.selected);
+    m_projects.fill(m_services.library().projects());
 }
 
-void CTabKnihovna::showDesigns() {
-    m_designs.clear();
-    for (const Text& label : m_services.model().storedLabels()) {
-        m_designs.append(listRow(label, true));
+void CTabKnihovna::useStored(int entry) {
+    m_services.EndEdit();
+    DesignModel& model = m_services.model();
+    model.showStored(entry);
+    m_services.Relayout();
+    const CRez* first = model.head() != nullptr ? model.head()->next : nullptr;
+    const double opening = model.values().openingWidth;
+    m_services.ShowBearing(first != nullptr ? shownBearing(first->length, opening) : 0);
+    const bool fits = model.shownFits();
+    m_services.EnableConfirmation(fits);
+    if (!fits) m_services.showMessage(str(doesNotFit), MessageIcon::stop);
+}
+
+void CTabKnihovna::changeProject() {
+    m_services.EndEdit();
+    if (m_services.library().available()) m_services.library().LoadLibrary(m_services.model());
+    m_services.model().showStored(0);
+    showDesigns();
+    useStored(0);
+}
+
+void CTabKnihovna::newProject() {
+    m_services.EndEdit();
+    LibrarySession& library = m_services.library();
+    CAddVyrobce dialog(m_services.context().platform, m_services.context().host,
+                       Owner{&m_services.window(), nullptr});
+    dialog.title = str(newProjectTitle);
+    dialog.label = str(nameLabel);
+    dialog.name = library.proposedProjectName();
+    while (dialog.DoModal()) {
+        if (dialog.name.empty()) {
+            dialog.showMessage(str(nameMissing));
+        } else if (library.hasProject(dialog.name)) {
+            dialog.showMessage(str(nameTaken));
+        } else {
+            library.addProject(dialog.name);
+            showProjects();
+            return changeProject();
+        }
     }
-    m_designs.select(0);
+}
+
+bool CTabKnihovna::mayDelete(bool& used) {
+    used = true;
+    if (m_services.library().readOnly()) {
+        m_services.showMessage(str(isReadOnly), MessageIcon::none);
+        return false;
+    }
+    const MessageAnswer answer =
+        m_services.showMessage(str(askDelete), MessageIcon::question, MessageButtons::yesNo);
+    used = answer == MessageAnswer::yes;
+    return used;
+}
+
+bool CTabKnihovna::deleteProject() {
+    LibrarySession& library = m_services.library();
+    if (library.projects().selected == 0) return false;
+    bool used = false;
+    if (!mayDelete(used)) return used;
+    const std::int32_t id = library.removeProject();
+    showProjects();
+    changeProject();
+    library.DeleteEntries(id, {});
+    return true;
+}
+
+bool CTabKnihovna::deleteStored() {
+    DesignModel& model = m_services.model();
+    if (model.shownStored() == 0) return false;
+    bool used = false;
+    if (!mayDelete(used)) return used;
+    m_services.EndEdit();
+    const Text label = model.removeShownStored();
+    showDesigns();
+    m_services.Relayout();
+    LibrarySession& library = m_services.library();
+    library.DeleteEntries(library.projects().currentId(), label);
+    if (model.bearingCheck) useStored(model.shownStored());
+    return true;
 }
 
 }  // namespace lx

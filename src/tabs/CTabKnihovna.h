@@ -1,11 +1,13 @@
-// The page "Knihovna": the projects and the stored designs of the current one. They are shown; the
-// commands on them are not there yet, so their controls are disabled.
+// The page "Knihovna": the projects, and the stored designs of the selected one. A stored design
+// that is selected becomes the design being edited.
 #pragma once
 
 #include <memory>
 
 #include "design/pages.h"
 #include "design/services.h"
+#include "tabs/CBookBox.h"
+#include "tabs/CBookList.h"
 
 namespace lx {
 
@@ -16,15 +18,26 @@ public:
     Dialog& window() override { return *m_window; }
     void showAvailability(const Availability&) override {}
     void showProjects() override;
-    void showDesigns() override;
+    void showDesigns() override { m_designs.fill(); }
+    void refreshDesignLooks() override { m_designs.refreshLooks(); }
     void setBearingCheck(bool on) override { m_bearingCheck.check(on); }
     bool bearingCheck() const override { return m_bearingCheck.checked(); }
 
 private:
+    void useStored(int entry);
+    void changeProject();
+    void newProject();
+    // Whether the key has been used.
+    bool deleteProject();
+    bool deleteStored();
+    // Tells that the library is read-only, or asks; true when the entry is to be deleted. used:
+    // whether the key is thereby used.
+    bool mayDelete(bool& used);
+
     DesignServices& m_services;
     std::unique_ptr<Dialog> m_window;
-    ComboBox& m_projects;
-    ListBox& m_designs;
+    CBookBox m_projects;
+    CBookList m_designs;
     CheckBox& m_bearingCheck;
 };
 

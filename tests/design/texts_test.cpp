@@ -47,6 +47,9 @@ TEST(Description, ACastPartReachesDownToTheLowestPointOfTheHead) {
     layOut(*head);
     ASSERT_EQ(cast->level, 150);
     EXPECT_EQ(descriptionSummary(*head), "1 x MONOLIT 300/600 - dl.1200");
+    // Lifted by a sloping step.
+    cast->level = 163;
+    EXPECT_EQ(descriptionSummary(*head), "1 x MONOLIT 300/600 - dl.1200");
     cast->name.reset();
     EXPECT_EQ(descriptionSummary(*head), "1 x  300/600 - dl.1200");
 }

@@ -2,15 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-#include <fstream>
 #include <limits>
-#include <sstream>
 
 #include "composition/layout.h"
 #include "composition/section_scale.h"
-#include "platform/recording_canvas.h"
 #include "preview/section_zigzag.h"
+#include "tests/preview/drawings.h"
 #include "tests/support/designs.h"
 
 namespace lx {
@@ -48,42 +45,10 @@ struct Scene {
     }
 };
 
-std::string fieldName(const HitRegion& region) {
-    if (region.kind == region::layerName) return "";
-    const std::string bend = std::to_string(region.target.bend);
-    switch (region.target.field) {
-        case EditField::width:
-            return " width";
-        case EditField::height:
-            return " height";
-        case EditField::kind:
-            return " kind";
-        case EditField::bendRun:
-            return " run of bend " + bend;
-        case EditField::bendStep:
-            return " step of bend " + bend;
-        default:
-            return " ?";
-    }
-}
-
-std::string asText(const HitRegion& region, const CRez* head) {
-    int place = 0;
-    for (const CRez* record = head; record && record != region.target.record; record = record->next)
-        ++place;
-    std::ostringstream text;
-    text << "region kind " << region.kind << (region.absoluteOnly ? " absolute" : "") << ", record "
-         << place << fieldName(region) << ", (" << region.x << "," << region.y << ") "
-         << region.width << "x" << region.height << "\n";
-    return text.str();
-}
-
 std::string recorded(Scene& scene) {
     RecordingCanvas canvas;
     const HitRegions regions = scene.draw(canvas);
-    std::string text = canvas.asText();
-    for (const HitRegion& region : regions) text += asText(region, scene.design.head());
-    return text;
+    return recorded(canvas, regions, scene.design.head());
 }
 
 // ---- drawings compared with files
@@ -197,28 +162,11 @@ constexpr Drawing drawings[] = {
     {"current_of_no_kind", currentOfNoKind},
 };
 
-std::string contentOf(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    std::ostringstream content;
-    content << file.rdbuf();
-    return content.str();
-}
-
-// LX_WRITE_DRAWINGS=1 writes the files anew; look at their differences before keeping them.
 TEST(SectionDrawing, DrawsWhatTheFilesSay) {
-    const bool write = std::getenv("LX_WRITE_DRAWINGS") != nullptr;
     for (const Drawing& drawing : drawings) {
         Scene scene = drawing.make();
-        const std::string path =
-            std::string(LX_SOURCE_DIR "/tests/preview/drawings/") + drawing.name + ".txt";
-        const std::string drawn = recorded(scene);
-        if (write) {
-            std::ofstream(path, std::ios::binary) << drawn;
-        } else {
-            EXPECT_EQ(drawn, contentOf(path)) << drawing.name;
-        }
+        compareWithFile(drawing.name, recorded(scene));
     }
-    if (write) GTEST_SKIP() << "drawings written anew";
 }
 
 // ---- what a file does not tell

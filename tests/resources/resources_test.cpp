@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <map>
 #include <set>
 
 #include "platform/recording_canvas.h"
@@ -11,9 +12,11 @@
 namespace lx {
 namespace {
 
-const DialogTemplate* const all[] = {&lintelEraseTemplate, &designTemplate, &geometryTemplate,
-                                     &precastTemplate,     &steelTemplate,  &monolithTemplate,
-                                     &libraryTemplate};
+const DialogTemplate* const all[] = {
+    &lintelEraseTemplate, &nameTemplate,        &chooserTemplate,  &browserTemplate,
+    &precastItemTemplate, &sectionTypeTemplate, &designTemplate,   &geometryTemplate,
+    &precastTemplate,     &steelTemplate,       &monolithTemplate, &libraryTemplate,
+    &annotationTemplate};
 
 bool overlap(const UnitRect& a, const UnitRect& b) {
     return a.x < b.x + b.width && b.x < a.x + a.width && a.y < b.y + b.height &&
@@ -67,6 +70,31 @@ TEST(Templates, DesignDialogFitsASmallScreenAndHoldsTheLargestPage) {
     // Two rows of tabs are 42 pixels high, the borders 4 at each side.
     EXPECT_LE(geometryTemplate.width * 6 / 4 + 8, tabs->area.width * 6 / 4);
     EXPECT_LE(geometryTemplate.height * 13 / 8 + 42 + 8, tabs->area.height * 13 / 8);
+}
+
+const ControlTemplate& controlOf(const DialogTemplate& dialog, int number) {
+    return *std::find_if(dialog.controls.begin(), dialog.controls.end(),
+                         [number](const ControlTemplate& c) { return c.id == number; });
+}
+
+TEST(Templates, SteelItemsHaveTwoRowsLessAndTheOthersCloseUp) {
+    std::vector<int> tops;
+    for (int field = id::itemDesignation; field <= id::itemMark; field += 2) {
+        const ControlTemplate& steel = controlOf(steelItemTemplate, field);
+        const ControlTemplate& precast = controlOf(precastItemTemplate, field);
+        EXPECT_EQ(steel.area.x, precast.area.x);
+        EXPECT_EQ(steel.area.width, precast.area.width);
+        const bool hidden = field == id::itemLength || field == id::itemMaxOpening;
+        EXPECT_EQ((steel.style & style::hidden) != 0, hidden) << field;
+        EXPECT_EQ((controlOf(steelItemTemplate, field - 1).style & style::hidden) != 0, hidden);
+        if (!hidden) tops.push_back(steel.area.y);
+    }
+    const int step = controlOf(precastItemTemplate, id::itemLength).area.y -
+                     controlOf(precastItemTemplate, id::itemDesignation).area.y;
+    for (std::size_t i = 1; i < tops.size(); ++i) EXPECT_EQ(tops[i] - tops[i - 1], step);
+    EXPECT_EQ(precastItemTemplate.height - steelItemTemplate.height, 2 * step);
+    EXPECT_EQ(precastItemTemplate.height - controlOf(precastItemTemplate, id::ok).area.y,
+              steelItemTemplate.height - controlOf(steelItemTemplate, id::ok).area.y);
 }
 
 TEST(Icons, EveryNumberThatDialogsAskForPaintsInsideItsSize) {
@@ -124,6 +152,55 @@ TEST(Strings, AreThereByNumberAndByteByByte) {
                                                              : 0;
         if (number != 0) {
             EXPECT_EQ(control.text, str(number));
+        }
+    }
+}
+
+TEST(Strings, AreThoseThatTheAnnotationSettingsShow) {
+    EXPECT_EQ(annotationTemplate.title, str(58));
+    const std::map<int, int> numbers = {{id::cancel, 1},
+                                        {id::help, 100},
+                                        {id::bubbleGroup, 43},
+                                        {id::bubbleColorLabel, 44},
+                                        {id::lineLengthLabel, 45},
+                                        {id::bubbleHeightLabel, 46},
+                                        {id::turningGroup, 47},
+                                        {id::followsOpening, 48},
+                                        {id::angleLabel, 49},
+                                        {id::descriptionColorLabel, 50},
+                                        {id::descriptionGroup, 10},
+                                        {id::descriptionHeightLabel, 51}};
+    for (const ControlTemplate& control : annotationTemplate.controls) {
+        const auto number = numbers.find(control.id);
+        if (number != numbers.end()) {
+            EXPECT_EQ(control.text, str(number->second));
+        }
+    }
+}
+
+TEST(Strings, AreThoseThatTheCatalogueDialogsShow) {
+    EXPECT_EQ(chooserTemplate.title, str(99));
+    EXPECT_EQ(sectionTypeTemplate.title, str(2));
+    EXPECT_EQ(controlOf(steelItemTemplate, id::itemWeightLabel).text, str(8));
+    const std::map<int, int> numbers = {{id::cancel, 1},
+                                        {id::help, 100},
+                                        {id::nameLabel, 3},
+                                        {id::sectionNameLabel, 3},
+                                        {id::itemDesignationLabel, 5},
+                                        {id::itemLengthLabel, 11},
+                                        {id::itemWidthLabel, 6},
+                                        {id::itemHeightLabel, 7},
+                                        {id::itemMaxOpeningLabel, 12},
+                                        {id::itemWeightLabel, 13},
+                                        {id::itemQuLabel, 9},
+                                        {id::itemDescriptionLabel, 10}};
+    for (const DialogTemplate* dialog : {&nameTemplate, &chooserTemplate, &browserTemplate,
+                                         &precastItemTemplate, &sectionTypeTemplate}) {
+        for (const ControlTemplate& control : dialog->controls) {
+            const auto number = numbers.find(control.id);
+            if (number != numbers.end()) {
+                EXPECT_EQ(control.text, str(number->second));
+            }
         }
     }
 }

@@ -9,7 +9,7 @@ namespace lx {
 
 namespace fs = std::filesystem;
 
-std::optional<Path> FakeHost::folder(HostFolder id) {
+std::optional<Path> FakeHost::folderWithin(HostFolder id, int) {
     if (!hasServices) return std::nullopt;
     return id == HostFolder::library ? library : catalogue;
 }

@@ -55,7 +55,7 @@ public:
     std::vector<LockRelease> lockReleases;
     std::vector<int> helpTopics;
 
-    std::optional<Path> folder(HostFolder id) override;
+    std::optional<Path> folderWithin(HostFolder id, int bufferSize) override;
     const Path& dataFolder() const override { return data; }
     bool present() override { return hasServices; }
     int requestLock(HostResource resource, int mode) override;

@@ -135,6 +135,14 @@ TEST_F(SectionHand, ADraggedLayerGoesBeforeTheOneItIsDroppedOn) {
         d.mouseUp(section, across(250));
         EXPECT_EQ(names(d), "CA 1");
         EXPECT_EQ(d.drawing(section).find("width 1 dot"), std::string::npos);
+        // Released elsewhere: nothing moves, and a button pressed elsewhere drags nothing.
+        d.mouseDown(section, across(90));
+        d.mouseMove(section, across(30), true);
+        d.mouseMove(section, across(250), false);
+        EXPECT_EQ(d.drawing(section).find("width 1 dot"), std::string::npos);
+        d.mouseMove(section, across(30), true);
+        d.mouseUp(section, across(30));
+        EXPECT_EQ(names(d), "CA 2");
         d.press("OK");
     });
 }
@@ -275,6 +283,12 @@ TEST_F(SectionHand, AWidthThatDoesNotFitTheWallIsRefused) {
     bench.user().then([](Driver& d) {
         EXPECT_FALSE(d.visible(box));
         EXPECT_TRUE(has(d, "record 2 width 100"));
+        clickRegion(d, "width");
+        d.type("900");
+        d.press("OK");
+    });
+    bench.user().then([](Driver& d) { d.answer("OK"); });
+    bench.user().then([](Driver& d) {
         clickRegion(d, "width");
         d.type("140");
         d.press("OK");

@@ -1,6 +1,7 @@
 #include "host/driver/headless/headless_driver.h"
 
 #include <algorithm>
+#include <numeric>
 #include <utility>
 
 #include "host/driver/headless/headless_names.h"
@@ -343,7 +344,7 @@ ScreenPoint HeadlessDriver::regionPoint(ControlName name, std::string_view regio
         for (const PictureRegion& each : found.regions()) {
             const Rect& area = each.area;
             if (toUtf8(each.name) == region) {
-                return {(area.left + area.right) / 2, (area.top + area.bottom) / 2};
+                return {std::midpoint(area.left, area.right), std::midpoint(area.top, area.bottom)};
             }
         }
     }

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdio>
+#include <numeric>
 
 #include "host/driver/windows/lists.h"
 #include "host/driver/windows/stepper.h"
@@ -207,8 +208,8 @@ std::vector<std::string> WindowsDriver::regions(ControlName picture) {
 ScreenPoint WindowsDriver::regionPoint(ControlName picture, std::string_view region) {
     for (const Region& known : regionsOf(control(picture))) {
         if (known.name == region) {
-            return {(known.area.left + known.area.right) / 2,
-                    (known.area.top + known.area.bottom) / 2};
+            return {std::midpoint(known.area.left, known.area.right),
+                    std::midpoint(known.area.top, known.area.bottom)};
         }
     }
     std::string there;

@@ -104,6 +104,13 @@ public:
         return ::stat(path.c_str(), &about) == 0 && !S_ISDIR(about.st_mode);
     }
 
+    bool same(const Path& a, const Path& b) override {
+        struct stat one {};
+        struct stat other {};
+        return ::stat(a.c_str(), &one) == 0 && ::stat(b.c_str(), &other) == 0 &&
+               one.st_dev == other.st_dev && one.st_ino == other.st_ino;
+    }
+
     bool writable(const Path& path) override {
         if (readOnly(path)) return false;
         const Descriptor file(path, O_RDWR);

@@ -29,6 +29,9 @@ public:
         if (m_handle == INVALID_HANDLE_VALUE) return false;
         return CloseHandle(std::exchange(m_handle, INVALID_HANDLE_VALUE)) != 0;
     }
+    bool about(BY_HANDLE_FILE_INFORMATION& information) const {
+        return GetFileInformationByHandle(m_handle, &information) != 0;
+    }
     bool size(std::uint64_t& bytes) const {
         LARGE_INTEGER size;
         if (!GetFileSizeEx(m_handle, &size)) return false;
@@ -133,6 +136,17 @@ public:
     bool exists(const Path& path) override {
         const DWORD attributes = GetFileAttributesA(path.c_str());
         return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
+    }
+
+    bool same(const Path& a, const Path& b) override {
+        const FileHandle one(a, 0, shareAll, OPEN_EXISTING);
+        const FileHandle other(b, 0, shareAll, OPEN_EXISTING);
+        BY_HANDLE_FILE_INFORMATION first = {};
+        BY_HANDLE_FILE_INFORMATION second = {};
+        return one.about(first) && other.about(second) &&
+               first.dwVolumeSerialNumber == second.dwVolumeSerialNumber &&
+               first.nFileIndexHigh == second.nFileIndexHigh &&
+               first.nFileIndexLow == second.nFileIndexLow;
     }
 
     bool writable(const Path& path) override {

@@ -1,0 +1,17 @@
+// How far a lintel reaches beyond the opening at each end, as the plan shows it.
+#pragma once
+
+#include "composition/records.h"
+
+namespace lx {
+
+// The head's bearing length becomes the overhang of its first layer, mm, negative for one that is
+// shorter than the opening; 0 without layers. To be done when the plan is about to be drawn where
+// the user sees it, and at no other time: elsewhere a bearing of 0 means the default one.
+// openingWidth in mm.
+void settleOverhang(CRez& head, double openingWidth);
+
+// Whether another overhang can be typed: an element of a fixed length does not follow it.
+bool overhangEditable(const CRez& head);
+
+}  // namespace lx

@@ -1,0 +1,115 @@
+// The rules behind the annotation settings.
+#include <gtest/gtest.h>
+
+#include "design/annotation_style.h"
+#include "tests/support/memory_files.h"
+
+namespace lx {
+namespace {
+
+struct StyleOnFile : testing::Test {
+    MemoryFiles files;
+    Profile settings{files, "VD_preklady.dat"};
+
+    AnnotationStyle stored(std::string_view key, std::string_view value) {
+        settings.write("SETTINGS", key, value);
+        return storedStyle(settings);
+    }
+};
+
+TEST_F(StyleOnFile, IsWrittenInOrderAndReadBackAsTyped) {
+    const AnnotationStyle first = storedStyle(settings);
+    const char* const defaults =
+        "[SETTINGS]\r\nCOLOR1=0\r\nCOLOR2=0\r\nIF_ANGLE1=1\r\nIF_POMLINE1=1\r\nANGLE1=0.0\r\n"
+        "LENGTH1=10.0\r\nHEIGHT1=2.5\r\nHEIGHT2=2.5\r\nIF_EDGES=0\r\nWIDTH1=0.8\r\nWIDTH2=0.8\r\n"
+        "DIAMETER=10\r\nEDGES=4\r\nSTYLE=Standard\r\n";
+    storeStyle(settings, first);
+    EXPECT_EQ(files.content["VD_preklady.dat"], defaults);
+
+    AnnotationStyle other{Text("Kóty"_cz), -1,   7,        true,   false, true, "45",
+                          "12,5",          "1.", "ten mm", "0.75", ".9",  "-3", "6.9 edges"};
+    settings.write("SETTINGS", "LINTEL_ERASE", "6");
+    storeStyle(settings, other);
+    EXPECT_EQ(storedStyle(settings), other);
+    EXPECT_EQ(settings.read("SETTINGS", "IF_ANGLE1", ""), "0");
+    EXPECT_EQ(settings.read("SETTINGS", "COLOR1", ""), "-1");
+    EXPECT_EQ(settings.read("SETTINGS", "LINTEL_ERASE", ""), "6");
+
+    other.bubbleHeight = other.descriptionHeight = other.edges = Text(40, '7');
+    storeStyle(settings, other);
+    EXPECT_EQ(storedStyle(settings).bubbleHeight, Text(14, '7'));
+    EXPECT_EQ(storedStyle(settings).descriptionHeight, Text(14, '7'));
+    EXPECT_EQ(storedStyle(settings).edges, Text(29, '7'));
+}
+
+TEST_F(StyleOnFile, TakesWhateverIsStored) {
+    for (const char* none : {"8", "-1", "99999999999"}) {
+        EXPECT_EQ(stored("COLOR1", none).bubbleColor, -1) << none;
+    }
+    EXPECT_EQ(stored("COLOR2", " 7 and more").descriptionColor, 7);
+    EXPECT_EQ(stored("COLOR2", "red").descriptionColor, 0);
+    EXPECT_TRUE(stored("IF_ANGLE1", "").followsOpening);
+    EXPECT_FALSE(stored("IF_ANGLE1", "-2").followsOpening);
+    EXPECT_TRUE(stored("IF_EDGES", "2").hasEdges);
+    EXPECT_FALSE(stored("IF_POMLINE1", "yes").auxiliaryLine);
+    // The buffers of the keys, one byte of each for the end.
+    EXPECT_EQ(stored("HEIGHT1", Text(60, '1')).bubbleHeight.size(), 29U);
+    EXPECT_EQ(stored("COLOR1", Text(60, '0') + "5").bubbleColor, 0);
+    EXPECT_EQ(stored("STYLE", Text(2000, 'S')).textStyle.size(), 1023U);
+    EXPECT_EQ(stored("STYLE", "").textStyle, "");
+}
+
+TEST(StyleRules, APolygonNeedsThreeEdgesWhetherItIsUsedOrNot) {
+    const std::pair<const char*, int> cases[] = {{"3", 0},
+                                                 {"3.7", 0},
+                                                 {" 12x", 0},
+                                                 {"99999999999", 0},
+                                                 {"2", 111},
+                                                 {"2.9", 111},
+                                                 {"-5", 111},
+                                                 {"", 111},
+                                                 {"three", 111},
+                                                 {"0000000000000000002", 111},
+                                                 {"00000000000000000003", 111}};
+    for (const auto& [typed, refusal] : cases) {
+        AnnotationStyle style;
+        style.edges = typed;
+        EXPECT_EQ(styleRefusal(style), refusal) << typed;
+        style.hasEdges = true;
+        EXPECT_EQ(styleRefusal(style), refusal) << typed;
+    }
+}
+
+TEST(StyleRules, ATextStyleIsFoundByItsBeginning) {
+    EXPECT_EQ(textStyleChoices({"Popisy"}), std::vector<Text>{"Popisy"});
+    std::vector<Text> entries = textStyleChoices({});
+    EXPECT_EQ(entryBeginningWith(entries, "rom"), 0);
+    EXPECT_EQ(entryBeginningWith(entries, "ROMANS"), 1);
+    EXPECT_EQ(entryBeginningWith(entries, "standard"), 2);
+    EXPECT_EQ(entryBeginningWith(entries, "Standard 2"), -1);
+    EXPECT_EQ(entryBeginningWith(entries, "OMAN"), -1);
+    entries.emplace_back("ČÁRY"_cz);
+    EXPECT_EQ(entryBeginningWith(entries, "čá"_cz), 4);
+    EXPECT_EQ(entryBeginningWith({}, "ROM"), -1);
+}
+
+TEST(StyleRules, WhatCanBeEditedFollowsWhatIsInsertedAndTheStylesOwnBoxes) {
+    for (int bits = 0; bits < 64; ++bits) {
+        Annotation inserted;
+        inserted.description = (bits & 1) != 0;
+        inserted.bubble = (bits & 2) != 0;
+        inserted.foldedSection = inserted.diagonals = (bits & 4) != 0;
+        AnnotationStyle style;
+        style.auxiliaryLine = (bits & 8) != 0;
+        style.followsOpening = (bits & 16) != 0;
+        style.hasEdges = (bits & 32) != 0;
+        const bool bubble = (bits & 2) != 0;
+        const UsableStyle expected{(bits & 1) != 0, bubble, (bits & 10) == 10, (bits & 18) == 2,
+                                   (bits & 34) == 34};
+        EXPECT_EQ(usableStyle(inserted, style), expected) << bits;
+        EXPECT_EQ(hasAnnotationStyle(inserted), (bits & 3) != 0) << bits;
+    }
+}
+
+}  // namespace
+}  // namespace lx

@@ -1,0 +1,149 @@
+// Stored designs that are shown instead of the dialog's own, and whether they suit the opening.
+#include <gtest/gtest.h>
+
+#include "design/design_model.h"
+#include "design/library_session.h"
+#include "design/stored_fit.h"
+#include "tests/support/bench.h"
+#include "tests/support/designs.h"
+#include "tests/support/memory_files.h"
+
+namespace lx {
+namespace {
+
+TEST(StoredFit, TheFirstElementOtherThanInsulationDecides) {
+    RezChain design;
+    const CRez& head = *design.append(headOf(300));
+    EXPECT_TRUE(suitsOpening(head, 5000));
+    design.append(layer(kind::insulation, 50, "IZOLACE"))->maxOpening = 1;
+    EXPECT_TRUE(suitsOpening(head, 5000));
+    design.append(layer(kind::precast, 70))->name.reset();
+    EXPECT_TRUE(suitsOpening(head, 5000));
+    CRez* lintel = design.append(layer(kind::precast, 70, "KP"));
+    EXPECT_TRUE(suitsOpening(head, 5000));
+    lintel->maxOpening = 1500;
+    design.append(layer(kind::precast, 70, "KP"))->maxOpening = 1;
+    EXPECT_TRUE(suitsOpening(head, 1500.0000005));
+    EXPECT_FALSE(suitsOpening(head, 1500.00001));
+    CRez* space = design.append(layer(kind::space, 10, "MEZERA"));
+    space->maxOpening = 100;
+    design.insertAfter(design.head(), design.unlink(space));
+    EXPECT_FALSE(suitsOpening(head, 1200));
+    // Whatever stands before it.
+    design.append(layer(kind::monolith, 50, "MONOLIT"));
+    EXPECT_TRUE(suitsOpening(head, 5000));
+}
+
+struct StoredDesigns : testing::Test {
+    ModuleValues values;
+    DesignModel model{values};
+
+    void SetUp() override {
+        values.openingWidth = 1200;
+        values.wallThickness = 300;
+        values.level = 2.5;
+        model.startDesign();
+        load({"C", "A", "B", "B"});
+    }
+    void load(std::initializer_list<const char*> labels) {
+        std::vector<LibraryEntry> entries;
+        for (const char* label : labels) {
+            LibraryEntry entry{paddedLabel(label), {}};
+            entry.design.append(headOf(450, label))->height = 7;
+            entry.design.append(layer(kind::precast, 70, label))->maxOpening = 1000;
+            entries.push_back(std::move(entry));
+        }
+        model.setStoredDesigns(std::move(entries));
+    }
+    std::string labels() const {
+        std::string text;
+        for (const Text& label : model.storedLabels()) text += label.substr(0, 1);
+        return text;
+    }
+};
+
+TEST_F(StoredDesigns, TheLevelOfTheOpeningGoesFromDesignToDesign) {
+    model.showStored(1);
+    EXPECT_EQ(model.head()->width, 450);
+    EXPECT_EQ(model.head()->height, 2500);
+    EXPECT_EQ(model.current(), model.head());
+    model.select(model.head()->next);
+    model.head()->height = 3000;
+    model.showStored(4);
+    EXPECT_EQ(model.head()->height, 3000);
+    model.head()->height = 3100;
+    // Another project.
+    load({"Z"});
+    EXPECT_EQ(model.shownStored(), 0);
+    EXPECT_EQ(model.current(), model.head());
+    EXPECT_EQ(model.head()->width, 300);
+    EXPECT_EQ(model.head()->height, 3100);
+    model.showStored(2);
+    model.showStored(-1);
+    EXPECT_EQ(model.shownStored(), 0);
+}
+
+TEST_F(StoredDesigns, ARemovedOneIsFollowedByTheNextElseTheLast) {
+    ASSERT_EQ(labels(), "<ABBC");
+    EXPECT_EQ(model.removeShownStored(), "");
+    model.showStored(3);
+    model.head()->height = 1234;
+    EXPECT_EQ(model.removeShownStored(), "B  ");
+    EXPECT_EQ(labels(), "<AC");
+    EXPECT_EQ(model.shownStored(), 2);
+    EXPECT_EQ(model.head()->next->name, "C");
+    EXPECT_EQ(model.head()->height, 1234);
+    model.removeShownStored();
+    EXPECT_EQ(model.head()->next->name, "A");
+    model.removeShownStored();
+    EXPECT_EQ(labels(), "<");
+    EXPECT_EQ(model.shownStored(), 0);
+    EXPECT_EQ(model.head()->height, 1234);
+}
+
+TEST_F(StoredDesigns, OnlyAShownOneIsCheckedAndOnlyWhenAsked) {
+    EXPECT_FALSE(model.storedSuits(1));
+    EXPECT_TRUE(model.shownFits());
+    model.showStored(1);
+    EXPECT_FALSE(model.shownFits());
+    model.bearingCheck = false;
+    EXPECT_TRUE(model.shownFits());
+    EXPECT_FALSE(model.storedSuits(1));
+}
+
+TEST(LibraryProjects, NewOnesGetAnIdOfTheirOwn) {
+    FakeHost host;
+    MemoryFiles files;
+    LibrarySession library(host, files);
+    library.addProject("Čáp"_cz);
+    EXPECT_TRUE(library.hasProject("default"));
+    EXPECT_TRUE(library.hasProject("čÁP"_cz));
+    EXPECT_FALSE(library.hasProject("Cap"));
+    EXPECT_EQ(library.projects().currentId(), 1);
+    EXPECT_EQ(library.removeProject(), 1);
+    EXPECT_EQ(library.projects().selected, 0);
+    EXPECT_EQ(library.removeProject(), 0);
+    EXPECT_EQ(library.projects().projects.size(), 1U);
+    host.variables["DWGNAME"] = "dwg";
+    EXPECT_EQ(library.proposedProjectName(), "");
+    host.variables["DWGNAME"] = "house.dwg";
+    EXPECT_EQ(library.proposedProjectName(), "house");
+}
+
+TEST(LibraryProjects, TheLargestIdIsNotExceeded) {
+    FakeHost host;
+    MemoryFiles files;
+    host.library = "lib/";
+    ProjectList list = defaultProjects();
+    list.projects.push_back({2147483647, "P"});
+    files.content["lib/akce.bk6"] = projectBytes(list);
+    LibrarySession library(host, files);
+    library.LoadProjects();
+    library.addProject(std::string(100, 'x'));
+    EXPECT_EQ(library.projects().currentId(), 1);
+    EXPECT_EQ(library.projects().projects.back().name.size(), projectNameLimit);
+    EXPECT_TRUE(library.hasProject(std::string(90, 'X')));
+}
+
+}  // namespace
+}  // namespace lx

@@ -1,0 +1,217 @@
+#include "preview/plan_drawing.h"
+
+#include <limits>
+
+#include "composition/layout.h"
+#include "composition/section_scale.h"
+#include "design/overhang.h"
+#include "preview/plan_zigzag.h"
+#include "tests/preview/drawings.h"
+#include "tests/support/designs.h"
+
+namespace lx {
+namespace {
+
+// A design with what its plan depends on; layers are 1200 long and follow the opening.
+struct Scene {
+    RezChain design;
+    PlanInput input;
+
+    explicit Scene(std::int32_t wall, double opening = 900, Size client = {370, 130}) {
+        design.append(headOf(wall));
+        input.client = client;
+        input.openingWidth = opening;
+    }
+    Scene& bend(std::int32_t run, std::int32_t step, bool flagged = false) {
+        design.head()->addBend(run, step, flagged);
+        return *this;
+    }
+    Scene& add(std::int32_t kind, std::int32_t width, std::int32_t height,
+               std::int32_t length = 1200) {
+        CRez* added = design.append(layer(kind, width));
+        added->height = height;
+        added->length = length;
+        added->bearing = 125;
+        return *this;
+    }
+    // Makes the last record the current one.
+    Scene& here() {
+        input.current = design.last();
+        return *this;
+    }
+    Scene& folded(std::int32_t level = 0) {
+        design.head()->height = level;
+        input.foldedSection = true;
+        return *this;
+    }
+    HitRegions draw(Canvas& canvas) {
+        layOut(*design.head());
+        settleSection(*design.head(), {480, 400});
+        settleOverhang(*design.head(), input.openingWidth);
+        input.head = design.head();
+        return drawPlan(canvas, input);
+    }
+};
+
+Scene emptyDesign() {
+    Scene scene(300);
+    scene.folded(1250).here();
+    return scene;
+}
+
+// The section is not folded: insulation and spaces do not show.
+Scene stripsOnly() {
+    Scene scene(365, 1200.6, {417, 152});
+    scene.add(kind::precast, 70, 238, 1450).add(kind::insulation, 80, 200, 1450);
+    scene.add(kind::beam, 55, 100, 1450).add(kind::space, 20, 238, 1450);
+    scene.add(kind::monolith, 140, 250, 1450).here();
+    return scene;
+}
+
+Scene fixedLintel() {
+    Scene scene(300);
+    scene.add(kind::beam, 100, 100, 1199).add(kind::precast, 71, 238, 1490).folded(-30);
+    scene.design.last()->bearing = 0;
+    return scene;
+}
+
+Scene bentFolded() {
+    Scene scene(300, 900, {417, 260});
+    scene.bend(101, 75).bend(99, -150).add(kind::precast, 70, 238).add(kind::insulation, 80, 203);
+    scene.add(kind::monolith, 150, 250).here();
+    scene.folded(2100);
+    return scene;
+}
+
+// The head slopes from its second bend on.
+Scene slopingFolded() {
+    Scene scene(300, 900, {417, 260});
+    scene.bend(100, 50).bend(100, 60, true).add(kind::beam, 91, 161).here();
+    scene.add(kind::insulation, 150, 300).folded();
+    return scene;
+}
+
+Scene shorterThanTheOpening() {
+    Scene scene(400, 900, {417, 260});
+    scene.add(kind::angle, 45, 61, 799).add(kind::angleMirrored, 45, 61).here();
+    scene.add(kind::channel, 45, 81).add(kind::channelMirrored, 45, 81);
+    scene.folded(-1005);
+    return scene;
+}
+
+Scene thinWallPlan() {
+    Scene scene(199, 600);
+    scene.add(5, 81, 100, 601).here();
+    return scene;
+}
+
+Scene narrowOpening() {
+    Scene scene(300, -199.9, {190, 300});
+    scene.add(104, 71, 238, 450).add(60, 21, 31, 450).folded();
+    return scene;
+}
+
+struct Drawing {
+    const char* name;
+    Scene (*make)();
+};
+constexpr Drawing drawings[] = {
+    {"plan-empty", emptyDesign},        {"plan-strips", stripsOnly},
+    {"plan-fixed-lintel", fixedLintel}, {"plan-bent", bentFolded},
+    {"plan-sloping", slopingFolded},    {"plan-short-layer", shorterThanTheOpening},
+    {"plan-thin-wall", thinWallPlan},   {"plan-narrow-opening", narrowOpening},
+};
+
+TEST(PlanDrawing, DrawsWhatTheFilesSay) {
+    for (const Drawing& drawing : drawings) {
+        Scene scene = drawing.make();
+        RecordingCanvas canvas;
+        const HitRegions regions = scene.draw(canvas);
+        compareWithFile(drawing.name, recorded(canvas, regions, scene.design.head()));
+    }
+}
+
+// ---- what a file does not tell
+
+TEST(PlanDrawing, IsBlackWithoutADesignAndNothingWithoutRoom) {
+    RecordingCanvas black;
+    PlanInput input;
+    input.client = {370, 130};
+    input.foldedSection = true;
+    EXPECT_TRUE(drawPlan(black, input).empty());
+    EXPECT_EQ(black.asText(), "clip (0,0)-(370,130)\nfill (0,0)-(370,130) 0,0,0\n");
+
+    for (const Size none : {Size{0, 130}, Size{370, 0}, Size{-1, -1}}) {
+        Scene scene(300, 900, none);
+        RecordingCanvas canvas;
+        EXPECT_TRUE(scene.add(kind::insulation, 80, 200).folded().draw(canvas).empty());
+        EXPECT_TRUE(canvas.empty());
+    }
+}
+
+TEST(PlanDrawing, TheCurrentRecordLiesOverAllOthersWithoutRegionsOfItsOwn) {
+    Scene scene(300);
+    scene.add(kind::beam, 55, 100).here().add(kind::beam, 55, 100).folded();
+    RecordingCanvas canvas;
+    const std::size_t regions = scene.draw(canvas).size();
+    EXPECT_EQ(regions, 2U);
+    const std::string text = canvas.asText();
+    EXPECT_GT(text.rfind("255,255,170"), text.rfind("255,153,153"));
+
+    const CRez* const withoutColor[] = {nullptr, scene.design.head()};
+    for (const CRez* current : withoutColor) {
+        scene.input.current = current;
+        RecordingCanvas other;
+        EXPECT_EQ(drawPlan(other, scene.input).size(), regions);
+        EXPECT_EQ(other.asText().find("255,255,170"), std::string::npos);
+    }
+}
+
+TEST(PlanDrawing, NoNumberMakesItLong) {
+    constexpr std::int32_t least = std::numeric_limits<std::int32_t>::min();
+    constexpr std::int32_t most = std::numeric_limits<std::int32_t>::max();
+    constexpr std::int32_t numbers[] = {least, -300, 0, 80, most};
+    for (const std::int32_t wall : {least, 300, most}) {
+        for (const std::int32_t size : numbers) {
+            for (const std::int32_t place : numbers) {
+                Scene scene(wall);
+                scene.bend(place, size).bend(size, place, true).bend(size, size);
+                for (const std::int32_t k : {1, 2, 3, 53, 0, 101, 102, 103, 500, -1}) {
+                    scene.add(k, 80, size, size).design.last()->width = place;
+                    scene.design.last()->offset = size;
+                    scene.design.last()->level = place;
+                }
+                scene.folded(size).here();
+                scene.input.head = scene.design.head();
+                for (const double opening : {0.0, 900.0, size * 1e300}) {
+                    scene.input.openingWidth = opening;
+                    settleOverhang(*scene.design.head(), opening);
+                    RecordingCanvas canvas;
+                    EXPECT_GE(drawPlan(canvas, scene.input).size(), 2U);
+                    EXPECT_LT(canvas.asText().size(), 20000U);
+                }
+            }
+        }
+    }
+}
+
+std::string zigzag(int start, int end, int step) {
+    RecordingCanvas canvas;
+    drawPlanZigzag(canvas, {start, 90}, end, step, 300);
+    return canvas.asText();
+}
+
+TEST(PlanDrawing, TheZigzagIsCutWhereItCannotBeSeen) {
+    const std::string pen = "pen 0,0,0 width 1 solid\nline ";
+    EXPECT_EQ(zigzag(100, 70, 10), pen + "(100,90)-(90,90)-(80,70)-(70,90)\n") << "up to the end";
+    EXPECT_EQ(zigzag(100, 71, 10), pen + "(100,90)-(90,90)-(80,70)\n");
+    EXPECT_EQ(zigzag(100, 50, 7), "") << "too narrow";
+    EXPECT_EQ(zigzag(50, 100, 10), "") << "a negative height";
+    EXPECT_EQ(zigzag(250, -2'000'000'000, 100), pen + "(250,90)-(150,90)-(50,-110)-(-50,90)\n");
+    EXPECT_EQ(zigzag(2'000'000'050, 0, 100), pen + "(350,90)-(250,-110)-(150,90)-(50,-110)\n")
+        << "the side that it would have come to, counted from its start";
+    EXPECT_EQ(zigzag(2'000'000'050, 1'000'000'000, 100), "") << "all of it beside the picture";
+}
+
+}  // namespace
+}  // namespace lx
