@@ -64,10 +64,10 @@ constexpr int steelItemHeight = precastItemHeight - 2 * itemRowStep;
 
 // The last row's long label leaves room for a field of one character.
 constexpr UnitRect itemLabelArea(const ItemRow& row, int top) {
-    return {7, top + 2, row.field == id::itemMark ? 180 : 60, 8};
+    return {7, top + 2, row.field == id::itemMark ? 180 : 68, 8};
 }
 constexpr UnitRect itemFieldArea(const ItemRow& row, int top) {
-    const int width = row.field == id::itemMark ? 20 : 163;
+    const int width = row.field == id::itemMark ? 20 : 156;
     return {itemEditorWidth - 7 - width, top, width, 12};
 }
 
@@ -101,12 +101,12 @@ constexpr int shapesInFirstRow = 6;
 constexpr int usableShapes = 3;
 
 constexpr ControlTemplate shapeButton(int shape) {
-    const int button = id::firstShape + shape - 1;
+    const int control = id::firstShape + shape - 1;
     if (shape > shapesInFirstRow) {
         const int column = shape - shapesInFirstRow - 1;
-        return iconButton(button, {7 + 20 * column, 46, 18, 10}, style::hidden);
+        return iconButton(control, {7 + 20 * column, 46, 18, 10}, style::hidden);
     }
-    return iconButton(button, {7 + 28 * (shape - 1), 24, 23, 22},
+    return iconButton(control, {7 + 28 * (shape - 1), 24, 23, 22},
                       shape > usableShapes ? style::disabled : 0);
 }
 
@@ -117,9 +117,9 @@ constexpr auto sectionTypeControls = [] {
     *next++ = plain(ControlKind::edit, id::sectionName, {37, 7, 133, 12});
     for (int shape = 1; shape <= shapeButtons; ++shape) *next++ = shapeButton(shape);
     *next++ = plain(ControlKind::icon, id::sectionIcon, {7, 54, 17, 16});
-    *next++ = defaultButton(id::ok, "OK"_cz, {35, 56, 41, 14});
-    *next++ = button(id::cancel, "Zrušit"_cz, {82, 56, 41, 14});
-    *next++ = button(id::help, "Nápověda"_cz, {129, 56, 41, 14});
+    *next++ = defaultButton(id::ok, "OK"_cz, {30, 56, 44, 14});
+    *next++ = button(id::cancel, "Zrušit"_cz, {78, 56, 44, 14});
+    *next++ = button(id::help, "Nápověda"_cz, {126, 56, 44, 14});
     return all;
 }();
 

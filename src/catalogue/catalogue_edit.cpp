@@ -1,0 +1,144 @@
+#include "catalogue/catalogue_edit.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <limits>
+#include <utility>
+
+#include "platform/numbers.h"
+
+namespace lx {
+
+namespace {
+
+constexpr int nameTaken = 19;
+constexpr int newTypeUnnamed = 20;
+constexpr int renamedUnnamed = 27;
+
+std::string_view nameOf(const CPreklItem& record) {
+    return record.designation ? std::string_view(*record.designation) : std::string_view();
+}
+
+bool hasType(const CPreklItem* chain, std::string_view name) {
+    for (const CPreklItem* record = chain; record; record = record->next.get()) {
+        if (record->isType() && equalIgnoringCase(nameOf(*record), name)) return true;
+    }
+    return false;
+}
+
+CPreklItem& append(Catalogue& chain, std::int32_t group) {
+    Catalogue* end = &chain;
+    while (*end) end = &(*end)->next;
+    *end = std::make_unique<CPreklItem>();
+    (*end)->group = group;
+    return **end;
+}
+
+std::unique_ptr<CPreklItem> takeOut(Catalogue& link) {
+    std::unique_ptr<CPreklItem> record = std::move(link);
+    link = std::move(record->next);
+    return record;
+}
+
+// The group of the type's items. A damaged file may hold the one number that has no opposite.
+std::int32_t itemGroup(const CPreklItem& type) {
+    constexpr std::int32_t lowest = std::numeric_limits<std::int32_t>::min();
+    return type.group == lowest ? std::numeric_limits<std::int32_t>::max() : -type.group;
+}
+
+// After the type of that number is gone.
+void closeUp(CPreklItem* chain, std::int32_t number) {
+    for (CPreklItem* record = chain; record; record = record->next.get()) {
+        if (record->group > number) --record->group;
+        if (record->group < -number) ++record->group;
+    }
+}
+
+}  // namespace
+
+EditorTexts editorTexts(const CPreklItem& item) {
+    EditorTexts texts;
+    texts.designation = nameOf(item);
+    texts.length = formatInt(item.length);
+    texts.width = formatInt(item.width);
+    texts.height = formatInt(item.height);
+    texts.maxOpening = formatInt(item.maxOpening);
+    texts.weight = formatFixed(item.weight, 1);
+    texts.qu = formatFixed(item.qu, 3);
+    texts.description = item.description.value_or(Text());
+    const char mark = item.compositionMark;
+    if (static_cast<unsigned char>(mark) >= '0') texts.mark = Text(1, mark);
+    return texts;
+}
+
+std::vector<CPreklItem*> typeRecords(CPreklItem* chain) {
+    std::vector<CPreklItem*> types;
+    for (CPreklItem* record = chain; record; record = record->next.get()) {
+        if (record->isType()) types.push_back(record);
+    }
+    return types;
+}
+
+int newTypeRefusal(const CPreklItem* chain, std::string_view name) {
+    if (name.empty()) return newTypeUnnamed;
+    return hasType(chain, name) ? nameTaken : 0;
+}
+
+int renameRefusal(const CPreklItem* chain, const CPreklItem& type, std::string_view name) {
+    if (name.empty()) return renamedUnnamed;
+    return name != nameOf(type) && hasType(chain, name) ? nameTaken : 0;
+}
+
+CPreklItem& appendType(Catalogue& chain, std::string_view name, CatalogueKind kind, int shape) {
+    const std::size_t types = typeRecords(chain.get()).size();
+    CPreklItem& type = append(chain, -static_cast<std::int32_t>(types) - 1);
+    type.designation = Text(name);
+    if (kind == CatalogueKind::steel) type.length = shape;
+    return type;
+}
+
+bool deleteType(Catalogue& chain, int position) {
+    const std::vector<CPreklItem*> types = typeRecords(chain.get());
+    if (types.size() < 2 || position < 0 || static_cast<std::size_t>(position) >= types.size()) {
+        return false;
+    }
+    const CPreklItem* type = types[static_cast<std::size_t>(position)];
+    const bool stays = position == 0;
+    const std::int32_t number = itemGroup(*type);
+    for (Catalogue* link = &chain->next; *link;) {
+        const CPreklItem& record = **link;
+        if (record.group == number || (&record == type && !stays)) {
+            takeOut(*link);
+        } else {
+            link = &(*link)->next;
+        }
+    }
+    if (!stays) closeUp(chain.get(), number);
+    return true;
+}
+
+CPreklItem& appendItem(Catalogue& chain, const CPreklItem& type, const EditorTexts& texts) {
+    CPreklItem& item = append(chain, itemGroup(type));
+    changeItem(item, texts);
+    return item;
+}
+
+void changeItem(CPreklItem& item, const EditorTexts& texts) {
+    item.designation = texts.designation;
+    item.length = leadingInt(texts.length);
+    item.width = leadingInt(texts.width);
+    item.height = leadingInt(texts.height);
+    item.maxOpening = leadingInt(texts.maxOpening);
+    item.weight = leadingDouble(texts.weight);
+    item.qu = leadingDouble(texts.qu);
+    item.description = texts.description;
+    if (!texts.mark.empty()) item.compositionMark = texts.mark.front();
+}
+
+std::unique_ptr<CPreklItem> unlinkItem(Catalogue& chain, const CPreklItem& item) {
+    Catalogue* link = &chain;
+    while (*link && link->get() != &item) link = &(*link)->next;
+    return *link ? takeOut(*link) : nullptr;
+}
+
+}  // namespace lx

@@ -1,0 +1,66 @@
+#include "catalogue/natural_order.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
+namespace lx {
+
+namespace {
+
+constexpr std::string_view collation =
+    "#*-_/aAáÁbBcCčČdDďĎeEéÉěĚfFgGhHiIíÍjJkKlLmMnNoOóÓpPqQrRřŘsSšŠtTťŤuUúÚůŮvVwWxXyYýÝzZžŽ"_cz;
+
+// First bytes of what a key is made of; a text that ends here comes before them all.
+constexpr unsigned char number = 1;
+constexpr unsigned char unlisted = 2;
+constexpr unsigned char firstListed = 3;
+
+constexpr auto rankOfByte = [] {
+    std::array<unsigned char, 256> ranks{};
+    ranks.fill(unlisted);
+    for (std::size_t i = 0; i < collation.size(); ++i) {
+        ranks.at(static_cast<unsigned char>(collation[i])) =
+            static_cast<unsigned char>(firstListed + i);
+    }
+    return ranks;
+}();
+
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+// More digits without leading zeros are a larger number. Their count stands before them in as many
+// bytes as it takes, each full one counting 255.
+void appendNumber(Text& key, std::string_view digits) {
+    constexpr std::size_t full = 255;
+    digits.remove_prefix(std::min(digits.find_first_not_of('0'), digits.size()));
+    key.push_back(static_cast<char>(number));
+    key.append(digits.size() / full, static_cast<char>(full));
+    key.push_back(static_cast<char>(digits.size() % full));
+    key.append(digits);
+}
+
+}  // namespace
+
+int compareNatural(std::string_view a, std::string_view b) {
+    return naturalKey(a) > naturalKey(b) ? 1 : 0;
+}
+
+Text naturalKey(std::string_view text) {
+    Text key;
+    key.reserve(text.size() + 8);
+    for (std::size_t i = 0; i < text.size();) {
+        const std::size_t begin = i;
+        while (i < text.size() && isDigit(text[i])) ++i;
+        if (i > begin) {
+            appendNumber(key, text.substr(begin, i - begin));
+        } else {
+            const auto byte = static_cast<unsigned char>(text[i++]);
+            key.push_back(static_cast<char>(rankOfByte[byte]));
+        }
+    }
+    return key;
+}
+
+}  // namespace lx
