@@ -1,5 +1,7 @@
 #include "preview/CObr.h"
 
+#include <utility>
+
 #include "design/services.h"
 #include "preview/section_drawing.h"
 
@@ -8,7 +10,17 @@ namespace lx {
 CObr::CObr(DesignServices& services, Picture& picture)
     : m_services(services), m_picture(picture), m_mouse(services, picture, m_regions) {
     picture.onPaint = [this](Canvas& canvas) { paint(canvas); };
-    picture.regions = [this] { return pictureRegions(m_regions); };
+    picture.regions = [this] { return regions(); };
+}
+
+std::vector<PictureRegion> CObr::regions() const {
+    std::vector<PictureRegion> all = pictureRegions(m_regions);
+    const CRez* head = m_services.model().head();
+    if (head == nullptr) return all;
+    for (PictureRegion& body : layerBodies(head, sectionScale(head->width, m_picture.size()))) {
+        all.push_back(std::move(body));
+    }
+    return all;
 }
 
 // The old picture can be clicked until the new one stands, but nothing of it whose record is gone.

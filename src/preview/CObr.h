@@ -18,6 +18,8 @@ public:
 
 private:
     void paint(Canvas& canvas);
+    // The regions of values and names, and the layers themselves.
+    std::vector<PictureRegion> regions() const;
 
     DesignServices& m_services;
     Picture& m_picture;

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "composition/saturate.h"
 #include "design/layer_commands.h"
 #include "platform/numbers.h"
 #include "preview/value_family.h"
@@ -13,27 +14,37 @@ namespace {
 // A mirrored steel section is the same shape this much further on.
 constexpr std::int32_t mirrored = 50;
 
-bool between(std::int64_t value, std::int64_t low, std::int64_t high) {
-    return value >= low && value <= high;
+// All four edges belong to the layer.
+Rect bodyOf(const CRez& layer, const SectionScale& scale) {
+    const auto pixels = [&scale](double millimetres, int origin) {
+        return saturated(std::int64_t{truncateToInt(millimetres * scale.scale)} + origin);
+    };
+    const double left = layer.offset;
+    const double bottom = layer.level;
+    return {pixels(left, scale.origin.x), pixels(-(bottom + layer.height), scale.origin.y),
+            pixels(left + layer.width, scale.origin.x), pixels(-bottom, scale.origin.y)};
 }
 
 }  // namespace
 
 CRez* layerAt(const CRez* head, const SectionScale& scale, Point p) {
     if (head == nullptr) return nullptr;
-    const auto pixels = [&scale](double millimetres) {
-        return std::int64_t{truncateToInt(millimetres * scale.scale)};
-    };
     for (CRez* layer = head->next; layer != nullptr; layer = layer->next) {
-        const double end = static_cast<double>(layer->offset) + layer->width;
-        const double top = static_cast<double>(layer->level) + layer->height;
-        if (between(p.x, pixels(layer->offset) + scale.origin.x, pixels(end) + scale.origin.x) &&
-            between(p.y, pixels(-top) + scale.origin.y,
-                    pixels(-static_cast<double>(layer->level)) + scale.origin.y)) {
+        const Rect body = bodyOf(*layer, scale);
+        if (p.x >= body.left && p.x <= body.right && p.y >= body.top && p.y <= body.bottom) {
             return layer;
         }
     }
     return nullptr;
+}
+
+std::vector<PictureRegion> layerBodies(const CRez* head, const SectionScale& scale) {
+    std::vector<PictureRegion> bodies;
+    int number = 0;
+    for (const CRez* layer = head ? head->next : nullptr; layer; layer = layer->next) {
+        bodies.push_back({"body " + formatInt(++number), bodyOf(*layer, scale)});
+    }
+    return bodies;
 }
 
 SectionMouse::SectionMouse(DesignServices& services, Picture& picture, const HitRegions& regions)

@@ -10,6 +10,8 @@ namespace lx {
 // The first layer, in the order of the chain, whose rectangle holds the point, edges included; the
 // head is never hit.
 CRez* layerAt(const CRez* head, const SectionScale& scale, Point p);
+// Where the layers stand, "body N" from 1, for programs that act as the user.
+std::vector<PictureRegion> layerBodies(const CRez* head, const SectionScale& scale);
 
 class SectionMouse {
 public:

@@ -25,7 +25,7 @@ TEST_F(DesignDialog, TheSectionFollowsTheDesign) {
         EXPECT_EQ(regionNames(d), "");
         d.selectTab("Prefa překlady");
         d.press("Vložit vybraný překlad");
-        EXPECT_EQ(regionNames(d), "layer 1; ");
+        EXPECT_EQ(regionNames(d), "layer 1; body 1; ");
         EXPECT_TRUE(drawn(d, "pen 255,255,170 width 4 solid"));
         d.press("Vymazat vybraný prvek");
         EXPECT_EQ(regionNames(d), "");
