@@ -1,0 +1,84 @@
+// How long a project of a large library takes to open and a design to be stored into it, beside one
+// reading of the file.
+#include <benchmark/benchmark.h>
+
+#include <cstdio>
+
+#include "composition/library.h"
+#include "tests/support/designs.h"
+
+namespace {
+
+using namespace lx;
+
+constexpr int projects = 50;
+
+// A library of that many designs, spread over the projects, as a file of its own.
+class LibraryFile {
+public:
+    explicit LibraryFile(std::int64_t designs) : m_path("bench-library.bk6") {
+        Bytes bytes;
+        for (std::int64_t i = 0; i < designs; ++i) {
+            const RezChain design = sampleDesign(std::to_string(i / projects % 1000));
+            BinaryWriter records;
+            writeDesign(design.head(), records);
+            BinaryWriter entry;
+            entry.int32(8 + static_cast<std::int32_t>(records.bytes().size()));
+            entry.int32(static_cast<std::int32_t>(i % projects));
+            Bytes label = paddedLabel(design.head()->label());
+            label.resize(4, '\0');
+            entry.raw(label);
+            entry.raw(records.bytes());
+            bytes += entry.bytes();
+        }
+        m_size = bytes.size();
+        systemFiles().replace(m_path, bytes);
+    }
+    ~LibraryFile() { systemFiles().remove(m_path); }
+    LibraryFile(const LibraryFile&) = delete;
+    LibraryFile& operator=(const LibraryFile&) = delete;
+
+    const Path& path() const { return m_path; }
+    std::size_t size() const { return m_size; }
+
+private:
+    Path m_path;
+    std::size_t m_size = 0;
+};
+
+void readTheFileOnce(benchmark::State& state) {
+    const LibraryFile file(state.range(0));
+    for (auto _ : state) {
+        FileRead read = systemFiles().read(file.path());
+        benchmark::DoNotOptimize(read.bytes.data());
+    }
+    state.counters["bytes"] = static_cast<double>(file.size());
+}
+
+void openAProject(benchmark::State& state) {
+    const LibraryFile file(state.range(0));
+    std::size_t designs = 0;
+    for (auto _ : state) {
+        const LibraryRead read = loadLibrary(file.path(), 7, systemFiles());
+        designs = read.entries.size();
+    }
+    state.counters["designs"] = static_cast<double>(designs);
+}
+
+void storeADesign(benchmark::State& state) {
+    const LibraryFile file(state.range(0));
+    const RezChain design = sampleDesign("new");
+    for (auto _ : state) {
+        const bool stored = appendDesign(file.path(), 7, *design.head(), "new", systemFiles());
+        if (!stored) state.SkipWithError("the design could not be stored");
+    }
+}
+
+#define LIBRARY_SIZES Unit(benchmark::kMillisecond)->Arg(1000)->Arg(10000)->Arg(100000)
+BENCHMARK(readTheFileOnce)->LIBRARY_SIZES;
+BENCHMARK(openAProject)->LIBRARY_SIZES;
+BENCHMARK(storeADesign)->LIBRARY_SIZES;
+
+}  // namespace
+
+BENCHMARK_MAIN();
