@@ -95,6 +95,8 @@ void resizeWnd::restorePlacement(ini_store& store, std::string_view key) {
     if (!store.get_int_array(key, list)) return;
     const auto placement = placementFrom(list, m_minimum, m_platform.screen());
     if (!placement) return;
+    // The dividers belong to the layout of the normal size, also when the window opens minimised.
+    m_dialog.setWindowArea(placement->normal);
     m_dialog.setPlacement(*placement);
     if (list.size() < placementEntries) return;
     list.erase(list.begin(), list.begin() + placementEntries);

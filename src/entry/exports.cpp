@@ -6,6 +6,7 @@
 
 #include "design/CObr1.h"
 #include "entry/CLintelErase.h"
+#include "entry/merge_call.h"
 #include "resources/strings.h"
 #include "tabs/page_factory.h"
 
@@ -67,6 +68,17 @@ int dialogCall(int busy, int failed, Body body) noexcept {
         return body(*g_application);
     } catch (...) {
         return failed;
+    }
+}
+
+int merge(const char* sourcePath, const char* targetFolder, int mode) noexcept {
+    if (!g_application) return LX_MERGE_NO_TARGET;
+    try {
+        const Context& context = g_application->context();
+        return mergeCall(context.files, context.host,
+                         {sourcePath ? sourcePath : "", targetFolder ? targetFolder : "", mode});
+    } catch (...) {
+        return LX_MERGE_NO_TARGET;
     }
 }
 
@@ -160,6 +172,7 @@ int LX_STDCALL LintelErase(void* parent) {
                           [parent](lx::CLXdata6dlgApp& app) { return lx::eraseCall(app, parent); });
 }
 
-int LX_CDECL mergeLibraryFiles(void*, const char*, const char*, int32_t) {
-    return LX_MERGE_NO_TARGET;
+int LX_CDECL mergeLibraryFiles(void*, const char* sourcePath, const char* targetFolder,
+                               int32_t mode) {
+    return lx::merge(sourcePath, targetFolder, mode);
 }

@@ -1,0 +1,185 @@
+// A dialog that the user resizes and whose divider is dragged, on the windows of this platform.
+#include "catalogue/resize_wnd.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/support/bench.h"
+
+namespace lx {
+namespace {
+
+constexpr int types = 10;
+constexpr int items = 11;
+constexpr char key[] = "windowPosition";
+
+constexpr ControlTemplate controls[] = {
+    {ControlKind::listBox, types, "types", {5, 5, 80, 100}},
+    {ControlKind::listBox, items, "items", {91, 5, 204, 100}},
+    {ControlKind::button, id::ok, "OK", {190, 110, 50, 14}, style::defaultButton},
+    {ControlKind::button, id::cancel, "Zrušit"_cz, {245, 110, 50, 14}},
+};
+constexpr DialogTemplate layout{"lists", "Seznamy", 300, 130, controls, DialogStyle::resizable};
+
+class ResizableDialog {
+public:
+    explicit ResizableDialog(Bench& bench)
+        : dialog(bench.platform().createDialog(layout, {})),
+          resizing(bench.platform(), *dialog),
+          store(bench.files()) {
+        store.open(bench.dataFolder() + "settings.dat", "SETTINGS");
+        dialog->onInit = [this] { setUp(); };
+        dialog->onDestroy = [this] { resizing.savePlacement(store, key); };
+    }
+    // A window that was never shown goes here, and what its end calls must still be there.
+    ~ResizableDialog() { dialog.reset(); }
+    ResizableDialog(const ResizableDialog&) = delete;
+    ResizableDialog& operator=(const ResizableDialog&) = delete;
+
+    Rect area(int control) const { return dialog->item(control).area(); }
+
+    void setUp() {
+        Control& list = dialog->item(items);
+        resizing.addDivider(&list, Side::left, nullptr);
+        resizing.addDivider(&list, Side::left, &dialog->item(types));
+        resizing.initialise();
+        resizing.setSize(list, 150, 0);
+        resizing.addControl(dialog->item(types), edge::stretchesDown);
+        resizing.addControl(list, edge::stretches);
+        resizing.addControl(dialog->item(id::ok), edge::staysInCorner);
+        resizing.addControl(dialog->item(id::cancel), edge::staysInCorner);
+        resizing.restorePlacement(store, key);
+    }
+
+    std::unique_ptr<Dialog> dialog;
+    resizeWnd resizing;
+    prf_store store;
+};
+
+struct Resizing : testing::Test {
+    Bench bench;
+
+    // Runs the dialog with one step of the user's, who then presses Cancel.
+    void run(const std::function<void(Driver&, ResizableDialog&)>& step) {
+        ResizableDialog open(bench);
+        bench.user().inDialog("Seznamy", [&](Driver& d) {
+            step(d, open);
+            d.press("Zrušit");
+        });
+        EXPECT_EQ(open.dialog->runModal(), id::cancel);
+        EXPECT_EQ(bench.user().failure(), "");
+    }
+    static ScreenPoint onDivider(const ResizableDialog& open) {
+        return {(open.area(types).right + open.area(items).left) / 2, 40};
+    }
+    static void drag(Driver& d, ScreenPoint from, ScreenPoint to) {
+        d.mouseMove("", from, false);
+        d.mouseDown("", from);
+        d.mouseMove("", to, true);
+        d.mouseUp("", to);
+    }
+};
+
+TEST_F(Resizing, ControlsFollowAndTheStartingSizeIsTheSmallest) {
+    run([](Driver& d, ResizableDialog& open) {
+        const ScreenSize start = d.dialogSize();
+        const Rect list = open.area(items);
+        const Rect other = open.area(types);
+        const Rect ok = open.area(id::ok);
+        d.resizeDialog({start.width + 60, start.height + 30});
+        EXPECT_EQ(open.area(items), (Rect{list.left, list.top, list.right + 60, list.bottom + 30}));
+        EXPECT_EQ(open.area(types), (Rect{other.left, other.top, other.right, other.bottom + 30}));
+        EXPECT_EQ(open.area(id::ok),
+                  (Rect{ok.left + 60, ok.top + 30, ok.right + 60, ok.bottom + 30}));
+        EXPECT_TRUE(d.layoutFaults().empty());
+        d.setDialogState("maximized");
+        d.setDialogState("normal");
+        d.resizeDialog({20, 20});
+        EXPECT_EQ(d.dialogSize().width, start.width);
+        EXPECT_EQ(d.dialogSize().height, start.height);
+        EXPECT_EQ(open.area(items), list);
+        EXPECT_EQ(open.area(id::ok), ok);
+    });
+}
+
+TEST_F(Resizing, TheDividerFollowsTheMouseUpToTheMinimum) {
+    run([](Driver& d, ResizableDialog& open) {
+        const Rect list = open.area(items);
+        const Rect other = open.area(types);
+        ScreenPoint from = onDivider(open);
+        d.mouseMove("", from, false);
+        EXPECT_EQ(d.cursor(""), "splitLeftRight");
+        drag(d, from, {from.x + 20, from.y});
+        EXPECT_EQ(open.area(items), (Rect{list.left + 20, list.top, list.right, list.bottom}));
+        EXPECT_EQ(open.area(types), (Rect{other.left, other.top, other.right + 20, other.bottom}));
+        d.mouseMove("", {from.x + 60, 3}, false);
+        EXPECT_EQ(open.area(types).right, other.right + 20) << "the button is up";
+        EXPECT_EQ(d.cursor(""), "arrow");
+
+        from = onDivider(open);
+        drag(d, from, {list.right - 10, from.y});
+        EXPECT_EQ(open.area(items).width(), 150);
+        from = onDivider(open);
+        drag(d, from, {1, from.y});
+        EXPECT_EQ(open.area(items), list);
+    });
+}
+
+TEST_F(Resizing, PlaceSizeAndDividerComeBack) {
+    Rect list;
+    std::string place;
+    run([&](Driver& d, ResizableDialog& open) {
+        const ScreenSize start = d.dialogSize();
+        d.moveDialog({40, 30});
+        d.resizeDialog({start.width + 50, start.height + 20});
+        const ScreenPoint from = onDivider(open);
+        drag(d, from, {from.x + 25, from.y});
+        list = open.area(items);
+        place = d.placement();
+    });
+    for (const char* state : {"maximized", "normal"}) {
+        run([&](Driver& d, ResizableDialog& open) {
+            EXPECT_EQ(d.placement(), place);
+            EXPECT_EQ(open.area(items), list);
+            d.setDialogState(state);
+            place = d.placement();
+            list = open.area(items);
+        });
+    }
+    run([&](Driver& d, ResizableDialog& open) {
+        EXPECT_EQ(open.area(items), list);
+        EXPECT_EQ(d.placement(), place);
+    });
+}
+
+TEST_F(Resizing, AMinimizedDialogIsLaidOutAsItWillBeSeen) {
+    for (const std::int32_t state : {8, 2}) {
+        ResizableDialog open(bench);
+        const Rect start = open.dialog->windowArea();
+        const std::int32_t stored[] = {10,
+                                       10,
+                                       start.width() + 50,
+                                       start.height() + 20,
+                                       bench.platform().screen().verticalDpi,
+                                       state,
+                                       items,
+                                       40};
+        ASSERT_TRUE(open.store.set_int_array(key, stored));
+        open.setUp();
+        EXPECT_EQ(open.dialog->placement().normal,
+                  (Rect{10, 10, start.width() + 60, start.height() + 30}));
+        EXPECT_EQ(open.area(items).width(), 190) << state;
+    }
+}
+
+TEST_F(Resizing, NothingIsSavedOfADialogThatWasNotSetUp) {
+    ResizableDialog open(bench);
+    open.resizing.savePlacement(open.store, resizeWnd::keyOf(17));
+    EXPECT_EQ(bench.read(bench.dataFolder() + "settings.dat"), std::nullopt);
+    open.resizing.initialise();
+    open.resizing.savePlacement(open.store, resizeWnd::keyOf(17));
+    const Bytes saved = bench.read(bench.dataFolder() + "settings.dat").value_or("");
+    EXPECT_NE(saved.find("#17_WINDOW_SIZE="), Bytes::npos);
+}
+
+}  // namespace
+}  // namespace lx

@@ -1,0 +1,237 @@
+// The merge as an installation calls it: which files it takes, what it asks of the host and when,
+// what is left when something goes wrong.
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "catalogue/catalogue_file.h"
+#include "entry/merge_call.h"
+#include "tests/entry/fake_modules.h"
+#include "tests/support/failing_files.h"
+#include "tests/support/memory_files.h"
+
+namespace lx {
+namespace {
+
+using Calls = std::vector<std::string>;
+
+// Notes every call, and with a release what the installed file holds then.
+class NotingHost : public FakeHost {
+public:
+    Calls calls;
+    std::function<std::string()> installed = [] { return std::string(); };
+
+    std::optional<Path> folderWithin(HostFolder id, int bufferSize) override {
+        calls.push_back("folder " + number(id) + " " + std::to_string(bufferSize));
+        return FakeHost::folderWithin(id, bufferSize);
+    }
+    int requestLock(HostResource resource, int mode) override {
+        calls.push_back("request " + number(resource) + " " + std::to_string(mode));
+        return FakeHost::requestLock(resource, mode);
+    }
+    void releaseLock(HostResource resource, int code) override {
+        calls.push_back("release " + number(resource) + " " + std::to_string(code) + installed());
+    }
+
+private:
+    template <class Number>
+    static std::string number(Number value) {
+        return std::to_string(static_cast<int>(value));
+    }
+};
+
+Bytes catalogueOf(const char* type, std::int32_t shape, const char* item, std::int32_t length) {
+    CPreklItem head;
+    head.length = shape;
+    head.designation = type;
+    head.next = std::make_unique<CPreklItem>();
+    head.next->group = 1;
+    head.next->length = length;
+    head.next->designation = item;
+    return catalogueBytes(&head);
+}
+
+struct MergeCall : testing::Test {
+    MemoryFiles files;
+    NotingHost host;
+    const Path precast = "K/LXDATA6.DAT";
+    const Path steel = "K/LXDATA6S.DAT";
+    const Path library = "K/preklady.bk6";
+    const Bytes old = catalogueOf("T", 7, "i", 100);
+    const Bytes brought = catalogueOf("T", 9, "i", 200);
+    const Bytes updated = catalogueOf("T", 7, "i", 200);
+    const Calls lockedCatalogue{"folder 3 1024", "request 3 9", "release 3 4"};
+    const Calls lockedLibrary{"folder 3 1024", "request 2 9", "release 2 4"};
+
+    MergeCall() {
+        host.catalogue = "K/";
+        host.library = "L/";
+        for (const Path& path : {precast, steel}) files.content[path] = old;
+        files.content["new/LXDATA6.DAT"] = files.content["new/LXDATA6S.DAT"] = brought;
+        files.content["new/x.bk6"] = "supplied";
+    }
+    int call(const Path& source, const Path& folder, int mode) {
+        host.calls.clear();
+        return mergeCall(files, host, {source, folder, mode});
+    }
+};
+
+TEST_F(MergeCall, TheEndOfTheNameChoosesTheCatalogue) {
+    EXPECT_EQ(call("new/LXDATA6S.DAT", "", LX_MERGE_CATALOGUE), LX_MERGE_DONE);
+    EXPECT_EQ(files.content[steel], updated);
+    EXPECT_EQ(files.content[precast], old);
+    files.content["new/lxdata6s.dat"] = catalogueOf("T", 0, "j", 0);
+    EXPECT_EQ(call("new/lxdata6s.dat", "", LX_MERGE_CATALOGUE), LX_MERGE_DONE);
+    EXPECT_NE(files.content[precast].find("j"), Bytes::npos);
+    EXPECT_EQ(files.content[steel], updated);
+    EXPECT_EQ(files.content.size(), 6U) << "nothing is left beside";
+
+    // Only a steel catalogue is read with its rule for a missing shape.
+    files.content["S.DAT"] = files.content["xLXDATA6S.DAT"] = catalogueOf("N", 0, "n", 5);
+    files.content["P/LXDATA6S.DAT"] = files.content["P/LXDATA6.DAT"] = "";
+    EXPECT_EQ(call("xLXDATA6S.DAT", "P", LX_MERGE_CATALOGUE), LX_MERGE_DONE);
+    EXPECT_EQ(files.content["P/LXDATA6S.DAT"], catalogueOf("N", 1, "n", 5));
+    EXPECT_EQ(call("S.DAT", "P", LX_MERGE_CATALOGUE), LX_MERGE_DONE);
+    EXPECT_EQ(files.content["P/LXDATA6.DAT"], catalogueOf("N", 0, "n", 5));
+}
+
+TEST_F(MergeCall, WithoutAFolderTheHostTellsItAndLocks) {
+    host.installed = [this] { return files.content[precast] == updated ? "" : " too early"; };
+    EXPECT_EQ(call("new/LXDATA6.DAT", "", LX_MERGE_CATALOGUE), LX_MERGE_DONE);
+    EXPECT_EQ(host.calls, lockedCatalogue) << "released after the catalogue is saved";
+    host.installed = [this] { return files.content[library] == "supplied" ? "" : " too early"; };
+    EXPECT_EQ(call("new/x.bk6", "", LX_MERGE_LIBRARY), LX_MERGE_DONE);
+    EXPECT_EQ(host.calls, lockedLibrary);
+}
+
+TEST_F(MergeCall, WithAFolderTheEndAloneIsTold) {
+    files.content["P\\LXDATA6.DAT"] = old;
+    EXPECT_EQ(call("new/LXDATA6.DAT", "K", LX_MERGE_CATALOGUE), LX_MERGE_DONE);
+    EXPECT_EQ(host.calls, Calls{"release 3 4"});
+    EXPECT_EQ(call("new/LXDATA6.DAT", "P\\", LX_MERGE_CATALOGUE), LX_MERGE_DONE);
+    EXPECT_EQ(files.content["P\\LXDATA6.DAT"], updated);
+    EXPECT_EQ(call("new/x.bk6", "K/", LX_MERGE_LIBRARY), LX_MERGE_DONE);
+    EXPECT_EQ(host.calls, Calls{"release 2 4"});
+    EXPECT_EQ(files.content["K/PREKLADY.BK6"], "supplied");
+    host.hasServices = false;
+    EXPECT_EQ(call("new/LXDATA6.DAT", "K", LX_MERGE_CATALOGUE), LX_MERGE_DONE);
+    EXPECT_EQ(host.calls, Calls{});
+}
+
+TEST_F(MergeCall, WhatIsRefusedTouchesNothing) {
+    const auto before = files.content;
+    EXPECT_EQ(call("", "", 1), LX_MERGE_NO_SOURCE) << "the name is looked at before the mode";
+    for (const int mode : {1, 4, 0, -3}) {
+        EXPECT_EQ(call("new/LXDATA6.DAT", "", mode), LX_MERGE_UNKNOWN_MODE);
+    }
+    EXPECT_EQ(host.calls, Calls{});
+    for (const int mode : {LX_MERGE_LIBRARY, LX_MERGE_CATALOGUE}) {
+        const std::string resource = std::to_string(mode);
+        host.lockAnswer = {{HostResource::library, 2}, {HostResource::catalogue, 2}};
+        EXPECT_EQ(call("new/x.bk6", "", mode), LX_MERGE_NO_TARGET);
+        EXPECT_EQ(host.calls, (Calls{"folder 3 1024", "request " + resource + " 9",
+                                     "release " + resource + " 2"}));
+        for (const int answer : {0, 3, -1}) {
+            host.lockAnswer = {{HostResource::library, answer}, {HostResource::catalogue, answer}};
+            EXPECT_EQ(call("new/x.bk6", "", mode), LX_MERGE_NO_TARGET);
+            EXPECT_EQ(host.calls, (Calls{"folder 3 1024", "request " + resource + " 9"}));
+        }
+    }
+    host.catalogue.reset();
+    EXPECT_EQ(call("new/LXDATA6.DAT", "", LX_MERGE_CATALOGUE), LX_MERGE_NO_TARGET);
+    EXPECT_EQ(host.calls, Calls{"folder 3 1024"});
+    host.hasServices = false;
+    EXPECT_EQ(call("new/LXDATA6.DAT", "", LX_MERGE_CATALOGUE), LX_MERGE_NO_TARGET);
+    EXPECT_EQ(host.calls, Calls{});
+    EXPECT_EQ(files.content, before);
+}
+
+TEST_F(MergeCall, FilesThatCannotBeReadEndItAndFreeWhatWasTaken) {
+    const auto before = files.content;
+    EXPECT_EQ(call("new/none.bk6", "", LX_MERGE_LIBRARY), LX_MERGE_NO_SOURCE);
+    EXPECT_EQ(host.calls, lockedLibrary);
+    EXPECT_EQ(call("new/none.bk6", "K", LX_MERGE_LIBRARY), LX_MERGE_NO_SOURCE);
+    EXPECT_EQ(host.calls, Calls{"release 2 4"});
+
+    EXPECT_EQ(call("new/none.DAT", "", LX_MERGE_CATALOGUE), LX_MERGE_NO_SOURCE);
+    EXPECT_EQ(host.calls, lockedCatalogue);
+    EXPECT_EQ(call("new/none.DAT", "K", LX_MERGE_CATALOGUE), LX_MERGE_NO_SOURCE);
+    EXPECT_EQ(host.calls, Calls{}) << "no lock was taken";
+    EXPECT_EQ(files.content, before);
+
+    files.locked = {precast};
+    for (const char* source : {"new/LXDATA6.DAT", "new/none.DAT"}) {
+        EXPECT_EQ(call(source, "", LX_MERGE_CATALOGUE), LX_MERGE_NO_TARGET);
+        EXPECT_EQ(host.calls, lockedCatalogue);
+        EXPECT_EQ(call(source, "K", LX_MERGE_CATALOGUE), LX_MERGE_NO_TARGET);
+        EXPECT_EQ(host.calls, Calls{});
+        EXPECT_EQ(call(source, "nowhere", LX_MERGE_CATALOGUE), LX_MERGE_NO_TARGET);
+    }
+    EXPECT_EQ(files.content, before) << "a missing catalogue is not made";
+}
+
+TEST_F(MergeCall, WhatCannotBeWrittenStaysWhole) {
+    files.content[library] = "installed";
+    files.readOnly = true;
+    EXPECT_EQ(call("new/LXDATA6.DAT", "", LX_MERGE_CATALOGUE), LX_MERGE_NO_TARGET);
+    EXPECT_EQ(host.calls, lockedCatalogue);
+    EXPECT_EQ(files.content[precast], old);
+    EXPECT_EQ(call("new/x.bk6", "", LX_MERGE_LIBRARY), LX_MERGE_NO_TARGET);
+    EXPECT_EQ(host.calls, lockedLibrary);
+    EXPECT_EQ(files.content[library], "installed");
+}
+
+TEST_F(MergeCall, ADamagedCatalogueIsKeptAside) {
+    const Bytes damaged = old + "cut";
+    files.content[precast] = damaged;
+    for (int failAt = 3; failAt <= 4; ++failAt) {
+        FailingFiles failing(files, failAt);
+        EXPECT_EQ(mergeCall(failing, host, {"new/LXDATA6.DAT", "", LX_MERGE_CATALOGUE}),
+                  LX_MERGE_NO_TARGET);
+        EXPECT_EQ(files.content[precast], damaged);
+    }
+    EXPECT_EQ(call("new/LXDATA6.DAT", "", LX_MERGE_CATALOGUE), LX_MERGE_DONE);
+    EXPECT_EQ(files.content[precast + ".bak"], damaged);
+    EXPECT_EQ(files.content[precast], updated);
+}
+
+// ---- through the export, on real files
+
+struct MergeExport : testing::Test {
+    LoadedModule module;
+    Bench& bench() { return module.bench; }
+};
+
+TEST_F(MergeExport, MergesUnderTheHostsLock) {
+    const Path target = bench().catalogueFolder() + "LXDATA6S.DAT";
+    const Path source = bench().folder() + "LXDATA6S.DAT";
+    bench().write(target, catalogueOf("T", 7, "i", 100));
+    bench().write(source, catalogueOf("T", 9, "i", 200));
+    hostSide().sizesGiven.clear();
+    EXPECT_EQ(mergeLibraryFiles(nullptr, source.c_str(), nullptr, 3), LX_MERGE_DONE);
+    EXPECT_EQ(bench().read(target), catalogueOf("T", 7, "i", 200));
+    EXPECT_EQ(hostSide().sizesGiven, std::vector<int>{1024});
+    EXPECT_EQ(hostSide().lockCalls, (std::vector<std::pair<int, int>>{{3, 9}, {3, 4}}));
+    EXPECT_EQ(mergeLibraryFiles(nullptr, source.c_str(), "", 3), LX_MERGE_DONE)
+        << "an empty folder is none";
+    EXPECT_EQ(hostSide().lockCalls.size(), 4U);
+    EXPECT_EQ(mergeLibraryFiles(nullptr, nullptr, nullptr, 3), LX_MERGE_NO_SOURCE);
+}
+
+TEST_F(MergeExport, ALibraryIsNotReplacedByItself) {
+    const Path target = bench().catalogueFolder() + "preklady.bk6";
+    bench().write(target, "library");
+    const Path sameFile = bench().catalogueFolder() + ".." + folderSeparator + "catalogue" +
+                          folderSeparator + "preklady.bk6";
+    EXPECT_EQ(mergeLibraryFiles(nullptr, sameFile.c_str(), nullptr, 2), LX_MERGE_NO_TARGET);
+    EXPECT_EQ(hostSide().lockCalls, (std::vector<std::pair<int, int>>{{2, 9}, {2, 4}}));
+    const Path other = bench().folder() + "preklady.bk6";
+    bench().write(other, std::string("new\0library", 11));
+    EXPECT_EQ(mergeLibraryFiles(nullptr, other.c_str(), nullptr, 2), LX_MERGE_DONE);
+    EXPECT_EQ(bench().read(target), std::string("new\0library", 11));
+    EXPECT_EQ(mergeLibraryFiles(nullptr, bench().folder().c_str(), nullptr, 2), LX_MERGE_NO_SOURCE)
+        << "a folder is no file";
+}
+
+}  // namespace
+}  // namespace lx
