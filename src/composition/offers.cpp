@@ -4,6 +4,7 @@
 #include <functional>
 #include <numeric>
 #include <string_view>
+#include <unordered_set>
 #include <utility>
 
 #include "composition/bearing.h"
@@ -61,6 +62,23 @@ std::string_view takeDigits(std::string_view text, std::size_t& position) {
     return text.substr(begin, position - begin);
 }
 
+// Equal for elements that are the same product. One whose length follows the opening is known by
+// its length in the catalogue.
+Text identity(const CRez& element) {
+    Text text(element.nameOrEmpty());
+    std::transform(text.begin(), text.end(), text.begin(), [](char c) {
+        return static_cast<char>(lowerCase(static_cast<unsigned char>(c)));
+    });
+    const std::int64_t length =
+        element.bearing != 0 ? -std::int64_t{element.bearing} : element.length;
+    for (const std::int64_t value :
+         {std::int64_t{element.width}, std::int64_t{element.height}, length,
+          std::int64_t{element.weight}, std::int64_t{element.maxOpening}}) {
+        text.append(1, '\0').append(formatInt(value));
+    }
+    return text.append(1, element.letter);
+}
+
 unsigned char lowerAt(std::string_view text, std::size_t position) {
     return lowerCase(static_cast<unsigned char>(text[position]));
 }
@@ -101,6 +119,17 @@ RezChain buildPrecastOffer(const CPreklItem* catalogue, std::int32_t type, doubl
         candidates.push_back(std::move(candidate));
     }
     return withoutOversized(std::move(candidates));
+}
+
+void addPicked(RezChain& offer, const std::vector<const CPreklItem*>& picked) {
+    std::unordered_set<Text> known;
+    for (const CRez* record = offer.head(); record; record = record->next) {
+        known.insert(identity(*record));
+    }
+    for (const CPreklItem* item : picked) {
+        auto record = offerRecord(*item, 0, 0, kind::precast);
+        if (known.insert(identity(*record)).second) offer.append(std::move(record));
+    }
 }
 
 RezChain buildSteelOffer(const CPreklItem* catalogue, std::int32_t type, std::int32_t headLength,

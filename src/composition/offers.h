@@ -14,6 +14,9 @@ RezChain buildPrecastOffer(const CPreklItem* catalogue, std::int32_t type, doubl
                            std::int32_t headLength,
                            const std::vector<const CPreklItem*>& chosen = {});
 // headBearing: the head's maxOpening; 0 gives opening + 300.
+// Appends the picked items to a precast offer, each as it stands in the catalogue; those that the
+// offer holds already, the same in all but the letter case of the designation, are left out.
+void addPicked(RezChain& offer, const std::vector<const CPreklItem*>& picked);
 RezChain buildSteelOffer(const CPreklItem* catalogue, std::int32_t type, std::int32_t headLength,
                          std::int32_t headBearing);
 // The record that a catalogue item becomes, its length not yet following the opening.

@@ -101,13 +101,13 @@ std::int32_t DesignModel::headLength() const {
     return head() ? head()->length : 0;
 }
 
-void DesignModel::rebuildPrecastOffer(int type) {
-    if (type < 0) {
-        m_precastOffer = Offer();
-        return;
+void DesignModel::rebuildPrecastOffer(int type, const std::vector<const CPreklItem*>& picked) {
+    RezChain records;
+    if (type >= 0) {
+        records = buildPrecastOffer(m_values.precast.get(), type, m_values.openingWidth,
+                                    headLength(), picked);
     }
-    RezChain records =
-        buildPrecastOffer(m_values.precast.get(), type, m_values.openingWidth, headLength());
+    addPicked(records, picked);
     const std::vector<int> order = offerOrder(records);
     m_precastOffer = Offer(std::move(records), order);
 }

@@ -51,7 +51,9 @@ public:
     bool ComposeSteel();
 
     // ---- catalogues and offers
-    void rebuildPrecastOffer(int type);
+    // picked: catalogue items that the user has just chosen. They stay however oversized, and
+    // those of other types join the offer.
+    void rebuildPrecastOffer(int type, const std::vector<const CPreklItem*>& picked = {});
     void rebuildSteelOffer(int type);
     Offer& precastOffer() { return m_precastOffer; }
     Offer& steelOffer() { return m_steelOffer; }

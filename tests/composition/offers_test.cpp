@@ -117,6 +117,30 @@ TEST(SteelOffer, TakesShapeAndLengthAndLeavesOutTheOversized) {
     EXPECT_EQ(buildSteelOffer(head, 0, 1500, 0).last()->kind, 0);
 }
 
+TEST(PrecastOffer, PickedItemsJoinUnlessTheyAreOfferedAlready) {
+    Builder catalogue;
+    catalogue.add(-1, 0);
+    CPreklItem* plain = catalogue.add(1, 1200);
+    CPreklItem* oversized = catalogue.add(1, 3000);
+    CPreklItem* following = catalogue.add(1, 3500);
+    following->length = -250;
+    catalogue.add(-2, 0);
+    CPreklItem* same = catalogue.add(2, 1200);
+    same->designation = "MAX 1200";
+    CPreklItem* other = catalogue.add(2, 1200);
+    other->width = plain->width + 1;
+    CPreklItem* alike = catalogue.add(3, 3500);
+    alike->length = -250;
+    const std::vector<const CPreklItem*> picked{plain, oversized, following, same,
+                                                other, other,     alike};
+    RezChain offer = buildPrecastOffer(catalogue.head.get(), 0, 1200, 1200, picked);
+    EXPECT_EQ(shown(offer), "0:1200 1:3000 2:3500 ");
+    addPicked(offer, picked);
+    EXPECT_EQ(shown(offer), "0:1200 1:3000 2:3500 0:1200 ");
+    EXPECT_EQ(offer.last()->width, other->width);
+    EXPECT_EQ(offer.last()->bearing, 0);
+}
+
 TEST(OfferOrder, NumbersStandByValueAndCaseDoesNotCount) {
     const char* ascending[] = {"",         "7/? x",   "750", "1000", "KP 7",    "kp 7/75",
                                "KP 7/100", "KP 12/1", "kpa", "\xC8", "\xE8\x62"};

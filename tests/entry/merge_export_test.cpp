@@ -89,9 +89,9 @@ TEST_F(MergeCall, TheEndOfTheNameChoosesTheCatalogue) {
     // Only a steel catalogue is read with its rule for a missing shape.
     files.content["S.DAT"] = files.content["xLXDATA6S.DAT"] = catalogueOf("N", 0, "n", 5);
     files.content["P/LXDATA6S.DAT"] = files.content["P/LXDATA6.DAT"] = "";
-    EXPECT_EQ(call("xLXDATA6S.DAT", "P", LX_MERGE_CATALOGUE), LX_MERGE_DONE);
+    EXPECT_EQ(call("xLXDATA6S.DAT", "P/", LX_MERGE_CATALOGUE), LX_MERGE_DONE);
     EXPECT_EQ(files.content["P/LXDATA6S.DAT"], catalogueOf("N", 1, "n", 5));
-    EXPECT_EQ(call("S.DAT", "P", LX_MERGE_CATALOGUE), LX_MERGE_DONE);
+    EXPECT_EQ(call("S.DAT", "P/", LX_MERGE_CATALOGUE), LX_MERGE_DONE);
     EXPECT_EQ(files.content["P/LXDATA6.DAT"], catalogueOf("N", 0, "n", 5));
 }
 
@@ -106,7 +106,9 @@ TEST_F(MergeCall, WithoutAFolderTheHostTellsItAndLocks) {
 
 TEST_F(MergeCall, WithAFolderTheEndAloneIsTold) {
     files.content["P\\LXDATA6.DAT"] = old;
-    EXPECT_EQ(call("new/LXDATA6.DAT", "K", LX_MERGE_CATALOGUE), LX_MERGE_DONE);
+    files.content["Q" + std::string(separator) + "LXDATA6.DAT"] = old;
+    EXPECT_EQ(call("new/LXDATA6.DAT", "Q", LX_MERGE_CATALOGUE), LX_MERGE_DONE);
+    EXPECT_EQ(call("new/LXDATA6.DAT", "K/", LX_MERGE_CATALOGUE), LX_MERGE_DONE);
     EXPECT_EQ(host.calls, Calls{"release 3 4"});
     EXPECT_EQ(call("new/LXDATA6.DAT", "P\\", LX_MERGE_CATALOGUE), LX_MERGE_DONE);
     EXPECT_EQ(files.content["P\\LXDATA6.DAT"], updated);
@@ -114,7 +116,7 @@ TEST_F(MergeCall, WithAFolderTheEndAloneIsTold) {
     EXPECT_EQ(host.calls, Calls{"release 2 4"});
     EXPECT_EQ(files.content["K/PREKLADY.BK6"], "supplied");
     host.hasServices = false;
-    EXPECT_EQ(call("new/LXDATA6.DAT", "K", LX_MERGE_CATALOGUE), LX_MERGE_DONE);
+    EXPECT_EQ(call("new/LXDATA6.DAT", "K/", LX_MERGE_CATALOGUE), LX_MERGE_DONE);
     EXPECT_EQ(host.calls, Calls{});
 }
 
@@ -150,12 +152,12 @@ TEST_F(MergeCall, FilesThatCannotBeReadEndItAndFreeWhatWasTaken) {
     const auto before = files.content;
     EXPECT_EQ(call("new/none.bk6", "", LX_MERGE_LIBRARY), LX_MERGE_NO_SOURCE);
     EXPECT_EQ(host.calls, lockedLibrary);
-    EXPECT_EQ(call("new/none.bk6", "K", LX_MERGE_LIBRARY), LX_MERGE_NO_SOURCE);
+    EXPECT_EQ(call("new/none.bk6", "K/", LX_MERGE_LIBRARY), LX_MERGE_NO_SOURCE);
     EXPECT_EQ(host.calls, Calls{"release 2 4"});
 
     EXPECT_EQ(call("new/none.DAT", "", LX_MERGE_CATALOGUE), LX_MERGE_NO_SOURCE);
     EXPECT_EQ(host.calls, lockedCatalogue);
-    EXPECT_EQ(call("new/none.DAT", "K", LX_MERGE_CATALOGUE), LX_MERGE_NO_SOURCE);
+    EXPECT_EQ(call("new/none.DAT", "K/", LX_MERGE_CATALOGUE), LX_MERGE_NO_SOURCE);
     EXPECT_EQ(host.calls, Calls{}) << "no lock was taken";
     EXPECT_EQ(files.content, before);
 
@@ -163,7 +165,7 @@ TEST_F(MergeCall, FilesThatCannotBeReadEndItAndFreeWhatWasTaken) {
     for (const char* source : {"new/LXDATA6.DAT", "new/none.DAT"}) {
         EXPECT_EQ(call(source, "", LX_MERGE_CATALOGUE), LX_MERGE_NO_TARGET);
         EXPECT_EQ(host.calls, lockedCatalogue);
-        EXPECT_EQ(call(source, "K", LX_MERGE_CATALOGUE), LX_MERGE_NO_TARGET);
+        EXPECT_EQ(call(source, "K/", LX_MERGE_CATALOGUE), LX_MERGE_NO_TARGET);
         EXPECT_EQ(host.calls, Calls{});
         EXPECT_EQ(call(source, "nowhere", LX_MERGE_CATALOGUE), LX_MERGE_NO_TARGET);
     }
