@@ -56,12 +56,12 @@ void takeSamples(PlayContext& context, const Words&) {
 
 // Another program makes it meanwhile.
 void awaitFile(PlayContext& context, const Words& words) {
-    constexpr auto step = std::chrono::milliseconds(20);
-    constexpr int most = 3000;
+    constexpr int step = 20;  // ms
+    const int most = 6 * context.driver.limit() / step;
     const fs::path file = context.folders.path(words[0]);
     for (int tries = 0; !fs::exists(file); ++tries) {
         if (tries == most) throw std::runtime_error("nobody made " + words[0]);
-        std::this_thread::sleep_for(step);
+        std::this_thread::sleep_for(std::chrono::milliseconds(step));
     }
 }
 
