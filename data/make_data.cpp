@@ -162,7 +162,7 @@ void saveChecked(const Catalogue& catalogue, CatalogueKind kind, const Path& pat
         throw std::runtime_error(path + ": cannot be written");
     }
     const LoadedCatalogue loaded = loadCatalogue(kind, path, systemFiles());
-    if (!loaded.opened || loaded.damaged ||
+    if (!loaded.opened || loaded.state.damaged ||
         catalogueBytes(loaded.head.get()) != catalogueBytes(catalogue.get())) {
         throw std::runtime_error(path + ": does not read back as it was written");
     }

@@ -183,8 +183,10 @@ int LX_STDCALL CallLXdata6(void* parent, int32_t unused2, int32_t unused3, int32
                            char* resultText, int32_t* resultA, int32_t* resultB,
                            OpeningBlock opening, int32_t exteriorSide);
 
-/* Opens the catalogue browser and returns its result. This version has no browser: it answers
- * LX_DIALOG_CANCEL. */
+/* Lets the user choose one of the two catalogues and opens it in the catalogue browser. Returns
+ * LX_DIALOG_OK (also when no catalogue was chosen), LX_DIALOG_CANCEL (also when the catalogue's file
+ * cannot be opened) or LX_DIALOG_FAILED. Asks the host for the lock on the catalogues, without which
+ * nothing can be changed. */
 int LX_STDCALL CallLXdata6Base(void* parent);
 
 /* Asks in the erase dialog which drawn elements of a lintel are to be erased. Returns

@@ -72,13 +72,19 @@ CatalogueRead parseCatalogue(CatalogueKind kind, std::string_view bytes) {
     for (;;) {
         auto record = std::make_unique<CPreklItem>();
         if (!readRecord(*record, reader, result.damaged)) break;
-        // A section without a shape number would be offered as a precast lintel.
-        if (kind == CatalogueKind::steel && record->length == 0) record->length = 1;
         *end = std::move(record);
         end = &(*end)->next;
     }
     if (reader.cutShort() || !reader.atEnd()) result.damaged = true;
+    completeShapes(kind, result.head.get());
     return result;
+}
+
+void completeShapes(CatalogueKind kind, CPreklItem* head) {
+    if (kind != CatalogueKind::steel) return;
+    for (CPreklItem* record = head; record; record = record->next.get()) {
+        if (record->length == 0) record->length = 1;
+    }
 }
 
 Bytes catalogueBytes(const CPreklItem* head) {
@@ -100,20 +106,25 @@ LoadedCatalogue loadCatalogue(CatalogueKind kind, const Path& path, Files& files
     const FileRead file = files.read(path);
     if (file.status == ReadStatus::missing) {
         result.opened = files.createEmpty(path);
+        result.state = stateOf({}, false);
         return result;
     }
     if (file.status == ReadStatus::failed || !files.writable(path)) return result;
     CatalogueRead read = parseCatalogue(kind, file.bytes);
     result.opened = true;
     result.head = std::move(read.head);
-    result.damaged = read.damaged;
+    result.state = stateOf(file.bytes, read.damaged);
     return result;
 }
 
 int saveCatalogueAs(const CPreklItem* head, const Path& path, Files& files, bool keepOld) {
+    return writeCatalogue(catalogueBytes(head), path, files, keepOld);
+}
+
+int writeCatalogue(std::string_view bytes, const Path& path, Files& files, bool keepOld) {
     constexpr int notAccessible = -5;
-    if (keepOld && files.exists(path) && !files.keepAsBackup(path)) return notAccessible;
-    return files.replace(path, catalogueBytes(head)) ? 0 : notAccessible;
+    if (keepOld && !files.keepAsBackup(path)) return notAccessible;
+    return files.replace(path, bytes) ? 0 : notAccessible;
 }
 
 Catalogue copyCatalogue(const CPreklItem* head) {

@@ -1,6 +1,7 @@
 // The two catalogue files: where they are, how they are read and written.
 #pragma once
 
+#include "catalogue/catalogue_state.h"
 #include "catalogue/records.h"
 #include "platform/binary.h"
 #include "platform/files.h"
@@ -27,17 +28,18 @@ struct CatalogueRead {
     Catalogue head;
     bool damaged = false;  // cut short, or a text too long
 };
-// Every whole record, in file order. For steel a length of exactly 0 becomes 1.
+// Every whole record, in file order, with its shape completed.
 CatalogueRead parseCatalogue(CatalogueKind kind, std::string_view bytes);
+// A steel record without a shape number would be offered as a precast lintel: it gets shape 1.
+void completeShapes(CatalogueKind kind, CPreklItem* head);
 Bytes catalogueBytes(const CPreklItem* head);
 
 // Opens the file of that path, creating it empty when it does not exist, and loads it. False (and
-// head stays) when it can be neither read nor created, or not written at all. Remembers in damaged
-// whether the next save must keep the old file as .bak.
+// head stays) when it can be neither read nor created, or not written at all.
 struct LoadedCatalogue {
     bool opened = false;
     Catalogue head;
-    bool damaged = false;
+    CatalogueState state;
 };
 LoadedCatalogue loadCatalogue(CatalogueKind kind, const Path& path, Files& files);
 
@@ -45,6 +47,8 @@ LoadedCatalogue loadCatalogue(CatalogueKind kind, const Path& path, Files& files
 // keepOld: the file on disk loaded with damage and is kept as .bak first; when that fails nothing
 // is written, -5.
 int saveCatalogueAs(const CPreklItem* head, const Path& path, Files& files, bool keepOld = false);
+// The same with the file's bytes.
+int writeCatalogue(std::string_view bytes, const Path& path, Files& files, bool keepOld);
 
 Catalogue copyCatalogue(const CPreklItem* head);
 

@@ -13,7 +13,8 @@ namespace lx {
 
 namespace {
 
-constexpr std::size_t labelField = 4;  // bytes
+constexpr std::size_t lengthField = 4;  // bytes
+constexpr std::size_t labelField = 4;
 constexpr std::size_t labelLength = 3;
 constexpr std::int32_t entryHeader = 8;           // bytes of project id and label
 constexpr std::size_t smallestEntry = 12;         // bytes, its length field included
@@ -27,13 +28,14 @@ Bytes int32Bytes(std::int32_t value) {
     return writer.take();
 }
 
-// Where the project ids of the entries stand; an empty label stands for every label.
-Positions entriesOf(std::string_view bytes, std::int32_t project, std::string_view label) {
+// Where the project ids of the entries stand; no label stands for every label.
+Positions entriesOf(std::string_view bytes, std::int32_t project,
+                    std::optional<std::string_view> label) {
     Positions positions;
     if (project == deletedProject) return positions;
     LibraryEntries entries(bytes);
     while (entries.next()) {
-        if (entries.project() == project && (label.empty() || entries.label() == label)) {
+        if (entries.project() == project && (!label || entries.label() == *label)) {
             positions.push_back(entries.projectPosition());
         }
     }
@@ -58,8 +60,9 @@ bool markDeleted(const Path& path, const Positions& positions, Files& files) {
     return files.replace(path, file.bytes);
 }
 
-// The finished entry; empty when it is too long for its length field.
-Bytes entryBytes(std::int32_t project, const CRez& head) {
+// A deleted entry, which its project id makes a valid one; empty when it is too long for its length
+// field.
+Bytes unsealedEntry(const CRez& head) {
     BinaryWriter design;
     writeDesign(&head, design);
     constexpr std::size_t longest = std::numeric_limits<std::int32_t>::max() - entryHeader;
@@ -68,38 +71,53 @@ Bytes entryBytes(std::int32_t project, const CRez& head) {
     label.resize(labelField, '\0');
     BinaryWriter entry;
     entry.int32(entryHeader + static_cast<std::int32_t>(design.bytes().size()));
-    entry.int32(project);
+    entry.int32(deletedProject);
     entry.raw(label);
     entry.raw(design.bytes());
     return entry.take();
 }
 
-// How a torn tail becomes a deleted entry of its own: what stands over its first bytes, and what
-// must be appended behind it where it is too short even for that.
+// How a torn tail becomes an entry of its own: what stands over its first bytes, and what must be
+// appended behind it where it is too short even for that.
 struct Closing {
     Bytes over;
     Bytes behind;
 };
 
-Closing closing(std::size_t tailSize) {
-    const std::size_t size = std::max(tailSize, smallestEntry);
+// A tail with a whole head stays that design, as far as it can be read; any other becomes a deleted
+// entry.
+bool holdsDesign(std::string_view tail) {
+    if (tail.size() <= smallestEntry) return false;
+    BinaryReader reader(tail.substr(smallestEntry));
+    return readDesign(reader).headWhole;
+}
+
+Closing closing(std::string_view tail) {
+    const std::size_t size = std::max(tail.size(), smallestEntry);
     BinaryWriter writer;
     writer.int32(static_cast<std::int32_t>(size - sizeof(std::int32_t)));
-    writer.int32(deletedProject);
+    if (!holdsDesign(tail)) writer.int32(deletedProject);
     Bytes start = writer.take();
-    if (tailSize >= smallestEntry) return {std::move(start), {}};
+    if (tail.size() >= smallestEntry) return {std::move(start), {}};
     start.resize(smallestEntry, '\0');
-    return {start.substr(0, tailSize), start.substr(tailSize)};
+    return {start.substr(0, tail.size()), start.substr(tail.size())};
+}
+
+// Readers see the entry once it is whole.
+bool appendEntry(const Path& path, std::int32_t project, const Bytes& before, const Bytes& entry,
+                 Files& files) {
+    const Bytes id = int32Bytes(project);
+    return files.append(path, before + entry, {before.size() + lengthField, id});
 }
 
 bool appendBehindTornTail(const Path& path, std::string_view bytes, std::size_t tornStart,
-                          const Bytes& entry, Files& files) {
+                          std::int32_t project, const Bytes& entry, Files& files) {
     const std::size_t tailSize = bytes.size() - tornStart;
     if (tailSize > std::numeric_limits<std::int32_t>::max()) return false;
     if (!files.keepAsBackup(path)) return false;
-    const Closing closed = closing(tailSize);
+    const Closing closed = closing(bytes.substr(tornStart));
     if (!files.overwrite(path, tornStart, closed.over)) return false;
-    if (files.append(path, closed.behind + entry)) return true;
+    if (appendEntry(path, project, closed.behind, entry, files)) return true;
     // The tail's own records stay readable when nothing could be put behind it.
     files.overwrite(path, tornStart, bytes.substr(tornStart, closed.over.size()));
     return false;
@@ -159,7 +177,7 @@ bool appendDesign(const Path& path, std::int32_t project, const CRez& head,
                   std::string_view replaceLabel, Files& files) {
     if (project == deletedProject) return false;
     const FileRead file = files.read(path);
-    const Bytes entry = entryBytes(project, head);
+    const Bytes entry = unsealedEntry(head);
     if (file.status == ReadStatus::failed || entry.empty()) return false;
 
     Positions older;
@@ -168,21 +186,18 @@ bool appendDesign(const Path& path, std::int32_t project, const CRez& head,
     while (entries.next()) {
     }
     const bool appended =
-        entries.torn() ? appendBehindTornTail(path, file.bytes, entries.tornStart(), entry, files)
-                       : files.append(path, entry);
+        entries.torn()
+            ? appendBehindTornTail(path, file.bytes, entries.tornStart(), project, entry, files)
+            : appendEntry(path, project, {}, entry, files);
     if (appended) markDeleted(path, older, files);
     return appended;
 }
 
-bool deleteEntries(const Path& path, std::int32_t project, std::string_view label, Files& files) {
+bool deleteEntries(const Path& path, std::int32_t project, std::optional<std::string_view> label,
+                   Files& files) {
     const FileRead file = files.read(path);
     const Positions positions = entriesOf(file.bytes, project, label);
-    if (positions.empty()) return false;
-    LibraryEntries entries(file.bytes);
-    while (entries.next()) {
-    }
-    if (entries.torn() && !files.keepAsBackup(path)) return false;
-    return markDeleted(path, positions, files);
+    return !positions.empty() && markDeleted(path, positions, files);
 }
 
 }  // namespace lx

@@ -2,6 +2,7 @@
 // Entries are only appended; a deleted one keeps its bytes and gets the project id -1.
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "composition/records.h"
@@ -37,17 +38,19 @@ LibraryRead parseLibrary(std::string_view bytes, std::int32_t project);
 bool findStoredSame(const Path& path, std::int32_t project, std::string_view label,
                     const CRez& head, Size preview, Files& files);
 
-// Appends the finished entry in one write, then marks the entries of that project and replaceLabel
-// that were there before it deleted (none when replaceLabel is empty). A torn tail is first closed
-// off where it stands, after keeping the file as .bak. False when the entry could not be appended;
+// Appends the entry, which readers see whole or not at all, then marks the entries of that project
+// and replaceLabel that were there before it deleted (none when replaceLabel is empty). A torn tail
+// is first closed off where it stands, after keeping the file as .bak; it stays an entry when a
+// design can be read from it. False when the entry could not be appended;
 // the file then reads as before. An older entry that could not be marked stays beside the new one.
 bool appendDesign(const Path& path, std::int32_t project, const CRez& head,
                   std::string_view replaceLabel, Files& files);
 
-// Marks entries of the project with that label deleted, all of the project's when the label is
-// empty. True when at least one was marked. A damaged file is kept as .bak first; when that fails
-// nothing is marked.
-bool deleteEntries(const Path& path, std::int32_t project, std::string_view label, Files& files);
+// Marks entries of the project with that label deleted, which may be empty in a file from
+// elsewhere; without a label all of the project's. True when at least one was marked. Their bytes
+// stay in the file.
+bool deleteEntries(const Path& path, std::int32_t project, std::optional<std::string_view> label,
+                   Files& files);
 
 // Padded with blanks to at least 3 bytes.
 Text paddedLabel(std::string_view label);

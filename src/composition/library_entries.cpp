@@ -8,22 +8,27 @@ namespace lx {
 
 namespace {
 constexpr std::size_t lengthField = 4;
+constexpr std::size_t projectField = 4;
 constexpr std::size_t entryHeader = 8;  // project id and label, counted by the length
 constexpr std::size_t labelLength = 3;
 }  // namespace
 
 bool LibraryEntries::next() {
-    if (m_next >= m_bytes.size()) return false;
-    m_start = m_next;
-    m_torn = true;
-    const std::string_view rest = m_bytes.substr(m_start);
-    if (rest.size() < lengthField) return false;
-    const std::int32_t length = BinaryReader(rest).int32();
-    if (length < static_cast<std::int32_t>(entryHeader)) return false;
-    m_body = rest.substr(lengthField, static_cast<std::size_t>(length));
-    m_torn = m_body.size() < static_cast<std::size_t>(length);
-    m_next = m_start + lengthField + m_body.size();
-    return m_body.size() >= entryHeader;
+    while (m_next < m_bytes.size()) {
+        m_start = m_next;
+        m_torn = true;
+        const std::string_view rest = m_bytes.substr(m_start);
+        if (rest.size() < lengthField) return false;
+        const std::int32_t length = BinaryReader(rest).int32();
+        if (length < static_cast<std::int32_t>(projectField)) return false;
+        m_body = rest.substr(lengthField, static_cast<std::size_t>(length));
+        m_torn = m_body.size() < static_cast<std::size_t>(length);
+        m_next = m_start + lengthField + m_body.size();
+        if (m_body.size() >= entryHeader) return true;
+        // Too short for a label: nobody's design, but what stands behind it can be reached.
+        if (m_torn) return false;
+    }
+    return false;
 }
 
 std::int32_t LibraryEntries::project() const {

@@ -94,6 +94,7 @@ DesignRead readDesign(BinaryReader& reader) {
             result.damaged = true;
             return result;
         }
+        if (isHead) result.headWhole = !reader.cutShort();
         if (isHead || !result.design.empty()) {
             result.design.append(std::move(record));
         } else {

@@ -18,7 +18,8 @@ void writeRecord(const CRez& record, BinaryWriter& writer, bool isHead);
 void writeDesign(const CRez* head, BinaryWriter& writer);
 
 struct DesignRead {
-    RezChain design;  // empty when the bytes hold no head record
+    RezChain design;         // empty when the bytes hold no head record
+    bool headWhole = false;  // the head itself is not cut short
     bool damaged =
         false;  // cut short, records before the first head, a second head, a layer of kind -1
 };

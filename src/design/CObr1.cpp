@@ -103,6 +103,7 @@ void CObr1::ShowTab(int index) {
         if (i != index) all[static_cast<std::size_t>(i)]->window().show(false);
     }
     all[static_cast<std::size_t>(index)]->window().show(true);
+    if (index == page::geometry) m_geometry->redrawPlan();
     m_tab = index;
     for (const int control : propertyControls) {
         m_window->item(control).show(index != page::geometry);

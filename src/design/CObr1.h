@@ -5,6 +5,7 @@
 #include <array>
 
 #include "design/CRoletka.h"
+#include "design/catalogue_choice.h"
 #include "design/dialog_settings.h"
 #include "design/library_session.h"
 #include "design/page_index.h"
@@ -52,11 +53,13 @@ private:
     void ComposePrecast() override;
     void ComposeSteel() override;
     void RemoveCurrent() override;
+    void OpenCatalogue(int request) override;
     bool EndEdit() override { return m_roletka->commit(); }
     void OpenEdit(const EditRequest& request, Picture& picture, Point at) override {
         m_roletka->open(request, picture, at);
     }
     bool editVisible() const override { return m_roletka->visible(); }
+    EditTarget lastEdited() const override { return m_roletka->lastTarget(); }
     void RedrawPreviews() override;
     void ShowBearing(std::int32_t bearing) override;
     void EnableConfirmation(bool on) override;
@@ -67,7 +70,7 @@ private:
     void connect();
     void open();
     bool loadCatalogues();
-    bool loadCatalogueOf(CatalogueKind kind, Catalogue& catalogue);
+    bool loadCatalogueOf(CatalogueKind kind, Catalogue& catalogue, CatalogueState& state);
     void makePages();
     void place(DesignPage& page);
     void fillTypeBoxes();
@@ -86,6 +89,7 @@ private:
     void openCommandMenu();
     bool commandEnabled(int command);
     void run(int command);
+    void refillTypes(OfferPage& page, const CPreklItem* catalogue);
     void showBubbleField();
     Text describe(std::string_view topic) const;
 
@@ -106,6 +110,7 @@ private:
     std::unique_ptr<OfferPage> m_steel;
     std::unique_ptr<MonolithPage> m_monolith;
     std::unique_ptr<LibraryPage> m_libraryPage;
+    std::optional<CatalogueElement> m_browserElement;  // that the last browser showed first
     int m_tab = page::geometry;
     PropertiesSource m_source = PropertiesSource::offer;
     int m_helpTopic = 0;

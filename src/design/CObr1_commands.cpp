@@ -1,5 +1,8 @@
 // The commands of the design dialog: those that the pages share, and the menu over the section
 // preview.
+#include <algorithm>
+
+#include "catalogue/CData6_1.h"
 #include "composition/rules_file.h"
 #include "design/CObr1.h"
 #include "design/bend_presets.h"
@@ -32,6 +35,42 @@ void CObr1::RemoveCurrent() {
     if (removeCurrent(m_model.edit()) == CommandAnswer::done) Relayout();
 }
 
+void CObr1::OpenCatalogue(int request) {
+    EndEdit();
+    const CatalogueChoice choice =
+        chooseCatalogue(m_model, m_source, m_tab, request, m_browserElement);
+    if (choice.element) m_browserElement = choice.element;
+    const bool steel = choice.kind == CatalogueKind::steel;
+    ModuleValues& values = m_context.values;
+    BrowserRequest opened;
+    opened.kind = choice.kind;
+    opened.pick = choice.pick;
+    opened.type = (steel ? m_steel : m_precast)->selectedType();
+    if (choice.element) opened.element = {choice.element->typeIndex, choice.element->itemIndex};
+    CData6_1 browser(m_context.platform, m_context.files, m_context.host, values.columnWidths,
+                     Owner{m_window.get(), m_owner.hostWindow});
+    browser.runOn(steel ? values.steel : values.precast,
+                  steel ? values.steelState : values.precastState, opened);
+
+    refillTypes(*m_precast, values.precast.get());
+    refillTypes(*m_steel, values.steel.get());
+    // The picked records belong to the catalogue: the offer takes copies of them before it can
+    // change again.
+    m_model.rebuildPrecastOffer(m_precast->selectedType(), browser.picked());
+    m_precast->showOffer();
+    RebuildSteelOffer();
+}
+
+// The type that was selected, by its name, or by its place when the user has renamed it.
+void CObr1::refillTypes(OfferPage& page, const CPreklItem* catalogue) {
+    const std::vector<Text> names = typeNames(catalogue);
+    const Text name = page.selectedTypeName();
+    const int place = std::min(page.selectedType(), static_cast<int>(names.size()) - 1);
+    const auto same = std::find(names.begin(), names.end(), name);
+    page.fillTypes(names);
+    page.selectType(same == names.end() ? place : static_cast<int>(same - names.begin()));
+}
+
 void CObr1::openCommandMenu() {
     EndEdit();
     Picture& picture = m_window->get<Picture>(id::sectionPreview);
@@ -46,9 +85,6 @@ bool CObr1::commandEnabled(int command) {
     switch (command) {
         case id::commandCompose:
             return m_model.precastSelected();
-        case id::commandBrowse:
-        case id::commandBrowseToAdd:
-            return false;  // there is no catalogue browser yet
         case id::commandRemove:
             return m_model.available().remove;
         case id::commandInsulation:
@@ -68,6 +104,10 @@ void CObr1::run(int command) {
         case id::commandInsulation:
             if (insertInsulation(m_model.edit()) == CommandAnswer::done) Relayout();
             return;
+        case id::commandBrowse:
+            return OpenCatalogue(0);
+        case id::commandBrowseToAdd:
+            return OpenCatalogue(1);
         default:
             return SetBends(command - id::commandBends);
     }

@@ -76,12 +76,12 @@ bool CObr1::loadCatalogues() {
     ModuleValues& values = m_context.values;
     values.precast.reset();
     values.steel.reset();
-    return loadCatalogueOf(CatalogueKind::precast, values.precast) &&
-           loadCatalogueOf(CatalogueKind::steel, values.steel);
+    return loadCatalogueOf(CatalogueKind::precast, values.precast, values.precastState) &&
+           loadCatalogueOf(CatalogueKind::steel, values.steel, values.steelState);
 }
 
 // Going on without a catalogue would let the browser empty its file.
-bool CObr1::loadCatalogueOf(CatalogueKind kind, Catalogue& catalogue) {
+bool CObr1::loadCatalogueOf(CatalogueKind kind, Catalogue& catalogue, CatalogueState& state) {
     LoadedCatalogue loaded =
         loadCatalogue(kind, cataloguePath(kind, m_context.host), m_context.files);
     if (!loaded.opened) {
@@ -91,6 +91,7 @@ bool CObr1::loadCatalogueOf(CatalogueKind kind, Catalogue& catalogue) {
         return false;
     }
     catalogue = std::move(loaded.head);
+    state = loaded.state;
     return true;
 }
 

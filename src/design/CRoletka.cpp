@@ -29,6 +29,7 @@ void CRoletka::open(const EditRequest& request, Picture& picture, Point at) {
     fill(request.edit.shown);
     place(picture, at);
     m_edit = request.edit;
+    m_lastTarget = m_edit.target;
     m_box.show(true);
     m_box.focus();
     m_box.selectAllText();
@@ -123,6 +124,11 @@ bool CRoletka::tellRefusal() {
 }
 
 KeyAnswer CRoletka::key(const KeyEvent& event) {
+    if (event.key == key::f2 && !event.ctrl && !event.alt && m_picture != nullptr) {
+        Picture& picture = *m_picture;
+        if (commit() && picture.onKey) picture.onKey(event);
+        return KeyAnswer::swallow;
+    }
     if (event.ctrl || event.shift || event.alt) return KeyAnswer::pass;
     switch (event.key) {
         case key::enter:

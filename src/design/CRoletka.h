@@ -8,6 +8,8 @@
 
 namespace lx {
 
+// F2 in a preview begins to edit its next number, Shift+F2 the one before; in the box itself it
+// commits and goes on, by the key handler of the picture.
 class CRoletka {
 public:
     // Takes the box's events. Both must outlive it.
@@ -26,6 +28,8 @@ public:
     bool commit() { return commit(Message::now); }
     // Takes the edit away and hides the box; the design keeps its value.
     void cancel();
+    // What was edited last; its record may be gone.
+    const EditTarget& lastTarget() const { return m_lastTarget; }
     // Leaves the picture before its window goes; the edit is over.
     void leave();
 
@@ -47,6 +51,7 @@ private:
     ComboBox& m_box;
     DesignServices& m_services;
     ValueEdit m_edit;
+    EditTarget m_lastTarget;
     Text m_historySection;
     int m_untold = 0;              // text of a refusal whose message is posted; 0 = none
     Picture* m_picture = nullptr;  // that the box stands in

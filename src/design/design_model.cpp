@@ -158,8 +158,8 @@ void DesignModel::showStored(int entry) {
     if (before != nullptr && m_current != nullptr) m_current->height = before->height;
 }
 
-Text DesignModel::removeShownStored() {
-    if (m_shown == 0) return {};
+std::optional<Text> DesignModel::removeShownStored() {
+    if (m_shown == 0) return std::nullopt;
     const std::size_t removed = m_shown;
     const Text label = m_stored[removed - 1].label;
     const auto labelled = [&label](const LibraryEntry& one) { return one.label == label; };

@@ -75,8 +75,9 @@ public:
     void showStored(int entry);
     int shownStored() const { return static_cast<int>(m_shown); }
     // Takes the entry that is shown, and others of its label, out of the list and shows the one
-    // that takes its place; entry 0 stays. The label, empty when nothing was removed.
-    Text removeShownStored();
+    // that takes its place; entry 0 stays. The label as it was loaded; none when nothing was
+    // removed.
+    std::optional<Text> removeShownStored();
     // Whether the design of that entry suits the opening.
     bool storedSuits(int entry) const;
     // The same for the entry that is shown, unless it is entry 0 or designs are not checked.

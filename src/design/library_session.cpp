@@ -72,12 +72,12 @@ void LibrarySession::addProject(std::string_view name) {
     m_projects.selected = static_cast<int>(m_projects.projects.size()) - 1;
 }
 
-std::int32_t LibrarySession::removeProject() {
-    const std::int32_t id = m_projects.currentId();
-    if (m_projects.selected > 0) {
-        m_projects.projects.erase(m_projects.projects.begin() + m_projects.selected);
-        m_projects.selected = 0;
-    }
+std::optional<std::int32_t> LibrarySession::removeProject(int index) {
+    std::vector<Project>& projects = m_projects.projects;
+    if (index <= 0 || static_cast<std::size_t>(index) >= projects.size()) return std::nullopt;
+    const std::int32_t id = projects[static_cast<std::size_t>(index)].id;
+    projects.erase(projects.begin() + index);
+    m_projects.selected = 0;
     return id;
 }
 
@@ -87,7 +87,7 @@ Text LibrarySession::proposedProjectName() {
     return drawing.size() > extension ? drawing.substr(0, drawing.size() - extension) : Text();
 }
 
-bool LibrarySession::DeleteEntries(std::int32_t project, std::string_view label) {
+bool LibrarySession::DeleteEntries(std::int32_t project, std::optional<std::string_view> label) {
     if (readOnly()) return false;
     const auto path = pathOf(libraryFileName);
     return path && deleteEntries(*path, project, label, m_files);

@@ -6,7 +6,7 @@
 
 #include "composition/projects.h"
 #include "design/design_model.h"
-#include "design/host_access_lock.h"
+#include "platform/host_access_lock.h"
 
 namespace lx {
 
@@ -38,13 +38,14 @@ public:
     bool hasProject(std::string_view name) const;
     // Behind the others and selected, with an id of its own; names are cut to what the file holds.
     void addProject(std::string_view name);
-    // Takes the selected project, not the first one, out of the list and selects the first. Its id.
-    std::int32_t removeProject();
+    // Takes a project out of the list and selects the first one. Its id; none, and nothing is done,
+    // for the first one and outside the list.
+    std::optional<std::int32_t> removeProject(int index);
     // What a new project is called at first: the drawing's file name without its extension.
     Text proposedProjectName();
-    // Marks the project's stored designs of that label deleted, all of them when it is empty. False
+    // Marks the project's stored designs of that label deleted, all of them without one. False
     // when there are none, and when read-only.
-    bool DeleteEntries(std::int32_t project, std::string_view label);
+    bool DeleteEntries(std::int32_t project, std::optional<std::string_view> label);
 
     // Fills the model's list with the current project's designs; its own design becomes the one
     // being edited. False when the file is there but cannot be opened, or the folder is unknown.

@@ -1,10 +1,12 @@
-// Values that outlive a dialog: the last accepted design call and the loaded catalogues. One
-// struct, owned by the application object and handed to whoever needs it.
+// Values that outlive a dialog: the last accepted design call, the loaded catalogues, the column
+// widths of their browser. One struct, owned by the application object and handed to whoever needs
+// it.
 #pragma once
 
 #include <lxdata6dlg.h>
 
-#include "catalogue/records.h"
+#include "catalogue/catalogue_state.h"
+#include "catalogue/column_settings.h"
 #include "platform/files.h"
 #include "platform/host.h"
 #include "platform/platform.h"
@@ -18,7 +20,10 @@ struct ModuleValues {
     OpeningBlock block{};
     Catalogue precast;  // loaded and freed by the design dialog
     Catalogue steel;
-    Size sectionSize;  // px, client size of the section preview
+    CatalogueState precastState;  // of their files
+    CatalogueState steelState;
+    ColumnWidths columnWidths;  // the catalogue browser's
+    Size sectionSize;           // px, client size of the section preview
     Text proposedBubble;
     Path helpFile;
 };

@@ -6,8 +6,8 @@
 namespace lx {
 
 // The head's bearing length becomes the overhang of its first layer, mm, negative for one that is
-// shorter than the opening; 0 without layers. To be done when the plan is about to be drawn where
-// the user sees it, and at no other time: elsewhere a bearing of 0 means the default one.
+// shorter than the opening; 0 without layers. To be done when the plan that the user sees has to be
+// drawn anew, and at no other time: elsewhere a bearing of 0 means the default one.
 // openingWidth in mm.
 void settleOverhang(CRez& head, double openingWidth);
 

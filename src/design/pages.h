@@ -51,6 +51,8 @@ public:
     virtual void selectType(int type) = 0;
     // From 0; -1 when the box is empty.
     virtual int selectedType() const = 0;
+    // Its name; empty when the box is.
+    virtual Text selectedTypeName() const = 0;
     // Fills the list with the model's offer anew and selects the entry that the model has selected.
     virtual void showOffer() = 0;
     // Which entries are drawn red depends on the free space.

@@ -45,6 +45,9 @@ public:
     virtual void ComposeSteel() = 0;
     // The layer behind the removed one becomes current, else the one before it.
     virtual void RemoveCurrent() = 0;
+    // The catalogue browser over the dialog; request: see pickRequest. Afterwards the offers and
+    // their "Typ:" boxes are those of the catalogues as the user left them.
+    virtual void OpenCatalogue(int request) = 0;
     // Commits and closes a pending in-place edit; false when its value was refused.
     virtual bool EndEdit() = 0;
     // Stands the in-place drop-down over that point of the picture.
@@ -52,6 +55,8 @@ public:
     // Also while the event is handled that has closed the drop-down by taking its focus, so that a
     // click in a picture can tell.
     virtual bool editVisible() const = 0;
+    // What was edited last; its record may be gone.
+    virtual EditTarget lastEdited() const = 0;
     virtual void RedrawPreviews() = 0;
     // The properties text becomes that bearing length at each end, mm.
     virtual void ShowBearing(std::int32_t bearing) = 0;

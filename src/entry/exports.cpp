@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstring>
 
+#include "catalogue/CData6_1.h"
 #include "design/CObr1.h"
 #include "entry/CLintelErase.h"
 #include "entry/merge_call.h"
@@ -124,6 +125,13 @@ int designCall(CLXdata6dlgApp& app, const DesignArguments& arguments) {
     return outcome.result;
 }
 
+int browserCall(CLXdata6dlgApp& app, void* parent) {
+    Context& context = app.context();
+    CData6_1 browser(context.platform, context.files, context.host, context.values.columnWidths,
+                     Owner{nullptr, parent});
+    return browser.runStandAlone();
+}
+
 int eraseCall(CLXdata6dlgApp& app, void* parent) {
     CLintelErase dialog(app.context(), Owner{nullptr, parent});
     switch (dialog.DoModal()) {
@@ -163,8 +171,10 @@ int LX_STDCALL CallLXdata6(void* parent, int32_t, int32_t, int32_t, double openi
         [&arguments](lx::CLXdata6dlgApp& app) { return lx::designCall(app, arguments); });
 }
 
-int LX_STDCALL CallLXdata6Base(void*) {
-    return LX_DIALOG_CANCEL;
+int LX_STDCALL CallLXdata6Base(void* parent) {
+    return lx::dialogCall(LX_DIALOG_CANCEL, LX_DIALOG_FAILED, [parent](lx::CLXdata6dlgApp& app) {
+        return lx::browserCall(app, parent);
+    });
 }
 
 int LX_STDCALL LintelErase(void* parent) {

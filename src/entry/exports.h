@@ -27,6 +27,7 @@ int refusedBy(double openingWidth, double wallThickness);
 void copyResultText(std::string_view text, char* buffer);
 
 int designCall(CLXdata6dlgApp& app, const DesignArguments& arguments);
+int browserCall(CLXdata6dlgApp& app, void* parent);
 int eraseCall(CLXdata6dlgApp& app, void* parent);
 
 // The application that the exported functions work on; null while there is none, when they answer

@@ -2,6 +2,7 @@
 // it was.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 
@@ -23,6 +24,12 @@ struct FileRead {
     Bytes bytes;  // empty unless status is ok
 };
 
+// Bytes that append puts over those at that offset of what it appends, as its last act.
+struct Seal {
+    std::size_t offset = 0;
+    std::string_view bytes;
+};
+
 class Files {
 public:
     Files() = default;
@@ -42,15 +49,17 @@ public:
     // Puts a file with these bytes in the place of path: written beside it, flushed, renamed over
     // it in one step. On failure the old file is untouched and nothing is left beside it.
     virtual bool replace(const Path& path, std::string_view bytes) = 0;
-    // One write at the end, flushed; creates a missing file. On failure the file has its old length
-    // again.
-    virtual bool append(const Path& path, std::string_view bytes) = 0;
+    // Writes at the end, flushes, then sets the seal and flushes again; creates a missing file. On
+    // failure the file has its old length again. When the process dies a part of the bytes may
+    // stand there, but never under the seal.
+    virtual bool append(const Path& path, std::string_view bytes, const Seal& seal = {}) = 0;
     // Overwrites bytes inside the existing file, flushed. False when the file is missing or
     // shorter.
     virtual bool overwrite(const Path& path, std::uint64_t offset, std::string_view bytes) = 0;
     // True when the file is gone afterwards.
     virtual bool remove(const Path& path) = 0;
-    // Keeps the file of that name as path + ".bak", replacing an older one in one step.
+    // Keeps the file of that name as path + ".bak", replacing an older one in one step. True also
+    // when there is no such file to keep.
     virtual bool keepAsBackup(const Path& path) = 0;
     // The system's folder for temporary files, ending in a separator.
     virtual Path temporaryFolder() = 0;

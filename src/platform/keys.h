@@ -20,6 +20,7 @@ inline constexpr int down = 0x28;
 inline constexpr int insert = 0x2D;
 inline constexpr int del = 0x2E;
 inline constexpr int apps = 0x5D;  // the menu key
+inline constexpr int f2 = 0x71;
 inline constexpr int f4 = 0x73;
 inline constexpr int f10 = 0x79;
 }  // namespace key

@@ -13,9 +13,14 @@ CObrP::CObrP(DesignServices& services, const Dialog& page, Picture& picture, con
     picture.regions = [this] { return pictureRegions(m_regions); };
     picture.onMouseMove = [this](Point p, bool) { move(p); };
     picture.onLeftDown = [this](Point p) { press(p); };
+    picture.onKey = [this](const KeyEvent& event) { return key(event); };
 }
 
 void CObrP::redraw() {
+    CRez* head = m_services.model().head();
+    if (head != nullptr && m_page.visible()) {
+        settleOverhang(*head, m_services.model().values().openingWidth);
+    }
     forgetRemoved(m_regions, m_services.model().chain());
     m_picture.redraw();
 }
@@ -28,10 +33,6 @@ void CObrP::paint(Canvas& canvas) {
     input.client = m_picture.size();
     input.openingWidth = model.values().openingWidth;
     input.foldedSection = m_folded.checked();
-    // A hidden page may be asked for its picture too.
-    if (model.head() != nullptr && m_page.visible()) {
-        settleOverhang(*model.head(), input.openingWidth);
-    }
     m_regions = drawPlan(canvas, input);
 }
 
@@ -52,6 +53,15 @@ void CObrP::press(Point p) {
     }
     m_pressed = false;
     move(p);
+}
+
+KeyAnswer CObrP::key(const KeyEvent& event) {
+    if (event.key != key::f2 || event.ctrl || event.alt) return KeyAnswer::pass;
+    if (const HitRegion* next = nextNumber(m_regions, m_services.lastEdited(), event.shift)) {
+        const HitRegion region = *next;
+        edit(region, {region.x + region.width / 2, region.y + region.height / 2});
+    }
+    return KeyAnswer::swallow;
 }
 
 void CObrP::edit(const HitRegion& region, Point p) {

@@ -20,6 +20,7 @@ private:
     void move(Point p);
     void press(Point p);
     void edit(const HitRegion& region, Point p);
+    KeyAnswer key(const KeyEvent& event);
 
     DesignServices& m_services;
     const Dialog& m_page;

@@ -42,6 +42,22 @@ const HitRegion* regionAt(const HitRegions& regions, Point p) {
     return found == regions.end() ? nullptr : &*found;
 }
 
+const HitRegion* nextNumber(const HitRegions& regions, const EditTarget& last, bool back) {
+    std::vector<const HitRegion*> numbers;
+    for (auto each = regions.rbegin(); each != regions.rend(); ++each) {
+        if (each->kind != region::layerName && each->kind != region::mirror) {
+            numbers.push_back(&*each);
+        }
+    }
+    if (back) std::reverse(numbers.begin(), numbers.end());
+    if (numbers.empty()) return nullptr;
+    const auto found = std::find_if(numbers.begin(), numbers.end(), [&last](const HitRegion* each) {
+        return each->target == last;
+    });
+    if (found == numbers.end() || found + 1 == numbers.end()) return numbers.front();
+    return *(found + 1);
+}
+
 void forgetRemoved(HitRegions& regions, const RezChain& design) {
     std::unordered_set<const CRez*> records;
     for (const CRez* record = design.head(); record; record = record->next) records.insert(record);

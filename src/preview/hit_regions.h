@@ -37,6 +37,10 @@ using HitRegions = std::vector<HitRegion>;
 // The newest region at that point, or null.
 const HitRegion* regionAt(const HitRegions& regions, Point p);
 
+// The number, in the order in which they were made, behind the one of that target, or before it;
+// the first or the last one without such a target and at the end. Null when there are no numbers.
+const HitRegion* nextNumber(const HitRegions& regions, const EditTarget& last, bool back);
+
 // Drops the regions whose record is gone.
 void forgetRemoved(HitRegions& regions, const RezChain& design);
 

@@ -73,6 +73,7 @@ void SectionMouse::mark(int offset) {
 }
 
 void SectionMouse::move(Point p, bool leftDown) {
+    if (!leftDown) forgetDrag();
     if (regionAt(m_regions, p) != nullptr) {
         m_target = nullptr;
         m_picture.setCursor(CursorShape::hand);
@@ -82,7 +83,6 @@ void SectionMouse::move(Point p, bool leftDown) {
     CRez* head = m_services.model().head();
     const CRez* current = m_services.model().current();
     const bool drag = leftDown && head != nullptr && known(m_pressed) && m_pressed == current;
-    if (!leftDown) forgetDrag();
     if (!drag) {
         m_picture.setCursor(m_target != nullptr ? CursorShape::hand : CursorShape::arrow);
         return;
@@ -101,8 +101,7 @@ void SectionMouse::press(Point p) {
     Text family;
     if (hit != nullptr) {
         region = *hit;
-        const auto index = static_cast<std::size_t>(hit - m_regions.data());
-        family = valueFamily(m_regions, index, m_services.model().chain());
+        family = familyOf(*hit);
     }
     m_services.EndEdit();
     m_target = nullptr;
@@ -110,6 +109,19 @@ void SectionMouse::press(Point p) {
     m_pressed = layerUnder(p);
     if (m_pressed != nullptr) m_services.SelectRecord(m_pressed);
     if (hit != nullptr) clickRegion(region, family, p);
+}
+
+Text SectionMouse::familyOf(const HitRegion& region) {
+    const auto index = static_cast<std::size_t>(&region - m_regions.data());
+    return valueFamily(m_regions, index, m_services.model().chain());
+}
+
+void SectionMouse::editNext(bool back) {
+    const HitRegion* next = nextNumber(m_regions, m_services.lastEdited(), back);
+    if (next == nullptr) return;
+    const HitRegion region = *next;
+    clickRegion(region, familyOf(*next),
+                {region.x + region.width / 2, region.y + region.height / 2});
 }
 
 void SectionMouse::clickRegion(const HitRegion& region, const Text& family, Point p) {
@@ -156,9 +168,15 @@ void SectionMouse::selectAt(Point p) {
 }
 
 KeyAnswer SectionMouse::key(const KeyEvent& event) {
-    if (event.ctrl || event.shift || event.alt) return KeyAnswer::pass;
+    if (event.ctrl || event.alt) return KeyAnswer::pass;
+    if (event.key == key::f2) {
+        editNext(event.shift);
+        return KeyAnswer::swallow;
+    }
+    if (event.shift) return KeyAnswer::pass;
     switch (event.key) {
         case key::del:
+            forgetDrag();
             m_services.RemoveCurrent();
             return KeyAnswer::swallow;
         case key::left:

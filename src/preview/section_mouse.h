@@ -32,6 +32,8 @@ private:
     void step(bool back);
 
     void clickRegion(const HitRegion& region, const Text& family, Point p);
+    void editNext(bool back);
+    Text familyOf(const HitRegion& region);
     void mirror(std::int32_t& kind);
     CRez* layerUnder(Point p);
     bool known(const CRez* record);

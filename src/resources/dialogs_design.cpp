@@ -9,7 +9,6 @@ namespace {
 
 // The tab control holds the largest page below two rows of tabs.
 constexpr ControlTemplate designControls[] = {
-    plain(ControlKind::tabControl, id::tabs, {333, 7, 200, 296}),
     named(ControlKind::picture, id::sectionPreview, "section", {7, 7, 319, 243},
           style::focusable | style::border),
     plain(ControlKind::editableCombo, id::inPlaceBox, {12, 20, 48, 12}, style::hidden),
@@ -18,6 +17,7 @@ constexpr ControlTemplate designControls[] = {
           style::readOnly | style::noTabStop),
     radioButton(id::fromPreview, "z náhledu"_cz, {198, 255, 60, 10}),
     radioButton(id::fromOffer, "z nabídky"_cz, {266, 255, 60, 10}),
+    plain(ControlKind::tabControl, id::tabs, {333, 7, 200, 296}),
     plain(ControlKind::icon, id::moduleIcon, {7, 306, 21, 20}),
     defaultButton(id::ok, "OK"_cz, {353, 309, 56, 14}),
     button(id::cancel, "Zrušit"_cz, {415, 309, 56, 14}),

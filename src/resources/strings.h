@@ -18,6 +18,10 @@ inline constexpr std::string_view storeFailed = "Překlad se nepodařilo uložit
 // A layer of another family than the design's was to be added.
 inline constexpr std::string_view wrongType = "Chybný typ"_cz;
 
+// Title of the catalogue browser, with the name of the selected type.
+inline constexpr std::string_view precastBrowser = "Databáze prefabrikátů (%s)"_cz;
+inline constexpr std::string_view steelBrowser = "Databáze průřezů (%s)"_cz;
+
 // Properties text of an offer entry without a record, and of a record without a name.
 inline constexpr std::string_view noItem = "<item = NULL>"_cz;
 inline constexpr std::string_view noName = "<NULL>"_cz;

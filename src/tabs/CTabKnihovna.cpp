@@ -112,15 +112,19 @@ bool CTabKnihovna::mayDelete(bool& used) {
     return used;
 }
 
+// The question closes an open list, which puts back the project that it was opened on: the one to
+// delete is noted before.
 bool CTabKnihovna::deleteProject() {
     LibrarySession& library = m_services.library();
-    if (library.projects().selected == 0) return false;
+    const int index = library.projects().selected;
+    if (index == 0) return false;
+    m_projects.box().dropDown(false);
     bool used = false;
     if (!mayDelete(used)) return used;
-    const std::int32_t id = library.removeProject();
+    const auto id = library.removeProject(index);
     showProjects();
     changeProject();
-    library.DeleteEntries(id, {});
+    if (id) library.DeleteEntries(*id, std::nullopt);
     return true;
 }
 
@@ -130,11 +134,11 @@ bool CTabKnihovna::deleteStored() {
     bool used = false;
     if (!mayDelete(used)) return used;
     m_services.EndEdit();
-    const Text label = model.removeShownStored();
+    const auto label = model.removeShownStored();
     showDesigns();
     m_services.Relayout();
     LibrarySession& library = m_services.library();
-    library.DeleteEntries(library.projects().currentId(), label);
+    if (label) library.DeleteEntries(library.projects().currentId(), *label);
     if (model.bearingCheck) useStored(model.shownStored());
     return true;
 }

@@ -25,8 +25,7 @@ CTabOcel::CTabOcel(DesignServices& services)
         this->services().ComposeSteel();
         Refresh();
     };
-    // No catalogue browser yet.
-    get<Button>(id::steelCatalogue).enable(false);
+    get<Button>(id::steelCatalogue).onClick = [this] { this->services().OpenCatalogue(1); };
 }
 
 void CTabOcel::showAvailability(const Availability& available) {

@@ -25,8 +25,9 @@ CTabPrefa::CTabPrefa(DesignServices& services)
         this->services().ComposePrecast();
         Refresh();
     };
-    // No catalogue browser yet.
-    get<Button>(id::precastCatalogue).enable(false);
+    get<Button>(id::precastCatalogue).onClick = [this] {
+        this->services().OpenCatalogue(pickRequest | 1);
+    };
 }
 
 void CTabPrefa::showAvailability(const Availability& available) {

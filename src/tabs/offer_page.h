@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "design/pages.h"
+#include "design/catalogue_choice.h"
 #include "design/services.h"
 #include "tabs/CNabidka.h"
 
@@ -15,6 +16,7 @@ public:
     void fillTypes(const std::vector<Text>& names) override;
     void selectType(int type) override;
     int selectedType() const override { return m_types.selected(); }
+    Text selectedTypeName() const override { return m_types.text(); }
     void showOffer() override;
     void refreshOfferLooks() override;
 

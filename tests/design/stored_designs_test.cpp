@@ -85,7 +85,7 @@ TEST_F(StoredDesigns, TheLevelOfTheOpeningGoesFromDesignToDesign) {
 
 TEST_F(StoredDesigns, ARemovedOneIsFollowedByTheNextElseTheLast) {
     ASSERT_EQ(labels(), "<ABBC");
-    EXPECT_EQ(model.removeShownStored(), "");
+    EXPECT_EQ(model.removeShownStored(), std::nullopt);
     model.showStored(3);
     model.head()->height = 1234;
     EXPECT_EQ(model.removeShownStored(), "B  ");
@@ -120,9 +120,10 @@ TEST(LibraryProjects, NewOnesGetAnIdOfTheirOwn) {
     EXPECT_TRUE(library.hasProject("čÁP"_cz));
     EXPECT_FALSE(library.hasProject("Cap"));
     EXPECT_EQ(library.projects().currentId(), 1);
-    EXPECT_EQ(library.removeProject(), 1);
+    EXPECT_EQ(library.removeProject(1), 1);
     EXPECT_EQ(library.projects().selected, 0);
-    EXPECT_EQ(library.removeProject(), 0);
+    EXPECT_EQ(library.removeProject(0), std::nullopt);
+    EXPECT_EQ(library.removeProject(1), std::nullopt);
     EXPECT_EQ(library.projects().projects.size(), 1U);
     host.variables["DWGNAME"] = "dwg";
     EXPECT_EQ(library.proposedProjectName(), "");

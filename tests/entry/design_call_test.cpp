@@ -145,6 +145,7 @@ TEST(Exports, ExceptionsStopAndTheNextCallIsHeard) {
     std::string text(LX_RESULT_TEXT_SIZE, '#');
     for (int round = 0; round < 2; ++round) {
         EXPECT_EQ(LintelErase(nullptr), 0);
+        EXPECT_EQ(CallLXdata6Base(nullptr), LX_DIALOG_FAILED);
         EXPECT_EQ(CallLXdata6(nullptr, 0, 0, 0, 1200, 300, 0, text.data(), &a, nullptr, {}, 0),
                   LX_DIALOG_FAILED);
         EXPECT_EQ(CallLXdata6(nullptr, 0, 0, 0, 1200, 1, 0, nullptr, nullptr, nullptr, {}, 0),
@@ -154,7 +155,7 @@ TEST(Exports, ExceptionsStopAndTheNextCallIsHeard) {
     EXPECT_EQ(a, 3);
     setApplication(nullptr);
     EXPECT_EQ(LintelErase(nullptr), 0);
-    EXPECT_EQ(CallLXdata6Base(nullptr), LX_DIALOG_CANCEL);
+    EXPECT_EQ(CallLXdata6Base(nullptr), LX_DIALOG_FAILED);
     EXPECT_EQ(mergeLibraryFiles(nullptr, "x", nullptr, 3), LX_MERGE_NO_TARGET);
 }
 

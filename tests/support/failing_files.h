@@ -30,8 +30,8 @@ public:
     bool replace(const Path& path, std::string_view bytes) override {
         return !fails() && m_files.replace(path, bytes);
     }
-    bool append(const Path& path, std::string_view bytes) override {
-        if (!fails()) return m_files.append(path, bytes);
+    bool append(const Path& path, std::string_view bytes, const Seal& seal) override {
+        if (!fails()) return m_files.append(path, bytes, seal);
         if (m_fault == Fault::died && m_count == m_failAt) {
             m_files.append(path, bytes.substr(0, bytes.size() / 2));
         }

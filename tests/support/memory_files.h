@@ -35,9 +35,12 @@ public:
         content[path] = bytes;
         return true;
     }
-    bool append(const Path& path, std::string_view bytes) override {
+    bool append(const Path& path, std::string_view bytes, const Seal& seal) override {
         if (readOnly || locked.count(path) != 0) return false;
-        content[path] += bytes;
+        Bytes& file = content[path];
+        const std::size_t start = file.size();
+        file += bytes;
+        file.replace(start + seal.offset, seal.bytes.size(), seal.bytes);
         return true;
     }
     bool overwrite(const Path& path, std::uint64_t offset, std::string_view bytes) override {
@@ -53,7 +56,7 @@ public:
         return !exists(path);
     }
     bool keepAsBackup(const Path& path) override {
-        return exists(path) && replace(path + ".bak", content[path]);
+        return !exists(path) || replace(path + ".bak", content[path]);
     }
     Path temporaryFolder() override { return "tmp/"; }
 };

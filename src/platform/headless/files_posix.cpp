@@ -141,19 +141,20 @@ public:
         return false;
     }
 
-    bool append(const Path& path, std::string_view bytes) override {
+    bool append(const Path& path, std::string_view bytes, const Seal& seal) override {
         if (readOnly(path)) return false;
-        const bool wasThere = exists(path);
+        // Only a file that was surely made here may be taken away again.
+        const bool isNew = Descriptor(path, O_WRONLY | O_CREAT | O_EXCL).open();
         const Descriptor file(path, O_WRONLY | O_APPEND | O_CREAT);
         const off_t before = file.open() ? file.length() : -1;
-        if (before < 0) return false;
-        if (file.write(bytes) && file.flush()) {
-            if (!wasThere) flushFolderOf(path);
+        if (before >= 0 && file.write(bytes) && file.flush() &&
+            setSeal(path, file, bytes.size(), seal)) {
+            if (isNew) flushFolderOf(path);
             return true;
         }
-        if (!wasThere) {
+        if (isNew) {
             ::unlink(path.c_str());
-        } else if (::ftruncate(file.number(), before) == 0) {
+        } else if (before >= 0 && ::ftruncate(file.number(), before) == 0) {
             file.flush();
         }
         return false;
@@ -178,6 +179,7 @@ public:
     // A copy, so that the name itself never lacks its file.
     bool keepAsBackup(const Path& path) override {
         const FileRead original = read(path);
+        if (original.status == ReadStatus::missing) return true;
         return original.status == ReadStatus::ok && replace(path + ".bak", original.bytes);
     }
 
@@ -189,6 +191,15 @@ public:
     }
 
 private:
+    // The appended bytes end where the descriptor stands, also when others append as well.
+    bool setSeal(const Path& path, const Descriptor& file, std::size_t appended, const Seal& seal) {
+        if (seal.bytes.empty()) return true;
+        const off_t end = ::lseek(file.number(), 0, SEEK_CUR);
+        if (end < 0 || static_cast<std::uint64_t>(end) < appended) return false;
+        return overwrite(path, static_cast<std::uint64_t>(end) - appended + seal.offset,
+                         seal.bytes);
+    }
+
     static bool keepMode(const Path& path, const Descriptor& file) {
         struct stat about {};
         if (::stat(path.c_str(), &about) != 0) return true;

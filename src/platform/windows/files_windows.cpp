@@ -177,14 +177,17 @@ public:
         return false;
     }
 
-    bool append(const Path& path, std::string_view bytes) override {
+    bool append(const Path& path, std::string_view bytes, const Seal& seal) override {
         if (readOnly(path)) return false;
         FileHandle file(path, GENERIC_READ | GENERIC_WRITE, shareRead, OPEN_ALWAYS);
         if (!file) return false;
         const bool existed = file.error() == ERROR_ALREADY_EXISTS;
         std::uint64_t length = 0;
         if (!file.size(length)) return false;
-        if (file.seek(length) && file.write(bytes) && file.flush()) return true;
+        const bool done = file.seek(length) && file.write(bytes) && file.flush() &&
+                          (seal.bytes.empty() || (file.seek(length + seal.offset) &&
+                                                  file.write(seal.bytes) && file.flush()));
+        if (done) return true;
         file.truncate(length);
         file.close();
         if (!existed) DeleteFileA(path.c_str());
@@ -209,6 +212,7 @@ public:
 
     bool keepAsBackup(const Path& path) override {
         const FileRead original = read(path);
+        if (original.status == ReadStatus::missing) return true;
         return original.status == ReadStatus::ok && replace(path + ".bak", original.bytes);
     }
 

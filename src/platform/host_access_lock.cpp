@@ -1,4 +1,4 @@
-#include "design/host_access_lock.h"
+#include "platform/host_access_lock.h"
 
 namespace lx {
 

@@ -1,0 +1,183 @@
+#include "catalogue/CData6_1.h"
+
+#include <utility>
+
+#include "catalogue/CBaseDlg.h"
+#include "resources/icons.h"
+#include "resources/menus.h"
+#include "resources/strings.h"
+#include "resources/templates.h"
+
+namespace lx {
+
+namespace {
+
+constexpr int cancelText = 1;
+constexpr int helpText = 100;
+constexpr int notAccessible = 113;
+constexpr int notCopied = 114;
+constexpr int helpTopic = 100;
+
+constexpr int setUpDelay = 50;       // ms
+constexpr int narrowestItems = 150;  // px
+constexpr int newMenu = 0;
+
+constexpr int nothingChosen = 1;
+constexpr int notOpened = 2;
+
+}  // namespace
+
+CData6_1::CData6_1(Platform& platform, Files& files, Host& host, ColumnWidths& widths, Owner owner)
+    : m_platform(platform),
+      m_files(files),
+      m_host(host),
+      m_widths(widths),
+      m_owner(owner),
+      m_settings(files, host.dataFolder() + Path(settings::userFile)) {}
+
+MessageAnswer CData6_1::message(std::string_view text, std::string_view caption, MessageIcon icon,
+                                MessageButtons buttons) const {
+    return m_platform.messageBox(m_window ? here() : m_owner, text, caption, icon, buttons);
+}
+
+// ---- opening
+
+int CData6_1::runStandAlone() {
+    m_standAlone = true;
+    const int choice = CBaseDlg(m_platform, m_owner).DoModal();
+    if (choice == id::cancel) return nothingChosen;
+    m_request.kind = choice == id::choosePrecast ? CatalogueKind::precast : CatalogueKind::steel;
+    LoadedCatalogue loaded =
+        loadCatalogue(m_request.kind, cataloguePath(m_request.kind, m_host), m_files);
+    if (!loaded.opened) {
+        message(str(notAccessible), m_host.title(), MessageIcon::stop, MessageButtons::ok);
+        return notOpened;
+    }
+    m_ownItems = std::move(loaded.head);
+    m_ownState = loaded.state;
+    return run(m_ownItems, m_ownState);
+}
+
+int CData6_1::runOn(Catalogue& items, CatalogueState& state, const BrowserRequest& request) {
+    m_request = request;
+    return run(items, state);
+}
+
+int CData6_1::run(Catalogue& items, CatalogueState& state) {
+    m_items = &items;
+    m_session = std::make_unique<CatalogueSession>(m_files, m_host, m_request.kind, items, state);
+    m_window = m_platform.createDialog(browserTemplate, m_owner);
+    m_types =
+        std::make_unique<CList1>(*m_window, m_window->get<ListBox>(id::types), m_request.kind);
+    m_list = std::make_unique<CList2Ctrl>(m_platform, *m_window, m_window->get<ListView>(id::items),
+                                          m_request.kind);
+    m_resizing = std::make_unique<resizeWnd>(m_platform, *m_window);
+    connect();
+    const int result = m_window->runModal();
+    // A type may have been made without a shape.
+    completeShapes(m_request.kind, items.get());
+    return result;
+}
+
+void CData6_1::connect() {
+    Dialog& window = *m_window;
+    window.onInit = [this] { open(); };
+    window.onTimer = [this](int timer) {
+        if (timer == setUpTimer) setUp();
+    };
+    window.onCommand = [this](int command) { execute(command); };
+    window.onDestroy = [this] {
+        prf_store store(m_files);
+        store.open(m_settings.path(), settings::windowPositionSection);
+        m_resizing->savePlacement(store, settings::windowPositionKey);
+    };
+    window.get<Button>(id::ok).onClick = [this] { confirm(); };
+    window.get<Button>(id::cancel).onClick = [this] { cancel(); };
+    window.get<Button>(id::pickItems).onClick = [this] { pick(); };
+    window.get<Button>(id::help).onClick = [this] { m_host.showHelp(helpTopic); };
+    m_types->onSelect = [this] { showType(); };
+    m_types->onCommand = [this](int command) { execute(command); };
+    m_list->onCommand = [this](int command) { execute(command); };
+    m_list->onCopyFailed = [this] {
+        message(str(notCopied), m_host.title(), MessageIcon::stop, MessageButtons::ok);
+    };
+}
+
+void CData6_1::open() {
+    Dialog& window = *m_window;
+    window.setIcon(icon::module);
+    window.get<Button>(id::browserIcon).setIcon(icon::module);
+    window.item(id::pickItems).show(m_request.pick);
+    window.item(id::cancel).setText(str(cancelText));
+    window.item(id::help).setText(str(helpText));
+    window.setMenuBar(steel() ? steelCatalogueMenu() : precastCatalogueMenu());
+    window.enableMenu(newMenu, !readOnly());
+    m_types->setReadOnly(readOnly());
+    m_list->setReadOnly(readOnly());
+    makeResizable();
+    window.startTimer(setUpTimer, setUpDelay);
+}
+
+void CData6_1::makeResizable() {
+    Control& types = m_window->item(id::types);
+    Control& items = m_window->item(id::items);
+    m_resizing->addDivider(&items, Side::left, &types);
+    m_resizing->initialise();
+    m_resizing->setSize(items, narrowestItems, 0);
+    m_resizing->addControl(types, edge::stretchesDown);
+    m_resizing->addControl(items, edge::stretches);
+    for (const int control : {id::pickItems, id::ok, id::cancel, id::help, id::browserIcon}) {
+        m_resizing->addControl(m_window->item(control), edge::staysInCorner);
+    }
+    prf_store store(m_files);
+    store.open(m_settings.path(), settings::windowPositionSection);
+    m_resizing->restorePlacement(store, settings::windowPositionKey);
+}
+
+void CData6_1::setUp() {
+    m_window->stopTimer(setUpTimer);
+    if (m_setUp) return;
+    const ColumnSettings stored = loadColumnSettings(m_settings, m_request.kind, m_widths);
+    m_list->createColumns(stored.widths);
+    m_types->fill(typeRecords(m_items->get()));
+    selectStart(stored);
+    m_list->setColumnOrder(stored.order);
+    m_setUp = true;
+}
+
+void CData6_1::selectStart(const ColumnSettings& stored) {
+    const auto has = [this](int type) { return type >= 0 && type < m_types->count(); };
+    int type = m_standAlone ? stored.type : m_request.type;
+    int row = m_standAlone ? stored.row : 0;
+    if (m_request.element) {
+        if (has(m_request.element->typeIndex)) type = m_request.element->typeIndex;
+        row = m_request.element->itemIndex;
+    }
+    if (has(type)) m_types->select(type);
+    refreshItems();
+    m_list->selectRow(row);
+}
+
+// ---- what is shown
+
+CPreklItem* CData6_1::selectedType() const {
+    const int position = m_types->selected();
+    const std::vector<CPreklItem*> types = typeRecords(m_items->get());
+    if (position < 0 || static_cast<std::size_t>(position) >= types.size()) return nullptr;
+    return types[static_cast<std::size_t>(position)];
+}
+
+void CData6_1::refreshItems() {
+    const CPreklItem* type = selectedType();
+    if (!type) return;
+    const std::string_view title = steel() ? texts::steelBrowser : texts::precastBrowser;
+    m_window->setTitle(fillIn(title, {type->designation.value_or(Text())}));
+    m_list->refresh(m_items->get(), m_types->selected() + 1);
+}
+
+void CData6_1::showType() {
+    refreshItems();
+    m_list->order();
+}
+
+}  // namespace lx

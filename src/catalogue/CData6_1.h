@@ -1,0 +1,116 @@
+// The catalogue browser: the types of a catalogue, the items of the selected type, and all that
+// changes them.
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "catalogue/CList1.h"
+#include "catalogue/CList2Ctrl.h"
+#include "catalogue/catalogue_edit.h"
+#include "catalogue/catalogue_session.h"
+#include "catalogue/resize_wnd.h"
+
+namespace lx {
+
+// Positions from 0, held against the catalogue: a type that is not there gives way to the one that
+// the request names, a row that is not there to the first.
+struct ElementPlace {
+    std::int32_t typeIndex = 0;
+    std::int32_t itemIndex = 0;
+};
+
+struct BrowserRequest {
+    CatalogueKind kind = CatalogueKind::precast;
+    bool pick = false;                    // the user may choose items for the caller
+    std::optional<ElementPlace> element;  // shown first
+    int type = 0;                         // shown first without an element, position from 0
+};
+
+class CData6_1 {
+public:
+    // All must outlive the browser.
+    CData6_1(Platform& platform, Files& files, Host& host, ColumnWidths& widths, Owner owner);
+    CData6_1(const CData6_1&) = delete;
+    CData6_1& operator=(const CData6_1&) = delete;
+
+    // Each once per object, and only one of them. 1 after OK, 2 after Cancel, -1 when the window
+    // could not be made. The host's lock on the catalogues is given back with the object.
+
+    // On a catalogue of its own that the user chooses: 1 when nothing was chosen, 2 also when the
+    // file cannot be opened.
+    int runStandAlone();
+    // On the caller's items, which keep what the user changed also after Cancel; both must outlive
+    // the browser. state tells what the items' file held when they were loaded or written, and is
+    // kept so.
+    int runOn(Catalogue& items, CatalogueState& state, const BrowserRequest& request);
+
+    // What the user chose for the caller, in list order; records of the items. Empty for nothing.
+    const std::vector<const CPreklItem*>& picked() const { return m_picked; }
+    // The items were loaded anew, somebody else having changed their file.
+    bool reloaded() const { return m_session && m_session->reloaded(); }
+
+private:
+    bool steel() const { return m_request.kind == CatalogueKind::steel; }
+    bool readOnly() const { return m_session->readOnly(); }
+    Owner here() const { return {m_window.get(), m_owner.hostWindow}; }
+    MessageAnswer message(std::string_view text, std::string_view caption, MessageIcon icon,
+                          MessageButtons buttons) const;
+
+    // ---- opening
+    int run(Catalogue& items, CatalogueState& state);
+    void connect();
+    void open();
+    void makeResizable();
+    void setUp();
+    void selectStart(const ColumnSettings& stored);
+
+    // ---- what is shown
+    CPreklItem* selectedType() const;  // null without one
+    void refreshItems();
+    void showType();
+
+    // ---- commands (CData6_1_commands.cpp)
+    void execute(int command);
+    void newType();
+    std::optional<Text> askTypeName(int& shape);
+    void renameType();
+    void deleteType();
+    std::optional<EditorTexts> askItem(bool asNew);
+    void newItem();
+    void addItem(const EditorTexts& texts);
+    void editItem();
+    void deleteItem();
+    void pick();
+    void confirm();
+    void cancel();
+    void saveColumns();
+    void close(int result);
+
+    static constexpr int setUpTimer = 99;
+
+    Platform& m_platform;
+    Files& m_files;
+    Host& m_host;
+    ColumnWidths& m_widths;
+    Owner m_owner;
+    Profile m_settings;
+    bool m_standAlone = false;
+    BrowserRequest m_request;
+    // Stand-alone.
+    Catalogue m_ownItems;
+    CatalogueState m_ownState;
+    // None until the items are known.
+    Catalogue* m_items = nullptr;
+    std::unique_ptr<CatalogueSession> m_session;
+    // These serve the window to its end.
+    std::unique_ptr<CList1> m_types;
+    std::unique_ptr<CList2Ctrl> m_list;
+    std::unique_ptr<resizeWnd> m_resizing;
+    std::unique_ptr<Dialog> m_window;
+    bool m_setUp = false;  // columns and rows are there
+    std::vector<const CPreklItem*> m_picked;
+};
+
+}  // namespace lx

@@ -1,0 +1,202 @@
+// What the user's commands do in the catalogue browser, and what of it is written when: a new item
+// at once, all else on OK.
+#include <algorithm>
+
+#include "catalogue/CAddVyrobce.h"
+#include "catalogue/CData6_1.h"
+#include "catalogue/CEdDlg1.h"
+#include "catalogue/CTypPrurez.h"
+#include "resources/ids.h"
+#include "resources/strings.h"
+
+namespace lx {
+
+namespace {
+
+namespace text {
+constexpr int name = 3;
+constexpr int newType = 4;
+constexpr int askDeleteItem = 21;
+constexpr int warning = 22;
+constexpr int newOne = 23;
+constexpr int change = 24;
+constexpr int lintel = 25;
+constexpr int section = 26;
+constexpr int unnamed = 27;
+constexpr int askDeleteType = 29;
+constexpr int renameType = 30;
+}  // namespace text
+
+}  // namespace
+
+void CData6_1::execute(int command) {
+    if (!m_setUp || readOnly()) return;
+    switch (command) {
+        case id::newType:
+            return newType();
+        case id::renameType:
+            return renameType();
+        case id::deleteType:
+            return deleteType();
+        case id::newItem:
+        case id::newItemInList:
+            return newItem();
+        case id::editItem:
+            return editItem();
+        case id::deleteItem:
+            return deleteItem();
+        default:
+            return;
+    }
+}
+
+// ---- types
+
+std::optional<Text> CData6_1::askTypeName(int& shape) {
+    const auto accepted = [this](auto& dialog) -> std::optional<Text> {
+        while (dialog.DoModal()) {
+            const int refusal = newTypeRefusal(m_items->get(), dialog.name);
+            if (refusal == 0) return dialog.name;
+            dialog.showMessage(str(refusal));
+        }
+        return std::nullopt;
+    };
+    if (steel()) {
+        CTypPrurez dialog(m_platform, m_host, here());
+        const std::optional<Text> name = accepted(dialog);
+        shape = dialog.shape;
+        return name;
+    }
+    CAddVyrobce dialog(m_platform, m_host, here());
+    dialog.title = str(text::newType);
+    dialog.label = str(text::name);
+    return accepted(dialog);
+}
+
+void CData6_1::newType() {
+    int shape = 0;
+    const std::optional<Text> name = askTypeName(shape);
+    if (!name) return;
+    m_types->add(appendType(*m_items, *name, m_request.kind, shape));
+    m_types->select(m_types->count() - 1);
+    showType();
+}
+
+void CData6_1::renameType() {
+    CPreklItem* type = selectedType();
+    if (!type) return;
+    CAddVyrobce dialog(m_platform, m_host, here());
+    dialog.title = str(text::renameType);
+    dialog.label = str(text::name);
+    dialog.name = type->designation.value_or(Text());
+    while (dialog.DoModal()) {
+        if (const int refusal = renameRefusal(m_items->get(), *type, dialog.name)) {
+            dialog.showMessage(str(refusal));
+            continue;
+        }
+        type->designation = dialog.name;
+        m_types->set(m_types->selected(), *type);
+        return showType();
+    }
+}
+
+// The first type loses its items alone.
+void CData6_1::deleteType() {
+    const CPreklItem* type = selectedType();
+    if (!type || m_types->count() < 2) return;
+    const Text question = fillIn(str(text::askDeleteType), {type->designation.value_or(Text())});
+    if (message(question, str(text::warning), MessageIcon::question, MessageButtons::yesNo) !=
+        MessageAnswer::yes) {
+        return;
+    }
+    const int position = m_types->selected();
+    lx::deleteType(*m_items, position);
+    if (position > 0) {
+        m_types->remove(position);
+        m_types->select(std::min(position, m_types->count() - 1));
+    }
+    showType();
+}
+
+// ---- items
+
+// The selected item is the model of a new one, too.
+std::optional<EditorTexts> CData6_1::askItem(bool asNew) {
+    CEdDlg1 editor(m_platform, m_host, here(), m_request.kind);
+    editor.title = Text(str(asNew ? text::newOne : text::change))
+                       .append(str(steel() ? text::section : text::lintel));
+    if (const CPreklItem* model = m_list->selected()) editor.texts = editorTexts(*model);
+    while (editor.DoModal()) {
+        if (!editor.texts.designation.empty()) return editor.texts;
+        editor.showMessage(str(text::unnamed));
+    }
+    return std::nullopt;
+}
+
+void CData6_1::newItem() {
+    if (!selectedType()) return;
+    if (const auto texts = askItem(true)) addItem(*texts);
+}
+
+void CData6_1::addItem(const EditorTexts& texts) {
+    m_list->add(appendItem(*m_items, *selectedType(), texts));
+    m_session->save();
+}
+
+void CData6_1::editItem() {
+    if (!selectedType()) return;
+    CPreklItem* item = m_list->selected();
+    const auto texts = askItem(false);
+    if (!texts) return;
+    if (!item) return addItem(*texts);
+    changeItem(*item, *texts);
+    // In chain order again: the row of before may be another item's.
+    refreshItems();
+    m_list->select(*item);
+}
+
+void CData6_1::deleteItem() {
+    const CPreklItem* item = m_list->selected();
+    if (!item) return;
+    const Text question = fillIn(str(text::askDeleteItem), {item->designation.value_or(Text())});
+    if (message(question, str(text::warning), MessageIcon::question, MessageButtons::yesNo) !=
+        MessageAnswer::yes) {
+        return;
+    }
+    m_list->remove(*item);
+    unlinkItem(*m_items, *item);
+}
+
+// ---- closing
+
+void CData6_1::pick() {
+    m_picked = m_list->allSelected();
+    confirm();
+}
+
+void CData6_1::confirm() {
+    saveColumns();
+    m_session->save();
+    close(id::ok);
+}
+
+void CData6_1::cancel() {
+    m_session->putBack();
+    close(id::cancel);
+}
+
+// Before the set-up the lists would tell of no columns and no rows.
+void CData6_1::saveColumns() {
+    if (!m_setUp) return;
+    saveColumnSettings(m_settings, m_request.kind,
+                       {m_list->columnOrder(), m_list->columnWidths(), m_types->selected(),
+                        m_list->firstSelected()},
+                       m_widths);
+}
+
+void CData6_1::close(int result) {
+    m_window->stopTimer(setUpTimer);
+    m_window->end(result);
+}
+
+}  // namespace lx

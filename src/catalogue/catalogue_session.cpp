@@ -1,0 +1,47 @@
+#include "catalogue/catalogue_session.h"
+
+#include <utility>
+
+namespace lx {
+
+CatalogueSession::CatalogueSession(Files& files, Host& host, CatalogueKind kind, Catalogue& items,
+                                   CatalogueState& state)
+    : m_files(files),
+      m_path(cataloguePath(kind, host)),
+      m_items(items),
+      m_state(state),
+      m_lock(host, HostResource::catalogue) {
+    if (!m_lock.isGranted()) return;
+    FileRead file = m_files.read(m_path);
+    // What cannot be read now may be newer than the items, and is not to be written over.
+    if (file.status == ReadStatus::failed) return;
+    m_readOnly = false;
+    if (file.status == ReadStatus::ok) {
+        if (!m_state.holds(file.bytes)) {
+            CatalogueRead read = parseCatalogue(kind, file.bytes);
+            m_items = std::move(read.head);
+            m_state = stateOf(file.bytes, read.damaged);
+            m_reloaded = true;
+        }
+        m_atOpening = std::move(file.bytes);
+    }
+    m_stateAtOpening = m_state;
+}
+
+void CatalogueSession::save() {
+    if (m_readOnly) return;
+    const Bytes bytes = catalogueBytes(m_items.get());
+    if (writeCatalogue(bytes, m_path, m_files, m_state.damaged) != 0) return;
+    m_state = stateOf(bytes, false);
+    m_written = true;
+}
+
+void CatalogueSession::putBack() {
+    if (!m_written) return;
+    const bool done = m_atOpening ? m_files.replace(m_path, *m_atOpening) : m_files.remove(m_path);
+    if (!done) return;
+    m_state = m_stateAtOpening;
+    m_written = false;
+}
+
+}  // namespace lx

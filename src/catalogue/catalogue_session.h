@@ -1,0 +1,43 @@
+// The browser's hold on one catalogue file: the host's lock, what the file held when the browser
+// opened, and every write. Given up when destroyed.
+#pragma once
+
+#include <optional>
+
+#include "catalogue/catalogue_file.h"
+#include "platform/host_access_lock.h"
+
+namespace lx {
+
+class CatalogueSession {
+public:
+    // Asks for the lock. With it, loads items anew when the file holds something else than state
+    // says: somebody has changed it before the lock was granted. All given must outlive the
+    // session.
+    CatalogueSession(Files& files, Host& host, CatalogueKind kind, Catalogue& items,
+                     CatalogueState& state);
+
+    // Without the lock nothing is ever written.
+    bool readOnly() const { return m_readOnly; }
+    // Pointers into the chain as it was before are void.
+    bool reloaded() const { return m_reloaded; }
+
+    // The items as they are now. A file that cannot be written stays as it is.
+    void save();
+    // The file as it was when the session began. Nothing is written unless save was.
+    void putBack();
+
+private:
+    Files& m_files;
+    Path m_path;
+    Catalogue& m_items;
+    CatalogueState& m_state;
+    HostAccessLock m_lock;
+    bool m_readOnly = true;
+    bool m_reloaded = false;
+    bool m_written = false;
+    std::optional<Bytes> m_atOpening;  // none = there was no file
+    CatalogueState m_stateAtOpening;
+};
+
+}  // namespace lx

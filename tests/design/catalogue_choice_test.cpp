@@ -1,0 +1,79 @@
+// Which catalogue opens over a design, and on which element.
+#include "design/catalogue_choice.h"
+
+#include <gtest/gtest.h>
+
+#include "design/page_index.h"
+#include "tests/support/designs.h"
+
+namespace lx {
+namespace {
+
+struct CatalogueOpening : testing::Test {
+    ModuleValues values;
+    DesignModel model{values};
+    std::optional<CatalogueElement> last;
+
+    void SetUp() override {
+        values.openingWidth = 1200;
+        values.wallThickness = 300;
+        model.startDesign();
+        Catalogue* end = &values.precast;
+        for (const std::int32_t group : {-1, 1, 1}) {
+            *end = std::make_unique<CPreklItem>();
+            (*end)->group = group;
+            (*end)->maxOpening = 1200;
+            (*end)->designation = group < 0 ? "T" : "K";
+            end = &(*end)->next;
+        }
+        model.rebuildPrecastOffer(0);
+    }
+    CRez* add(std::int32_t kind, std::int32_t type, std::int32_t item) {
+        CRez* added = model.chain().append(layer(kind, 50));
+        added->typeIndex = type;
+        added->itemIndex = item;
+        model.select(added);
+        return added;
+    }
+    CatalogueChoice offer(int page, int request = 1) {
+        return chooseCatalogue(model, PropertiesSource::offer, page, request, last);
+    }
+    CatalogueChoice preview(int request = 1) {
+        return chooseCatalogue(model, PropertiesSource::preview, page::precast, request, last);
+    }
+};
+
+constexpr CatalogueKind precast = CatalogueKind::precast;
+constexpr CatalogueKind steel = CatalogueKind::steel;
+
+TEST_F(CatalogueOpening, APageOpensItsOwnCatalogueOnTheSelectedElement) {
+    model.precastOffer().select(1);
+    EXPECT_EQ(offer(page::precast).element, (CatalogueElement{precast, 0, 1}));
+    EXPECT_TRUE(offer(page::precast, 257).pick);
+    EXPECT_FALSE(offer(page::precast, 1).pick);
+    EXPECT_EQ(offer(page::steel, 257).kind, steel);
+    EXPECT_FALSE(offer(page::steel, 257).pick);
+    EXPECT_EQ(offer(page::steel).element, std::nullopt);
+    // Elsewhere the catalogue shown last, on the element shown last if it is one of it.
+    last = CatalogueElement{steel, 4, 2};
+    EXPECT_EQ(offer(page::library).kind, precast);
+    EXPECT_EQ(offer(page::library).element, std::nullopt);
+    model.browserKind = steel;
+    EXPECT_EQ(offer(page::library).element, last);
+}
+
+TEST_F(CatalogueOpening, TheCurrentRecordNamesItsCatalogue) {
+    EXPECT_EQ(preview().element, std::nullopt) << "the head is no element";
+    add(kind::channelMirrored, 3, 7);
+    EXPECT_EQ(preview(257).kind, steel);
+    EXPECT_FALSE(preview(257).pick) << "picked sections would become lintels";
+    EXPECT_EQ(preview().element, (CatalogueElement{steel, 3, 7}));
+    model.browserKind = steel;
+    add(kind::precast, 1, 2);
+    EXPECT_EQ(preview().kind, precast);
+    add(kind::insulation, 1, 2);
+    EXPECT_EQ(preview().kind, steel) << "insulation is of no catalogue";
+}
+
+}  // namespace
+}  // namespace lx

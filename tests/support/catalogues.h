@@ -1,0 +1,47 @@
+// Catalogues of any size, the same on every machine and in every run.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <random>
+#include <string>
+
+#include "catalogue/records.h"
+
+namespace lx {
+
+// Types "Typ 1", "Typ 2", ..., each followed by its items; designations such as "KPV 17/145" are
+// alike only where seeds are. Every field is set somewhere, and texts are missing somewhere.
+inline Catalogue madeCatalogue(int types, int itemsOfEach, unsigned seed = 1) {
+    std::mt19937 random(seed);
+    Catalogue head;
+    Catalogue* end = &head;
+    const auto add = [&end](std::int32_t group, std::string name) -> CPreklItem& {
+        *end = std::make_unique<CPreklItem>();
+        CPreklItem& record = **end;
+        record.group = group;
+        record.designation = std::move(name);
+        end = &record.next;
+        return record;
+    };
+    for (std::int32_t type = 1; type <= types; ++type) {
+        add(-type, "Typ " + std::to_string(type)).length = type % 4;
+        for (int i = 0; i < itemsOfEach; ++i) {
+            const auto number = static_cast<std::int32_t>(random() % 1000000);
+            CPreklItem& item =
+                add(type, "KPV " + std::to_string(number % 100) + "/" +
+                              std::to_string(number / 100) + "." + std::to_string(i));
+            item.length = number % 7 == 0 ? -125 : 1000 + number % 2500;
+            item.width = 70 + number % 11;
+            item.height = 238;
+            item.maxOpening = item.length - 250;
+            item.weight = number / 1000.0;
+            item.qu = number % 3 == 0 ? 0.0 : number / 100000.0;
+            if (number % 5 != 0) item.description = "nosny, " + std::to_string(item.length);
+            if (number % 9 == 0) item.compositionMark = static_cast<char>('A' + number % 26);
+        }
+    }
+    return head;
+}
+
+}  // namespace lx
