@@ -265,6 +265,33 @@ TEST_F(SectionHand, AnEditIsTakenByTheNextActAndLeftByEsc) {
     EXPECT_EQ(takeHandOver().head()->bends, nullptr);
 }
 
+TEST_F(SectionHand, KeysGoThroughTheNumbers) {
+    given.head()->addBend(100, 40, false);
+    add(kind::insulation, 80, "I");
+    runOn([](Driver& d) {
+        clickRegion(d, "layer 1");
+        d.key("F2");
+        EXPECT_EQ(d.text(box), "100");
+        d.type("110");
+        d.key("F2");
+        EXPECT_TRUE(has(d, "bend 0 run 110"));
+        EXPECT_EQ(d.text(box), "40");
+        d.key("F2");
+        EXPECT_EQ(d.text(box), "80");
+        d.key("Shift+F2");
+        EXPECT_EQ(d.text(box), "40");
+        d.key("Esc");
+        d.key("Shift+F2");
+        EXPECT_EQ(d.text(box), "110");
+        d.key("Shift+F2");
+        EXPECT_EQ(d.text(box), "150");
+        d.type("160");
+        d.key("Enter");
+        EXPECT_TRUE(has(d, "record 1 height 160"));
+        d.press("OK");
+    });
+}
+
 TEST_F(SectionHand, AWidthThatDoesNotFitTheWallIsRefused) {
     add(kind::precast, 160, "A");
     add(kind::space, 100, "M");
