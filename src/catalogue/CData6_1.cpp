@@ -82,6 +82,7 @@ int CData6_1::run(Catalogue& items, CatalogueState& state) {
 void CData6_1::connect() {
     Dialog& window = *m_window;
     window.onInit = [this] { open(); };
+    window.answerMessage(identifyMessage, identifyAnswer);
     window.onTimer = [this](int timer) {
         if (timer == setUpTimer) setUp();
     };

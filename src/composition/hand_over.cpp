@@ -15,7 +15,8 @@ constexpr std::string_view header = "PŘEKLADY"_cz;
 
 Path handOverPath(Files& files) {
     Path path = files.temporaryFolder();
-    path += handOverFileName;
+    // Without a folder the file would lie wherever the host happens to stand.
+    if (!path.empty()) path += handOverFileName;
     return path;
 }
 

@@ -10,6 +10,7 @@ namespace lx {
 
 inline constexpr std::string_view handOverFileName = "LXDATA6I.tmp";
 
+// Empty when the system names no temporary folder.
 Path handOverPath(Files& files);
 // 1 written, 0 the file could not be created. A negative opening width first negates every record's
 // length.

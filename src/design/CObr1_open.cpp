@@ -8,6 +8,7 @@
 #include "resources/icons.h"
 #include "resources/ids.h"
 #include "resources/strings.h"
+#include "resources/templates.h"
 
 namespace lx {
 
@@ -15,9 +16,6 @@ namespace {
 
 constexpr int cataloguesMissingText = 113;
 
-// The host asks a window by this message whether it is one of the module's.
-constexpr unsigned identifyMessage = 0x7101;
-constexpr int identifyAnswer = 1;
 
 }  // namespace
 

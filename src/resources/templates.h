@@ -7,6 +7,10 @@
 
 namespace lx {
 
+// The host asks a window by this message whether it is one of the module's.
+inline constexpr unsigned identifyMessage = 0x7101;
+inline constexpr int identifyAnswer = 1;
+
 extern const DialogTemplate lintelEraseTemplate;
 
 // Asks for a name; its title and its label are set by whoever asks.

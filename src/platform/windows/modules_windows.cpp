@@ -14,11 +14,15 @@ HMODULE native(ModuleHandle module) {
     return static_cast<HMODULE>(module);
 }
 
-// With the full name, the library's own imports are looked for in its folder, not in the current
-// one.
+// The libraries that it needs in turn come from its own folder, the program's or the system's. A
+// system too old to be told so (Windows 7 without its updates) looks into the current folder for
+// what it finds in none of them.
 ModuleHandle loadFrom(const Path& folder, const char* name) {
     const Path file = folder + name;
     if (file.size() >= MAX_PATH) return nullptr;
+    constexpr DWORD folders = LOAD_LIBRARY_SEARCH_DLL_LOAD_DIR | LOAD_LIBRARY_SEARCH_DEFAULT_DIRS;
+    if (const HMODULE module = LoadLibraryExA(file.c_str(), nullptr, folders)) return module;
+    if (GetLastError() != ERROR_INVALID_PARAMETER) return nullptr;
     return LoadLibraryExA(file.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
 }
 

@@ -1,0 +1,12 @@
+# Takes the example host out of the guide: cmake -DGUIDE=host-guide.md -DOUT=example_host.cpp -P extract_example.cmake
+file(READ ${GUIDE} text)
+string(FIND "${text}" "\n// example_host.cpp" begin)
+if(begin EQUAL -1)
+  message(FATAL_ERROR "${GUIDE}: there is no example host")
+endif()
+math(EXPR begin "${begin} + 1")
+string(SUBSTRING "${text}" ${begin} -1 text)
+string(FIND "${text}" "\n```" end)
+math(EXPR end "${end} + 1")
+string(SUBSTRING "${text}" 0 ${end} text)
+file(WRITE ${OUT} "${text}")
