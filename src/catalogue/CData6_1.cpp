@@ -146,7 +146,25 @@ void CData6_1::setUp() {
     m_setUp = true;
 }
 
+void CData6_1::selectByName() {
+    const std::vector<CPreklItem*> types = typeRecords(m_items->get());
+    const auto type = std::find_if(types.begin(), types.end(), [this](const CPreklItem* one) {
+        return one->designation == m_request.typeName;
+    });
+    if (type == types.end()) {
+        refreshItems();
+        return;
+    }
+    m_types->select(static_cast<int>(type - types.begin()));
+    refreshItems();
+    const ItemRows& rows = m_list->rows();
+    for (int row = 0; row < rows.count(); ++row) {
+        if (rows.record(row)->designation == m_request.elementName) return m_list->selectRow(row);
+    }
+}
+
 void CData6_1::selectStart(const ColumnSettings& stored) {
+    if (!m_standAlone && reloaded()) return selectByName();
     const auto has = [this](int type) { return type >= 0 && type < m_types->count(); };
     int type = m_standAlone ? stored.type : m_request.type;
     int row = m_standAlone ? stored.row : 0;

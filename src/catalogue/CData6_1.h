@@ -26,6 +26,9 @@ struct BrowserRequest {
     bool pick = false;                    // the user may choose items for the caller
     std::optional<ElementPlace> element;  // shown first
     int type = 0;                         // shown first without an element, position from 0
+    // The same by their names: positions mean nothing when somebody else has changed the catalogue.
+    Text typeName;
+    Text elementName;
 };
 
 class CData6_1 {
@@ -65,6 +68,7 @@ private:
     void makeResizable();
     void setUp();
     void selectStart(const ColumnSettings& stored);
+    void selectByName();
 
     // ---- what is shown
     CPreklItem* selectedType() const;  // null without one

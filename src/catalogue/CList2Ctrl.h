@@ -41,6 +41,7 @@ public:
 
     // -1 = none.
     int firstSelected() const;
+    const ItemRows& rows() const { return m_rows; }
     CPreklItem* selected() const { return m_rows.record(firstSelected()); }
     // In row order.
     std::vector<const CPreklItem*> allSelected() const;

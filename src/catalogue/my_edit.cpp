@@ -50,8 +50,9 @@ CMyEdit::CMyEdit(Platform& platform, Dialog& dialog, Edit& edit, int maxLength, 
 }
 
 KeyAnswer CMyEdit::keyDown(const KeyEvent& event) {
-    // Shortcuts such as Ctrl+A and Alt+F4 produce no character.
-    if (event.ctrl || event.alt) return KeyAnswer::pass;
+    // Shortcuts such as Ctrl+A and Alt+F4 produce no character; both together are AltGr, which
+    // does.
+    if (event.ctrl != event.alt) return KeyAnswer::pass;
     if (event.key == key::enter) {
         formatField();
         return KeyAnswer::asTab;

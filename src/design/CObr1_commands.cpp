@@ -11,6 +11,28 @@
 
 namespace lx {
 
+namespace {
+
+// Null when there is no type at that position.
+const CPreklItem* typeAt(const CPreklItem* catalogue, int position) {
+    for (const CPreklItem* record = catalogue; record != nullptr; record = record->next.get()) {
+        if (record->isType() && position-- == 0) return record;
+    }
+    return nullptr;
+}
+
+// -1 when that record is no longer a type of the catalogue.
+int typePosition(const CPreklItem* catalogue, const CPreklItem* type) {
+    int position = 0;
+    for (const CPreklItem* record = catalogue; record != nullptr; record = record->next.get()) {
+        if (record == type) return position;
+        if (record->isType()) ++position;
+    }
+    return -1;
+}
+
+}  // namespace
+
 void CObr1::SetBends(int shape) {
     EndEdit();
     CRez* head = m_model.head();
@@ -42,18 +64,26 @@ void CObr1::OpenCatalogue(int request) {
     if (choice.element) m_browserElement = choice.element;
     const bool steel = choice.kind == CatalogueKind::steel;
     ModuleValues& values = m_context.values;
+    Catalogue& catalogue = steel ? values.steel : values.precast;
+    OfferPage& page = steel ? *m_steel : *m_precast;
+    const CPreklItem* selected = typeAt(catalogue.get(), page.selectedType());
+
     BrowserRequest opened;
     opened.kind = choice.kind;
     opened.pick = choice.pick;
-    opened.type = (steel ? m_steel : m_precast)->selectedType();
-    if (choice.element) opened.element = {choice.element->typeIndex, choice.element->itemIndex};
+    opened.type = page.selectedType();
+    opened.typeName = page.selectedTypeName();
+    if (choice.element) {
+        opened.element = {choice.element->typeIndex, choice.element->itemIndex};
+        const CPreklItem* type = typeAt(catalogue.get(), choice.element->typeIndex);
+        if (type != nullptr) opened.typeName = type->designation.value_or(Text());
+        opened.elementName = choice.element->name;
+    }
     CData6_1 browser(m_context.platform, m_context.files, m_context.host, values.columnWidths,
                      Owner{m_window.get(), m_owner.hostWindow});
-    browser.runOn(steel ? values.steel : values.precast,
-                  steel ? values.steelState : values.precastState, opened);
+    browser.runOn(catalogue, steel ? values.steelState : values.precastState, opened);
 
-    refillTypes(*m_precast, values.precast.get());
-    refillTypes(*m_steel, values.steel.get());
+    refillTypes(page, catalogue.get(), browser.reloaded() ? nullptr : selected);
     // The picked records belong to the catalogue: the offer takes copies of them before it can
     // change again.
     m_model.rebuildPrecastOffer(m_precast->selectedType(), browser.picked());
@@ -61,14 +91,19 @@ void CObr1::OpenCatalogue(int request) {
     RebuildSteelOffer();
 }
 
-// The type that was selected, by its name, or by its place when the user has renamed it.
-void CObr1::refillTypes(OfferPage& page, const CPreklItem* catalogue) {
+// The type that was selected: itself, else by its name, else by its place.
+void CObr1::refillTypes(OfferPage& page, const CPreklItem* catalogue, const CPreklItem* selected) {
     const std::vector<Text> names = typeNames(catalogue);
     const Text name = page.selectedTypeName();
-    const int place = std::min(page.selectedType(), static_cast<int>(names.size()) - 1);
-    const auto same = std::find(names.begin(), names.end(), name);
+    int place = typePosition(catalogue, selected);
+    if (place < 0) {
+        const auto same = std::find(names.begin(), names.end(), name);
+        place = same != names.end()
+                    ? static_cast<int>(same - names.begin())
+                    : std::min(page.selectedType(), static_cast<int>(names.size()) - 1);
+    }
     page.fillTypes(names);
-    page.selectType(same == names.end() ? place : static_cast<int>(same - names.begin()));
+    page.selectType(place);
 }
 
 void CObr1::openCommandMenu() {

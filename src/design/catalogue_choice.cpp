@@ -8,7 +8,8 @@ namespace {
 
 std::optional<CatalogueElement> elementOf(const CRez* record, CatalogueKind kind) {
     if (record == nullptr || record->isHead()) return std::nullopt;
-    return CatalogueElement{kind, record->typeIndex, record->itemIndex};
+    return CatalogueElement{kind, record->typeIndex, record->itemIndex,
+                            Text(record->nameOrEmpty())};
 }
 
 CatalogueKind kindOf(const CRez& record, CatalogueKind otherwise) {

@@ -12,6 +12,7 @@ struct CatalogueElement {
     CatalogueKind kind = CatalogueKind::precast;
     std::int32_t typeIndex = 0;
     std::int32_t itemIndex = 0;
+    Text name;  // its designation
     bool operator==(const CatalogueElement&) const = default;
 };
 

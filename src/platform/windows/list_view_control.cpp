@@ -12,7 +12,7 @@ namespace {
 
 // Icon resource numbers of the arrows in headings, in image list order.
 constexpr int arrowIcons[] = {2014, 2015};
-constexpr Size arrowSize{12, 12};
+constexpr Size arrowSize{16, 16};
 
 bool isPermutation(const std::vector<int>& order) {
     std::vector<bool> seen(order.size());
@@ -187,8 +187,11 @@ void WindowsListView::selectRows(const std::vector<int>& rows) {
         setState(-1, LVIS_SELECTED, LVIS_SELECTED);
         return;
     }
+    send(WM_SETREDRAW, FALSE);
     setState(-1, 0, LVIS_SELECTED);
     for (const int row : m_selected) setState(row, LVIS_SELECTED, LVIS_SELECTED);
+    send(WM_SETREDRAW, TRUE);
+    redraw();
 }
 
 void WindowsListView::select(int row) {
