@@ -198,11 +198,20 @@ std::string headingArrow(HWND listView, int column) {
     return item.iImage == 0 ? " ^" : " v";
 }
 
+// A user scrolls the list until the heading is to be seen.
 POINT pointInHeading(HWND listView, int column) {
     const HWND header = headerOf(listView);
     RECT area{};
     SendMessageW(header, HDM_GETITEMRECT, asParameter(column), reinterpret_cast<LPARAM>(&area));
-    return middleOf(visiblePart(header, area));
+    RECT client{};
+    GetClientRect(listView, &client);
+    RECT seen = area;
+    MapWindowPoints(header, listView, reinterpret_cast<POINT*>(&seen), 2);
+    if (seen.left < client.left || seen.right > client.right) {
+        SendMessageW(listView, LVM_SCROLL, asParameter(static_cast<int>(seen.left)), 0);
+    }
+    const LONG width = std::min(area.right - area.left, client.right - client.left);
+    return {area.left + width / 2, (area.top + area.bottom) / 2};
 }
 
 }  // namespace lx::host
