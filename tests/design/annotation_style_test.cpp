@@ -60,23 +60,20 @@ TEST_F(StyleOnFile, TakesWhateverIsStored) {
 }
 
 TEST(StyleRules, APolygonNeedsThreeEdgesWhetherItIsUsedOrNot) {
-    const std::pair<const char*, int> cases[] = {{"3", 0},
-                                                 {"3.7", 0},
-                                                 {" 12x", 0},
-                                                 {"99999999999", 0},
-                                                 {"2", 111},
-                                                 {"2.9", 111},
-                                                 {"-5", 111},
-                                                 {"", 111},
-                                                 {"three", 111},
-                                                 {"0000000000000000002", 111},
-                                                 {"00000000000000000003", 111}};
-    for (const auto& [typed, refusal] : cases) {
+    const auto refusal = [](const char* typed, bool used) {
         AnnotationStyle style;
         style.edges = typed;
-        EXPECT_EQ(styleRefusal(style), refusal) << typed;
-        style.hasEdges = true;
-        EXPECT_EQ(styleRefusal(style), refusal) << typed;
+        style.hasEdges = used;
+        return styleRefusal(style);
+    };
+    for (const bool used : {false, true}) {
+        for (const char* typed : {"3", "3.7", " 12x", "99999999999"}) {
+            EXPECT_EQ(refusal(typed, used), 0) << typed;
+        }
+        for (const char* typed :
+             {"2", "2.9", "-5", "", "three", "0000000000000000002", "00000000000000000003"}) {
+            EXPECT_EQ(refusal(typed, used), 111) << typed;
+        }
     }
 }
 
@@ -91,24 +88,6 @@ TEST(StyleRules, ATextStyleIsFoundByItsBeginning) {
     entries.emplace_back("ČÁRY"_cz);
     EXPECT_EQ(entryBeginningWith(entries, "čá"_cz), 4);
     EXPECT_EQ(entryBeginningWith({}, "ROM"), -1);
-}
-
-TEST(StyleRules, WhatCanBeEditedFollowsWhatIsInsertedAndTheStylesOwnBoxes) {
-    for (int bits = 0; bits < 64; ++bits) {
-        Annotation inserted;
-        inserted.description = (bits & 1) != 0;
-        inserted.bubble = (bits & 2) != 0;
-        inserted.foldedSection = inserted.diagonals = (bits & 4) != 0;
-        AnnotationStyle style;
-        style.auxiliaryLine = (bits & 8) != 0;
-        style.followsOpening = (bits & 16) != 0;
-        style.hasEdges = (bits & 32) != 0;
-        const bool bubble = (bits & 2) != 0;
-        const UsableStyle expected{(bits & 1) != 0, bubble, (bits & 10) == 10, (bits & 18) == 2,
-                                   (bits & 34) == 34};
-        EXPECT_EQ(usableStyle(inserted, style), expected) << bits;
-        EXPECT_EQ(hasAnnotationStyle(inserted), (bits & 3) != 0) << bits;
-    }
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 // What opening and confirming read and write: the library, its lock, the hand-over, the settings.
 #include <gtest/gtest.h>
 
-#include "composition/hand_over.h"
 #include "design/confirmation.h"
 #include "tests/support/bench.h"
 #include "tests/support/designs.h"
@@ -40,37 +39,6 @@ struct DesignSession : testing::Test {
     }
 };
 
-TEST_F(DesignSession, ConfirmingStoresHandsOverAndRemembers) {
-    EXPECT_EQ(library.LoadProjects(), 0);
-    EXPECT_TRUE(library.LoadLibrary(model));
-    addLayer(70);
-    EXPECT_EQ(confirm(), ConfirmationAnswer::done);
-    EXPECT_EQ(result.text, "A1\r\nD");
-    EXPECT_EQ(result.insert, 1 + 2 + 8);
-    EXPECT_EQ(result.foldedSection, 0);
-    EXPECT_EQ(parseLibrary(libraryBytes(), 0).entries.at(0).label, "A1 ");
-    EXPECT_EQ(parseProjects(files.content["lib/akce.bk6"]).projects.at(0).name, "DEFAULT");
-    const RezChain given = parseHandOver(files.content["tmp/LXDATA6I.tmp"]);
-    EXPECT_EQ(designBytes(given.head()), designBytes(model.head()));
-    EXPECT_EQ(given.head()->label(), "A1");
-    EXPECT_EQ(settings.annotation(), input.annotation);
-    EXPECT_FALSE(settings.bearingCheck());
-    EXPECT_EQ(settings.tab(), 1);
-    EXPECT_EQ(settings.precastType(), 2);
-    EXPECT_EQ(settings.steelType(), 3);
-}
-
-TEST_F(DesignSession, AMissingNameIsRefusedAfterTheCheckBoxesAreStored) {
-    input.bubbleName = "\xC8\x31";
-    EXPECT_EQ(confirm(), ConfirmationAnswer::bubbleMissing);
-    EXPECT_EQ(result.text, "\xC8\x31");
-    EXPECT_EQ(result.insert, 0);
-    EXPECT_EQ(settings.annotation(), input.annotation);
-    EXPECT_EQ(settings.tab(), 0);
-    EXPECT_EQ(libraryBytes(), "");
-    EXPECT_FALSE(handedOver());
-}
-
 TEST_F(DesignSession, ADifferentDesignKeepsItsLabelAndTheSameOneIsReplaced) {
     library.LoadLibrary(model);
     EXPECT_EQ(confirm(), ConfirmationAnswer::done);
@@ -94,16 +62,6 @@ TEST_F(DesignSession, ADifferentDesignKeepsItsLabelAndTheSameOneIsReplaced) {
     input.bubbleName = "A1 x";
     EXPECT_EQ(confirm(), ConfirmationAnswer::done);
     EXPECT_EQ(parseLibrary(libraryBytes(), 0).entries.size(), 2U);
-}
-
-TEST_F(DesignSession, AReadOnlyLibraryIsPassedOver) {
-    host.lockAnswer[HostResource::library] = 0;
-    EXPECT_EQ(confirm(), ConfirmationAnswer::done);
-    EXPECT_EQ(libraryBytes(), "");
-    EXPECT_EQ(files.content.count("lib/akce.bk6"), 0U);
-    EXPECT_TRUE(handedOver());
-    EXPECT_EQ(host.lockRequests.size(), 1U);
-    EXPECT_EQ(host.lockRequests.at(0), (FakeHost::LockRequest{HostResource::library, 9}));
 }
 
 TEST_F(DesignSession, AFailureToStoreIsToldAndNothingIsHandedOver) {

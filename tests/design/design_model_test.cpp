@@ -77,17 +77,6 @@ TEST_F(DesignModelTest, ACompositionStartsFromTheSelectedElement) {
     EXPECT_EQ(model.current(), model.head()->next);
 
     EXPECT_FALSE(model.ComposeSteel());
-    values.steel = std::make_unique<CPreklItem>();
-    values.steel->group = -1;
-    values.steel->length = kind::channel;
-    values.steel->next = std::make_unique<CPreklItem>();
-    values.steel->next->group = 1;
-    values.steel->next->width = 60;
-    model.rebuildSteelOffer(0);
-    EXPECT_TRUE(model.ComposeSteel());
-    EXPECT_EQ(model.LayerCount(), 6);
-    EXPECT_EQ(model.current(), model.head()->next);
-    EXPECT_EQ(model.steelOffer().row(0).kind, kind::channelMirrored);
 }
 
 TEST_F(DesignModelTest, PropertiesFollowTheSourceAndThePage) {
@@ -114,23 +103,6 @@ TEST_F(DesignModelTest, AHandedOverDesignReplacesTheHeadOfTheCall) {
 
     model.adoptHandOver(RezChain());
     EXPECT_EQ(model.head()->label(), "Z");
-}
-
-TEST_F(DesignModelTest, TheBlockCountsOnlyWithALevelAndKnownUnits) {
-    values.block.openingKind = 8;
-    values.block.width2 = 1600.4;
-    values.block.bend1Step = 0.1;
-    values.block.bend1Run = 0.15;
-    model.takeOpeningBlock(1);
-    values.level = 2;
-    model.takeOpeningBlock(0);
-    EXPECT_EQ(values.openingWidth, 1200);
-    EXPECT_EQ(model.head()->bends, nullptr);
-    model.takeOpeningBlock(1);
-    EXPECT_EQ(values.openingWidth, 1600.4);
-    ASSERT_NE(model.head()->bends, nullptr);
-    EXPECT_EQ(model.head()->bends->run, 150);
-    EXPECT_EQ(model.head()->length, 1200);
 }
 
 TEST_F(DesignModelTest, TheDefaultEntryComesFirstWhateverTheLabelsAre) {

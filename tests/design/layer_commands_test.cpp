@@ -24,6 +24,15 @@ struct LayerCommands : testing::Test {
         layOut(*design.head());
         return added;
     }
+    void appendLintels(std::initializer_list<const char*> names) {
+        for (const char* name : names) append(layer(kind::precast, 70, name));
+    }
+    // "kind width x height, length, bearing, letter" of the current record.
+    std::string made() const {
+        return std::to_string(current->kind) + " " + std::to_string(current->width) + "x" +
+               std::to_string(current->height) + ", " + std::to_string(current->length) + ", " +
+               std::to_string(current->bearing) + ", " + current->letter;
+    }
     std::string names() const {
         std::string text;
         for (const CRez* one = design.head()->next; one; one = one->next) {
@@ -48,30 +57,42 @@ TEST_F(LayerCommands, ALintelGoesBehindTheCurrentRecord) {
     EXPECT_EQ(addPrecast(edit(), nullptr), CommandAnswer::nothing);
 }
 
-TEST_F(LayerCommands, TheFirstTypedLayerDecidesWhetherALintelMayBeAdded) {
+// The first typed layer decides.
+TEST_F(LayerCommands, LintelsAndSectionsAreNotMixed) {
     append(layer(kind::insulation, 50));
     append(layer(kind::precast, 70));
     append(layer(kind::channel, 60));
     EXPECT_EQ(addPrecast(edit(), element.get()), CommandAnswer::done);
-    for (const std::int32_t typed : {kind::channelMirrored, kind::monolith}) {
+    RezChain steel;
+    CRez* end = steel.append(headOf(300));
+    steel.append(layer(kind::angleMirrored, 60));
+    steel.append(layer(kind::precast, 70));
+    EXPECT_EQ(addSteel({steel, end}, element.get()), CommandAnswer::done);
+    const struct {
+        CommandAnswer (*command)(DesignEdit, const CRez*);
+        std::int32_t first, then;
+    } refused[] = {{addPrecast, kind::channelMirrored, kind::precast},
+                   {addPrecast, kind::monolith, kind::precast},
+                   {addSteel, kind::precast, kind::beam},
+                   {addSteel, kind::monolith, kind::beam}};
+    for (const auto& one : refused) {
         RezChain other;
         CRez* place = other.append(headOf(300));
         other.append(layer(kind::space, 10));
-        other.append(layer(typed, 60));
-        other.append(layer(kind::precast, 70));
-        EXPECT_EQ(addPrecast({other, place}, nullptr), CommandAnswer::wrongType);
+        other.append(layer(one.first, 60));
+        other.append(layer(one.then, 70));
+        EXPECT_EQ(one.command({other, place}, nullptr), CommandAnswer::wrongType);
+        EXPECT_EQ(one.command({other, place}, element.get()), CommandAnswer::wrongType);
         EXPECT_EQ(layerCount(*other.head()), 3);
+        EXPECT_EQ(other.head()->maxOpening, 0);
     }
 }
 
 TEST_F(LayerCommands, InsulationFillsTheFreeSpaceLikeTheLayerBeforeIt) {
     EXPECT_EQ(addInsulation(edit()), CommandAnswer::done);
     EXPECT_EQ(design.head()->maxOpening, 150);
-    EXPECT_EQ(current->kind, kind::insulation);
     EXPECT_EQ(current->name, "IZOLACE");
-    EXPECT_EQ(current->width, 300);
-    EXPECT_EQ(current->height, 200);
-    EXPECT_EQ(current->length, 1300);
+    EXPECT_EQ(made(), "101 300x200, 1300, 0,  ");
 
     current->width = 220;
     layOut(*design.head());
@@ -82,11 +103,7 @@ TEST_F(LayerCommands, InsulationFillsTheFreeSpaceLikeTheLayerBeforeIt) {
     lintel->letter = 'X';
     current = lintel;
     EXPECT_EQ(addInsulation(edit()), CommandAnswer::done);
-    EXPECT_EQ(current->width, 10);
-    EXPECT_EQ(current->height, 238);
-    EXPECT_EQ(current->length, 1234);
-    EXPECT_EQ(current->bearing, 117);
-    EXPECT_EQ(current->letter, 'X');
+    EXPECT_EQ(made(), "101 10x238, 1234, 117, X");
     EXPECT_EQ(names(), "IZOLACE P IZOLACE* ");
     current->width = 1;
     layOut(*design.head());
@@ -99,9 +116,7 @@ TEST_F(LayerCommands, ASpaceNeedsALayerBeforeItAndFiveMillimetres) {
     current->typeIndex = 3;
     EXPECT_EQ(addSpace(edit()), CommandAnswer::done);
     EXPECT_EQ(names(), "P MEZERA* ");
-    EXPECT_EQ(current->kind, kind::space);
-    EXPECT_EQ(current->width, 5);
-    EXPECT_EQ(current->height, 100);
+    EXPECT_EQ(made(), "102 5x100, 0, 0,  ");
     EXPECT_EQ(current->typeIndex, 3);
     current->width = 1;
     layOut(*design.head());
@@ -110,9 +125,7 @@ TEST_F(LayerCommands, ASpaceNeedsALayerBeforeItAndFiveMillimetres) {
 
 TEST_F(LayerCommands, RemovingMakesTheNextLayerCurrentElseTheOneBefore) {
     EXPECT_EQ(removeCurrent(edit()), CommandAnswer::nothing);
-    append(layer(kind::precast, 70, "A"));
-    append(layer(kind::precast, 70, "B"));
-    append(layer(kind::precast, 70, "C"));
+    appendLintels({"A", "B", "C"});
     current = design.head()->next;
     EXPECT_EQ(removeCurrent(edit()), CommandAnswer::done);
     EXPECT_EQ(names(), "B* C ");
@@ -127,9 +140,7 @@ TEST_F(LayerCommands, RemovingMakesTheNextLayerCurrentElseTheOneBefore) {
 
 TEST_F(LayerCommands, TheMenuMakesTheRecordBeforeTheRemovedLayerCurrent) {
     EXPECT_EQ(removeCurrentGoingBack(edit()), CommandAnswer::nothing);
-    append(layer(kind::precast, 70, "A"));
-    append(layer(kind::precast, 70, "B"));
-    append(layer(kind::precast, 70, "C"));
+    appendLintels({"A", "B", "C"});
     current = design.head()->next->next;
     EXPECT_EQ(removeCurrentGoingBack(edit()), CommandAnswer::done);
     EXPECT_EQ(names(), "A* C ");
@@ -159,32 +170,10 @@ TEST_F(LayerCommands, OnlyASectionAtTheEndTakesTheLengthOfTheDay) {
     EXPECT_EQ(section->length, 777);
 }
 
-TEST_F(LayerCommands, ASectionGoesIntoAnEmptyOrSteelDesignAlone) {
-    append(layer(kind::insulation, 50));
-    append(layer(kind::angleMirrored, 60));
-    append(layer(kind::precast, 70));
-    EXPECT_EQ(addSteel(edit(), element.get()), CommandAnswer::done);
-    for (const std::int32_t typed : {kind::precast, kind::monolith}) {
-        RezChain other;
-        CRez* place = other.append(headOf(300));
-        other.append(layer(kind::space, 10));
-        other.append(layer(typed, 60));
-        other.append(layer(kind::beam, 70));
-        EXPECT_EQ(addSteel({other, place}, nullptr), CommandAnswer::wrongType);
-        EXPECT_EQ(addSteel({other, place}, element.get()), CommandAnswer::wrongType);
-        EXPECT_EQ(layerCount(*other.head()), 3);
-        EXPECT_EQ(other.head()->maxOpening, 0);
-    }
-}
-
 TEST_F(LayerCommands, InsulationBesideSteelNestsAndDoesNotFillAnEmptyWall) {
     EXPECT_EQ(addSteelInsulation(edit()), CommandAnswer::done);
     EXPECT_EQ(design.head()->maxOpening, 150);
-    EXPECT_EQ(current->kind, kind::insulation);
-    EXPECT_EQ(current->name, "IZOLACE");
-    EXPECT_EQ(current->width, 80);
-    EXPECT_EQ(current->height, 200);
-    EXPECT_EQ(current->length, 1300);
+    EXPECT_EQ(made(), "101 80x200, 1300, 0,  ");
 
     layOut(*design.head());
     CRez* section = current = append(layer(kind::channel, 220, "S"));
@@ -193,36 +182,32 @@ TEST_F(LayerCommands, InsulationBesideSteelNestsAndDoesNotFillAnEmptyWall) {
     section->letter = 'Q';
     EXPECT_EQ(addSteelInsulation(edit()), CommandAnswer::done);
     EXPECT_EQ(names(), "IZOLACE S IZOLACE* ");
-    EXPECT_EQ(current->width, 220);
-    EXPECT_EQ(current->height, 140);
-    EXPECT_EQ(current->length, 1300);
-    EXPECT_EQ(current->letter, 'Q');
+    EXPECT_EQ(made(), "101 220x140, 1300, 0, Q");
 }
 
 TEST_F(LayerCommands, InsulationBesideSteelNeedsTenMillimetresOfRoom) {
-    const auto widthFor = [](std::int32_t kind, std::int32_t width, std::int32_t wall) {
+    const auto widthBehind = [](std::unique_ptr<CRez> section, std::int32_t wall) {
         RezChain other;
         CRez* place = other.append(headOf(wall));
-        place = other.append(layer(kind, width));
+        if (section) place = other.append(std::move(section));
         layOut(*other.head());
         const CommandAnswer answer = addSteelInsulation({other, place});
         return answer == CommandAnswer::done ? place->width : -1;
     };
-    EXPECT_EQ(widthFor(kind::beam, 100, 105), 55);
-    EXPECT_EQ(widthFor(kind::beam, 19, 20), 10);
-    EXPECT_EQ(widthFor(kind::beam, 19, 19), -1);
-    EXPECT_EQ(widthFor(kind::angle, 60, 10), 10);
-    EXPECT_EQ(widthFor(kind::angleMirrored, 60, 70), 10);
-    EXPECT_EQ(widthFor(kind::angleMirrored, 60, 69), -1);
-    EXPECT_EQ(widthFor(4, 60, 160), 100);
-    const auto inEmptyWall = [](std::int32_t wall) {
-        RezChain other;
-        CRez* place = other.append(headOf(wall));
-        addSteelInsulation({other, place});
-        return place->width;
-    };
-    EXPECT_EQ(inEmptyWall(79), 79);
-    EXPECT_EQ(inEmptyWall(81), 80);
+    const struct {
+        std::int32_t kind, width, wall, insulation;
+    } cases[] = {{kind::beam, 100, 105, 55},
+                 {kind::beam, 19, 20, 10},
+                 {kind::beam, 19, 19, -1},
+                 {kind::angle, 60, 10, 10},
+                 {kind::angleMirrored, 60, 70, 10},
+                 {kind::angleMirrored, 60, 69, -1},
+                 {4, 60, 160, 100}};
+    for (const auto& one : cases) {
+        EXPECT_EQ(widthBehind(layer(one.kind, one.width), one.wall), one.insulation) << one.wall;
+    }
+    EXPECT_EQ(widthBehind(nullptr, 79), 79);
+    EXPECT_EQ(widthBehind(nullptr, 81), 80);
     current = nullptr;
     EXPECT_EQ(addSteelInsulation(edit()), CommandAnswer::nothing);
     EXPECT_EQ(addMonolith(edit()), CommandAnswer::nothing);
@@ -233,11 +218,8 @@ TEST_F(LayerCommands, InsulationBesideSteelNeedsTenMillimetresOfRoom) {
 TEST_F(LayerCommands, ACastPartFillsTheFreeSpaceInAnyDesign) {
     EXPECT_EQ(addMonolith(edit()), CommandAnswer::done);
     EXPECT_EQ(design.head()->maxOpening, 150);
-    EXPECT_EQ(current->kind, kind::monolith);
     EXPECT_EQ(current->name, "MONOLIT");
-    EXPECT_EQ(current->width, 300);
-    EXPECT_EQ(current->height, 300);
-    EXPECT_EQ(current->length, 1300);
+    EXPECT_EQ(made(), "103 300x300, 1300, 0,  ");
 
     // A short bearing would not carry it.
     for (const auto& [bearing, settled] : {std::pair{40, 150}, {49, 150}, {50, 50}, {-3, 150}}) {
@@ -263,22 +245,16 @@ TEST_F(LayerCommands, ACastPartFillsTheFreeSpaceInAnyDesign) {
 TEST_F(LayerCommands, TheMenuInsertsThinInsulationWithoutAskingForRoom) {
     design.head()->height = 2300;
     EXPECT_EQ(insertInsulation(edit()), CommandAnswer::done);
-    EXPECT_EQ(current->kind, kind::insulation);
-    EXPECT_EQ(current->width, 30);
-    EXPECT_EQ(current->length, 1000);
-    EXPECT_EQ(current->height, 2300);
+    EXPECT_EQ(made(), "101 30x2300, 1000, 0,  ");
     CRez* lintel = current = append(layer(kind::precast, 400, "P"));
-    append(layer(kind::precast, 70, "Q"));
+    appendLintels({"Q"});
     lintel->height = 238;
     lintel->length = 1190;
     lintel->bearing = 125;
     EXPECT_EQ(insertInsulation(edit()), CommandAnswer::done);
     EXPECT_EQ(names(), "IZOLACE P IZOLACE* Q ");
-    EXPECT_EQ(current->width, 30);
     EXPECT_EQ(current->offset, 430);
-    EXPECT_EQ(current->length, 1190);
-    EXPECT_EQ(current->height, 238);
-    EXPECT_EQ(current->bearing, 0);
+    EXPECT_EQ(made(), "101 30x238, 1190, 0,  ");
 }
 
 TEST_F(LayerCommands, ButtonsAreOfferedByTheFreeSpace) {

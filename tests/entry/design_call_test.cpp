@@ -65,46 +65,6 @@ TEST_F(DesignCall, TheBoundsPassAndCancelHandsBackWhatCameIn) {
     }
 }
 
-TEST_F(DesignCall, OkHandsBackNameDescriptionAndWhatToDraw) {
-    a = b = 0;
-    user().inDialog("Návrh překladu", [](Driver& d) {
-        d.selectTab("Geometrie");
-        d.focus("Označení bubliny:");
-        d.key("Ctrl+A");
-        d.type("P1");
-        d.focus("Popis:");
-        d.key("Ctrl+A");
-        d.type("D");
-        d.check("Bublinu", true);
-        d.check("Sklopený řez", true);
-        d.press("OK");
-    });
-    EXPECT_EQ(call(1200, 300), LX_DIALOG_OK);
-    EXPECT_EQ(user().failure(), "");
-    EXPECT_STREQ(text.c_str(), "P1\r\nD");
-    EXPECT_EQ(a, LX_INSERT_LINTEL | LX_INSERT_BUBBLE);
-    EXPECT_EQ(b, LX_FOLDED_SECTION);
-}
-
-TEST_F(DesignCall, CancelAfterARefusedOkHandsBackThatAttempt) {
-    user().inDialog("Návrh překladu", [](Driver& d) {
-        d.selectTab("Geometrie");
-        d.focus("Označení bubliny:");
-        d.key("Ctrl+A");
-        d.type("Č1");
-        d.press("OK");
-    });
-    user().then([](Driver& d) { d.answer("OK"); });
-    user().inDialog("Návrh překladu", [](Driver& d) { d.press("Zrušit"); });
-    EXPECT_EQ(call(1200, 300), LX_DIALOG_CANCEL);
-    EXPECT_EQ(user().failure(), "");
-    EXPECT_STREQ(text.c_str(),
-                 "\xC8"
-                 "1");
-    EXPECT_EQ(a, 6);
-    EXPECT_EQ(b, 1);
-}
-
 TEST_F(DesignCall, NullPointersAreNotFollowed) {
     user().inDialog("Návrh překladu", [](Driver& d) { d.press("Zrušit"); });
     EXPECT_EQ(CallLXdata6(nullptr, 0, 0, 0, 1200, 300, nan, nullptr, nullptr, nullptr, {}, 0),

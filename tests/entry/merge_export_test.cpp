@@ -7,6 +7,7 @@
 #include "catalogue/catalogue_file.h"
 #include "entry/merge_call.h"
 #include "tests/entry/fake_modules.h"
+#include "tests/support/catalogues.h"
 #include "tests/support/failing_files.h"
 #include "tests/support/memory_files.h"
 
@@ -40,15 +41,8 @@ private:
     }
 };
 
-Bytes catalogueOf(const char* type, std::int32_t shape, const char* item, std::int32_t length) {
-    CPreklItem head;
-    head.length = shape;
-    head.designation = type;
-    head.next = std::make_unique<CPreklItem>();
-    head.next->group = 1;
-    head.next->length = length;
-    head.next->designation = item;
-    return catalogueBytes(&head);
+Bytes fileOf(const char* type, std::int32_t shape, const char* item, std::int32_t length) {
+    return catalogueBytes(catalogueOf({{-1, type, shape}, {1, item, length}}).get());
 }
 
 struct MergeCall : testing::Test {
@@ -57,9 +51,9 @@ struct MergeCall : testing::Test {
     const Path precast = "K/LXDATA6.DAT";
     const Path steel = "K/LXDATA6S.DAT";
     const Path library = "K/preklady.bk6";
-    const Bytes old = catalogueOf("T", 7, "i", 100);
-    const Bytes brought = catalogueOf("T", 9, "i", 200);
-    const Bytes updated = catalogueOf("T", 7, "i", 200);
+    const Bytes old = fileOf("T", 7, "i", 100);
+    const Bytes brought = fileOf("T", 9, "i", 200);
+    const Bytes updated = fileOf("T", 7, "i", 200);
     const Calls lockedCatalogue{"folder 3 1024", "request 3 9", "release 3 4"};
     const Calls lockedLibrary{"folder 3 1024", "request 2 9", "release 2 4"};
 
@@ -80,19 +74,19 @@ TEST_F(MergeCall, TheEndOfTheNameChoosesTheCatalogue) {
     EXPECT_EQ(call("new/LXDATA6S.DAT", "", LX_MERGE_CATALOGUE), LX_MERGE_DONE);
     EXPECT_EQ(files.content[steel], updated);
     EXPECT_EQ(files.content[precast], old);
-    files.content["new/lxdata6s.dat"] = catalogueOf("T", 0, "j", 0);
+    files.content["new/lxdata6s.dat"] = fileOf("T", 0, "j", 0);
     EXPECT_EQ(call("new/lxdata6s.dat", "", LX_MERGE_CATALOGUE), LX_MERGE_DONE);
     EXPECT_NE(files.content[precast].find("j"), Bytes::npos);
     EXPECT_EQ(files.content[steel], updated);
     EXPECT_EQ(files.content.size(), 6U) << "nothing is left beside";
 
     // Only a steel catalogue is read with its rule for a missing shape.
-    files.content["S.DAT"] = files.content["xLXDATA6S.DAT"] = catalogueOf("N", 0, "n", 5);
+    files.content["S.DAT"] = files.content["xLXDATA6S.DAT"] = fileOf("N", 0, "n", 5);
     files.content["P/LXDATA6S.DAT"] = files.content["P/LXDATA6.DAT"] = "";
     EXPECT_EQ(call("xLXDATA6S.DAT", "P/", LX_MERGE_CATALOGUE), LX_MERGE_DONE);
-    EXPECT_EQ(files.content["P/LXDATA6S.DAT"], catalogueOf("N", 1, "n", 5));
+    EXPECT_EQ(files.content["P/LXDATA6S.DAT"], fileOf("N", 1, "n", 5));
     EXPECT_EQ(call("S.DAT", "P/", LX_MERGE_CATALOGUE), LX_MERGE_DONE);
-    EXPECT_EQ(files.content["P/LXDATA6.DAT"], catalogueOf("N", 0, "n", 5));
+    EXPECT_EQ(files.content["P/LXDATA6.DAT"], fileOf("N", 0, "n", 5));
 }
 
 TEST_F(MergeCall, WithoutAFolderTheHostTellsItAndLocks) {
@@ -105,13 +99,13 @@ TEST_F(MergeCall, WithoutAFolderTheHostTellsItAndLocks) {
 }
 
 TEST_F(MergeCall, WithAFolderTheEndAloneIsTold) {
-    files.content["P\\LXDATA6.DAT"] = old;
-    files.content["Q" + std::string(separator) + "LXDATA6.DAT"] = old;
-    EXPECT_EQ(call("new/LXDATA6.DAT", "Q", LX_MERGE_CATALOGUE), LX_MERGE_DONE);
-    EXPECT_EQ(call("new/LXDATA6.DAT", "K/", LX_MERGE_CATALOGUE), LX_MERGE_DONE);
-    EXPECT_EQ(host.calls, Calls{"release 3 4"});
-    EXPECT_EQ(call("new/LXDATA6.DAT", "P\\", LX_MERGE_CATALOGUE), LX_MERGE_DONE);
-    EXPECT_EQ(files.content["P\\LXDATA6.DAT"], updated);
+    for (const Path& folder : {"Q" + std::string(separator), Path("P\\"), Path("K/")}) {
+        files.content[folder + "LXDATA6.DAT"] = old;
+        const Path given = folder[0] == 'Q' ? "Q" : folder;
+        EXPECT_EQ(call("new/LXDATA6.DAT", given, LX_MERGE_CATALOGUE), LX_MERGE_DONE);
+        EXPECT_EQ(files.content[folder + "LXDATA6.DAT"], updated);
+        EXPECT_EQ(host.calls, Calls{"release 3 4"});
+    }
     EXPECT_EQ(call("new/x.bk6", "K/", LX_MERGE_LIBRARY), LX_MERGE_DONE);
     EXPECT_EQ(host.calls, Calls{"release 2 4"});
     EXPECT_EQ(files.content["K/PREKLADY.BK6"], "supplied");
@@ -148,39 +142,27 @@ TEST_F(MergeCall, WhatIsRefusedTouchesNothing) {
     EXPECT_EQ(files.content, before);
 }
 
-TEST_F(MergeCall, FilesThatCannotBeReadEndItAndFreeWhatWasTaken) {
-    const auto before = files.content;
-    EXPECT_EQ(call("new/none.bk6", "", LX_MERGE_LIBRARY), LX_MERGE_NO_SOURCE);
-    EXPECT_EQ(host.calls, lockedLibrary);
-    EXPECT_EQ(call("new/none.bk6", "K/", LX_MERGE_LIBRARY), LX_MERGE_NO_SOURCE);
-    EXPECT_EQ(host.calls, Calls{"release 2 4"});
-
-    EXPECT_EQ(call("new/none.DAT", "", LX_MERGE_CATALOGUE), LX_MERGE_NO_SOURCE);
-    EXPECT_EQ(host.calls, lockedCatalogue);
-    EXPECT_EQ(call("new/none.DAT", "K/", LX_MERGE_CATALOGUE), LX_MERGE_NO_SOURCE);
-    EXPECT_EQ(host.calls, Calls{}) << "no lock was taken";
-    EXPECT_EQ(files.content, before);
-
-    files.locked = {precast};
-    for (const char* source : {"new/LXDATA6.DAT", "new/none.DAT"}) {
-        EXPECT_EQ(call(source, "", LX_MERGE_CATALOGUE), LX_MERGE_NO_TARGET);
-        EXPECT_EQ(host.calls, lockedCatalogue);
-        EXPECT_EQ(call(source, "K/", LX_MERGE_CATALOGUE), LX_MERGE_NO_TARGET);
-        EXPECT_EQ(host.calls, Calls{});
-        EXPECT_EQ(call(source, "nowhere", LX_MERGE_CATALOGUE), LX_MERGE_NO_TARGET);
-    }
-    EXPECT_EQ(files.content, before) << "a missing catalogue is not made";
-}
-
-TEST_F(MergeCall, WhatCannotBeWrittenStaysWhole) {
+TEST_F(MergeCall, FilesThatCannotBeReadOrWrittenStayAndEndIt) {
     files.content[library] = "installed";
+    const auto before = files.content;
+    const auto ends = [&](const Path& source, const Path& folder, int answer, const Calls& calls) {
+        const int mode = source.ends_with("bk6") ? LX_MERGE_LIBRARY : LX_MERGE_CATALOGUE;
+        EXPECT_EQ(call(source, folder, mode), answer) << source;
+        EXPECT_EQ(host.calls, calls) << source << folder;
+        EXPECT_EQ(files.content, before);
+    };
+    ends("new/none.bk6", "", LX_MERGE_NO_SOURCE, lockedLibrary);
+    ends("new/none.bk6", "K/", LX_MERGE_NO_SOURCE, {"release 2 4"});
+    ends("new/none.DAT", "", LX_MERGE_NO_SOURCE, lockedCatalogue);
+    ends("new/none.DAT", "K/", LX_MERGE_NO_SOURCE, {});
+    ends("new/LXDATA6.DAT", "nowhere", LX_MERGE_NO_TARGET, {});
+    files.locked = {precast};
+    ends("new/none.DAT", "", LX_MERGE_NO_TARGET, lockedCatalogue);
+    ends("new/LXDATA6.DAT", "K/", LX_MERGE_NO_TARGET, {});
+    files.locked.clear();
     files.readOnly = true;
-    EXPECT_EQ(call("new/LXDATA6.DAT", "", LX_MERGE_CATALOGUE), LX_MERGE_NO_TARGET);
-    EXPECT_EQ(host.calls, lockedCatalogue);
-    EXPECT_EQ(files.content[precast], old);
-    EXPECT_EQ(call("new/x.bk6", "", LX_MERGE_LIBRARY), LX_MERGE_NO_TARGET);
-    EXPECT_EQ(host.calls, lockedLibrary);
-    EXPECT_EQ(files.content[library], "installed");
+    ends("new/LXDATA6.DAT", "", LX_MERGE_NO_TARGET, lockedCatalogue);
+    ends("new/x.bk6", "", LX_MERGE_NO_TARGET, lockedLibrary);
 }
 
 TEST_F(MergeCall, ADamagedCatalogueIsKeptAside) {
@@ -199,40 +181,25 @@ TEST_F(MergeCall, ADamagedCatalogueIsKeptAside) {
 
 // ---- through the export, on real files
 
-struct MergeExport : testing::Test {
+TEST(MergeExport, ALibraryIsNotReplacedByItself) {
     LoadedModule module;
-    Bench& bench() { return module.bench; }
-};
-
-TEST_F(MergeExport, MergesUnderTheHostsLock) {
-    const Path target = bench().catalogueFolder() + "LXDATA6S.DAT";
-    const Path source = bench().folder() + "LXDATA6S.DAT";
-    bench().write(target, catalogueOf("T", 7, "i", 100));
-    bench().write(source, catalogueOf("T", 9, "i", 200));
+    Bench& bench = module.bench;
     hostSide().sizesGiven.clear();
-    EXPECT_EQ(mergeLibraryFiles(nullptr, source.c_str(), nullptr, 3), LX_MERGE_DONE);
-    EXPECT_EQ(bench().read(target), catalogueOf("T", 7, "i", 200));
-    EXPECT_EQ(hostSide().sizesGiven, std::vector<int>{1024});
-    EXPECT_EQ(hostSide().lockCalls, (std::vector<std::pair<int, int>>{{3, 9}, {3, 4}}));
-    EXPECT_EQ(mergeLibraryFiles(nullptr, source.c_str(), "", 3), LX_MERGE_DONE)
-        << "an empty folder is none";
-    EXPECT_EQ(hostSide().lockCalls.size(), 4U);
-    EXPECT_EQ(mergeLibraryFiles(nullptr, nullptr, nullptr, 3), LX_MERGE_NO_SOURCE);
-}
-
-TEST_F(MergeExport, ALibraryIsNotReplacedByItself) {
-    const Path target = bench().catalogueFolder() + "preklady.bk6";
-    bench().write(target, "library");
-    const Path sameFile = bench().catalogueFolder() + ".." + folderSeparator + "catalogue" +
+    const Path target = bench.catalogueFolder() + "preklady.bk6";
+    bench.write(target, "library");
+    const Path sameFile = bench.catalogueFolder() + ".." + folderSeparator + "catalogue" +
                           folderSeparator + "preklady.bk6";
     EXPECT_EQ(mergeLibraryFiles(nullptr, sameFile.c_str(), nullptr, 2), LX_MERGE_NO_TARGET);
     EXPECT_EQ(hostSide().lockCalls, (std::vector<std::pair<int, int>>{{2, 9}, {2, 4}}));
-    const Path other = bench().folder() + "preklady.bk6";
-    bench().write(other, std::string("new\0library", 11));
-    EXPECT_EQ(mergeLibraryFiles(nullptr, other.c_str(), nullptr, 2), LX_MERGE_DONE);
-    EXPECT_EQ(bench().read(target), std::string("new\0library", 11));
-    EXPECT_EQ(mergeLibraryFiles(nullptr, bench().folder().c_str(), nullptr, 2), LX_MERGE_NO_SOURCE)
+    EXPECT_EQ(hostSide().sizesGiven, std::vector<int>{1024});
+    const Path other = bench.folder() + "preklady.bk6";
+    bench.write(other, std::string("new\0library", 11));
+    EXPECT_EQ(mergeLibraryFiles(nullptr, other.c_str(), "", 2), LX_MERGE_DONE)
+        << "an empty folder is none";
+    EXPECT_EQ(bench.read(target), std::string("new\0library", 11));
+    EXPECT_EQ(mergeLibraryFiles(nullptr, bench.folder().c_str(), nullptr, 2), LX_MERGE_NO_SOURCE)
         << "a folder is no file";
+    EXPECT_EQ(mergeLibraryFiles(nullptr, nullptr, nullptr, 3), LX_MERGE_NO_SOURCE);
 }
 
 }  // namespace

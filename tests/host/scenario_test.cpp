@@ -82,27 +82,9 @@ Options parse(const Words& arguments) {
 }
 
 TEST(CommandLine, SetsHostOpeningAndBlock) {
-    const Options options = parse({"--width",
-                                   "1200.5",
-                                   "--block.headShape",
-                                   "4",
-                                   "--block.triple1",
-                                   "1,2.5,-3",
-                                   "--units",
-                                   "none",
-                                   "--lock",
-                                   "2",
-                                   "--styles",
-                                   "A;B",
-                                   "--title",
-                                   "none",
-                                   "CallLXdata6",
-                                   "--wall",
-                                   "450",
-                                   "--exterior",
-                                   "on",
-                                   "--B",
-                                   "1"});
+    const Options options = parse(splitWords(
+        "--width 1200.5 --block.headShape 4 --block.triple1 1,2.5,-3 --units none "
+        "--lock 2 --styles A;B --title none CallLXdata6 --wall 450 --exterior on --B 1"));
     ASSERT_EQ(options.error, "");
     ASSERT_TRUE(options.call);
     const Opening& opening = options.call->opening;

@@ -6,12 +6,42 @@
 
 #include <cstdlib>
 #include <fstream>
+#include <limits>
 #include <sstream>
 
 #include "platform/recording_canvas.h"
 #include "preview/hit_regions.h"
+#include "tests/support/designs.h"
 
 namespace lx {
+
+// A design with what its drawing depends on; `Scene` adds `HitRegions draw(Canvas&)`.
+template <class Scene, class Input>
+struct DrawnDesign {
+    RezChain design;
+    Input input;
+
+    DrawnDesign(std::int32_t wall, double opening, Size client) {
+        design.append(headOf(wall));
+        input.client = client;
+        input.openingWidth = opening;
+    }
+    Scene& bend(std::int32_t run, std::int32_t step, bool flagged = false) {
+        design.head()->addBend(run, step, flagged);
+        return self();
+    }
+    Scene& add(std::int32_t kind, std::int32_t width, std::int32_t height,
+               const char* name = "prvek") {
+        design.append(layer(kind, width, name))->height = height;
+        return self();
+    }
+    // Makes the last record the current one.
+    Scene& here() {
+        input.current = design.last();
+        return self();
+    }
+    Scene& self() { return static_cast<Scene&>(*this); }
+};
 
 inline std::string fieldName(const HitRegion& region) {
     if (region.kind == region::layerName) return "";
@@ -63,6 +93,61 @@ inline void compareWithFile(const std::string& name, const std::string& drawn) {
     std::ostringstream content;
     content << file.rdbuf();
     EXPECT_EQ(drawn, content.str()) << name;
+}
+
+template <class Scene>
+struct NamedScene {
+    const char* name;
+    Scene (*make)();
+};
+
+template <class Scene, std::size_t count>
+void compareWithFiles(const NamedScene<Scene> (&drawings)[count]) {
+    for (const NamedScene<Scene>& drawing : drawings) {
+        Scene scene = drawing.make();
+        RecordingCanvas canvas;
+        const HitRegions regions = scene.draw(canvas);
+        compareWithFile(drawing.name, recorded(canvas, regions, scene.design.head()));
+    }
+}
+
+template <class Input, class Draw>
+void expectBlackWithoutADesign(Input input, const Draw& draw) {
+    RecordingCanvas black;
+    input.client = {480, 400};
+    EXPECT_TRUE(draw(black, input).empty());
+    EXPECT_EQ(black.asText(), "clip (0,0)-(480,400)\nfill (0,0)-(480,400) 0,0,0\n");
+}
+
+template <class Scene>
+void expectNothingWithoutRoom(Scene scene) {
+    for (const Size none : {Size{0, 130}, Size{370, 0}, Size{-1, -1}}) {
+        scene.input.client = none;
+        RecordingCanvas canvas;
+        EXPECT_TRUE(scene.draw(canvas).empty());
+        EXPECT_TRUE(canvas.empty());
+    }
+}
+
+// Calls with scenes of every kind of layer and numbers as a damaged file has them: a size and a
+// place.
+template <class Scene, class Check>
+void forWildScenes(const Check& check) {
+    constexpr std::int32_t least = std::numeric_limits<std::int32_t>::min();
+    constexpr std::int32_t most = std::numeric_limits<std::int32_t>::max();
+    constexpr std::int32_t numbers[] = {least, -300, 0, 80, most};
+    for (const std::int32_t wall : {least, 300, most}) {
+        for (const std::int32_t size : numbers) {
+            for (const std::int32_t place : numbers) {
+                Scene scene(wall);
+                scene.bend(place, size).bend(size, place, true).bend(size, size);
+                for (const std::int32_t k : {1, 2, 3, 53, 0, 101, 102, 103, 500, -1}) {
+                    scene.add(k, place, size);
+                }
+                check(scene, size, place);
+            }
+        }
+    }
 }
 
 }  // namespace lx

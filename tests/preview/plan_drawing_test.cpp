@@ -1,42 +1,23 @@
 #include "preview/plan_drawing.h"
 
-#include <limits>
-
 #include "composition/layout.h"
 #include "composition/section_scale.h"
 #include "design/overhang.h"
 #include "preview/plan_zigzag.h"
 #include "tests/preview/drawings.h"
-#include "tests/support/designs.h"
 
 namespace lx {
 namespace {
 
-// A design with what its plan depends on; layers are 1200 long and follow the opening.
-struct Scene {
-    RezChain design;
-    PlanInput input;
-
-    explicit Scene(std::int32_t wall, double opening = 900, Size client = {370, 130}) {
-        design.append(headOf(wall));
-        input.client = client;
-        input.openingWidth = opening;
-    }
-    Scene& bend(std::int32_t run, std::int32_t step, bool flagged = false) {
-        design.head()->addBend(run, step, flagged);
-        return *this;
-    }
+// Layers are 1200 long and follow the opening.
+struct Scene : DrawnDesign<Scene, PlanInput> {
+    explicit Scene(std::int32_t wall, double opening = 900, Size client = {370, 130})
+        : DrawnDesign(wall, opening, client) {}
     Scene& add(std::int32_t kind, std::int32_t width, std::int32_t height,
                std::int32_t length = 1200) {
-        CRez* added = design.append(layer(kind, width));
-        added->height = height;
-        added->length = length;
-        added->bearing = 125;
-        return *this;
-    }
-    // Makes the last record the current one.
-    Scene& here() {
-        input.current = design.last();
+        DrawnDesign::add(kind, width, height);
+        design.last()->length = length;
+        design.last()->bearing = 125;
         return *this;
     }
     Scene& folded(std::int32_t level = 0) {
@@ -111,11 +92,7 @@ Scene narrowOpening() {
     return scene;
 }
 
-struct Drawing {
-    const char* name;
-    Scene (*make)();
-};
-constexpr Drawing drawings[] = {
+constexpr NamedScene<Scene> drawings[] = {
     {"plan-empty", emptyDesign},        {"plan-strips", stripsOnly},
     {"plan-fixed-lintel", fixedLintel}, {"plan-bent", bentFolded},
     {"plan-sloping", slopingFolded},    {"plan-short-layer", shorterThanTheOpening},
@@ -123,30 +100,16 @@ constexpr Drawing drawings[] = {
 };
 
 TEST(PlanDrawing, DrawsWhatTheFilesSay) {
-    for (const Drawing& drawing : drawings) {
-        Scene scene = drawing.make();
-        RecordingCanvas canvas;
-        const HitRegions regions = scene.draw(canvas);
-        compareWithFile(drawing.name, recorded(canvas, regions, scene.design.head()));
-    }
+    compareWithFiles(drawings);
 }
 
 // ---- what a file does not tell
 
 TEST(PlanDrawing, IsBlackWithoutADesignAndNothingWithoutRoom) {
-    RecordingCanvas black;
     PlanInput input;
-    input.client = {370, 130};
     input.foldedSection = true;
-    EXPECT_TRUE(drawPlan(black, input).empty());
-    EXPECT_EQ(black.asText(), "clip (0,0)-(370,130)\nfill (0,0)-(370,130) 0,0,0\n");
-
-    for (const Size none : {Size{0, 130}, Size{370, 0}, Size{-1, -1}}) {
-        Scene scene(300, 900, none);
-        RecordingCanvas canvas;
-        EXPECT_TRUE(scene.add(kind::insulation, 80, 200).folded().draw(canvas).empty());
-        EXPECT_TRUE(canvas.empty());
-    }
+    expectBlackWithoutADesign(input, drawPlan);
+    expectNothingWithoutRoom(bentFolded());
 }
 
 TEST(PlanDrawing, TheCurrentRecordLiesOverAllOthersWithoutRegionsOfItsOwn) {
@@ -168,31 +131,22 @@ TEST(PlanDrawing, TheCurrentRecordLiesOverAllOthersWithoutRegionsOfItsOwn) {
 }
 
 TEST(PlanDrawing, NoNumberMakesItLong) {
-    constexpr std::int32_t least = std::numeric_limits<std::int32_t>::min();
-    constexpr std::int32_t most = std::numeric_limits<std::int32_t>::max();
-    constexpr std::int32_t numbers[] = {least, -300, 0, 80, most};
-    for (const std::int32_t wall : {least, 300, most}) {
-        for (const std::int32_t size : numbers) {
-            for (const std::int32_t place : numbers) {
-                Scene scene(wall);
-                scene.bend(place, size).bend(size, place, true).bend(size, size);
-                for (const std::int32_t k : {1, 2, 3, 53, 0, 101, 102, 103, 500, -1}) {
-                    scene.add(k, 80, size, size).design.last()->width = place;
-                    scene.design.last()->offset = size;
-                    scene.design.last()->level = place;
-                }
-                scene.folded(size).here();
-                scene.input.head = scene.design.head();
-                for (const double opening : {0.0, 900.0, size * 1e300}) {
-                    scene.input.openingWidth = opening;
-                    settleOverhang(*scene.design.head(), opening);
-                    RecordingCanvas canvas;
-                    EXPECT_GE(drawPlan(canvas, scene.input).size(), 2U);
-                    EXPECT_LT(canvas.asText().size(), 20000U);
-                }
-            }
+    forWildScenes<Scene>([](Scene& scene, std::int32_t size, std::int32_t place) {
+        for (CRez* record = scene.design.head()->next; record; record = record->next) {
+            record->length = size;
+            record->offset = size;
+            record->level = place;
         }
-    }
+        scene.folded(size).here();
+        scene.input.head = scene.design.head();
+        for (const double opening : {0.0, 900.0, size * 1e300}) {
+            settleOverhang(*scene.design.head(), opening);
+            scene.input.openingWidth = opening;
+            RecordingCanvas canvas;
+            EXPECT_GE(drawPlan(canvas, scene.input).size(), 2U);
+            EXPECT_LT(canvas.asText().size(), 20000U);
+        }
+    });
 }
 
 std::string zigzag(int start, int end, int step) {

@@ -1,42 +1,15 @@
 #include "preview/section_drawing.h"
 
-#include <gtest/gtest.h>
-
-#include <limits>
-
 #include "composition/layout.h"
 #include "composition/section_scale.h"
 #include "preview/section_zigzag.h"
 #include "tests/preview/drawings.h"
-#include "tests/support/designs.h"
 
 namespace lx {
 namespace {
 
-// A design with what its drawing depends on.
-struct Scene {
-    RezChain design;
-    SectionInput input;
-
-    explicit Scene(std::int32_t wall, Size client = {480, 400}) {
-        design.append(headOf(wall));
-        input.client = client;
-        input.openingWidth = 1200;
-    }
-    Scene& bend(std::int32_t run, std::int32_t step, bool flagged = false) {
-        design.head()->addBend(run, step, flagged);
-        return *this;
-    }
-    Scene& add(std::int32_t kind, std::int32_t width, std::int32_t height,
-               const char* name = "prvek") {
-        design.append(layer(kind, width, name))->height = height;
-        return *this;
-    }
-    // Makes the last record the current one.
-    Scene& here() {
-        input.current = design.last();
-        return *this;
-    }
+struct Scene : DrawnDesign<Scene, SectionInput> {
+    explicit Scene(std::int32_t wall, Size client = {480, 400}) : DrawnDesign(wall, 1200, client) {}
     HitRegions draw(Canvas& canvas) {
         layOut(*design.head());
         settleSection(*design.head(), input.client);
@@ -44,12 +17,6 @@ struct Scene {
         return drawSection(canvas, input);
     }
 };
-
-std::string recorded(Scene& scene) {
-    RecordingCanvas canvas;
-    const HitRegions regions = scene.draw(canvas);
-    return recorded(canvas, regions, scene.design.head());
-}
 
 // ---- drawings compared with files
 
@@ -143,11 +110,7 @@ Scene currentOfNoKind() {
     return scene;
 }
 
-struct Drawing {
-    const char* name;
-    Scene (*make)();
-};
-constexpr Drawing drawings[] = {
+constexpr NamedScene<Scene> drawings[] = {
     {"thin_wall", thinWall},
     {"one_bend", oneBend},
     {"beams_and_insulation", beamsAndInsulation},
@@ -163,57 +126,33 @@ constexpr Drawing drawings[] = {
 };
 
 TEST(SectionDrawing, DrawsWhatTheFilesSay) {
-    for (const Drawing& drawing : drawings) {
-        Scene scene = drawing.make();
-        compareWithFile(drawing.name, recorded(scene));
-    }
+    compareWithFiles(drawings);
 }
 
 // ---- what a file does not tell
 
 TEST(SectionDrawing, IsBlackWithoutADesignAndNothingWithoutRoom) {
-    RecordingCanvas black;
     SectionInput input;
-    input.client = {480, 400};
     input.dropMarker = 10;
-    EXPECT_TRUE(drawSection(black, input).empty());
-    EXPECT_EQ(black.asText(), "clip (0,0)-(480,400)\nfill (0,0)-(480,400) 0,0,0\n");
-
-    for (const Size none : {Size{0, 400}, Size{480, 0}, Size{-1, -1}}) {
-        Scene scene(300, none);
-        RecordingCanvas canvas;
-        EXPECT_TRUE(scene.bend(1, 2).add(kind::insulation, 80, 200).here().draw(canvas).empty());
-        EXPECT_TRUE(canvas.empty());
-    }
+    expectBlackWithoutADesign(input, drawSection);
+    expectNothingWithoutRoom(beamsAndInsulation());
 }
 
 TEST(SectionDrawing, NoNumberMakesItLong) {
-    constexpr std::int32_t least = std::numeric_limits<std::int32_t>::min();
-    constexpr std::int32_t most = std::numeric_limits<std::int32_t>::max();
-    constexpr std::int32_t numbers[] = {least, -300, 0, 80, most};
-    for (const std::int32_t wall : {least, 300, most}) {
-        for (const std::int32_t size : numbers) {
-            for (const std::int32_t place : numbers) {
-                Scene scene(wall);
-                scene.bend(place, size).bend(size, place, true).bend(size, size);
-                for (const std::int32_t k : {1, 2, 3, 53, 0, 101, 102, 103, 500, -1}) {
-                    scene.add(k, 80, size).design.last()->width = place;
-                }
-                layOut(*scene.design.head());
-                scene.input.head = scene.design.head();
-                scene.input.dropMarker = place;
-                scene.input.openingWidth = size * 1e300;
-                for (CRez* record = scene.design.head(); record; record = record->next) {
-                    record->offset = place;
-                    record->level = size;
-                    scene.input.current = record;
-                    RecordingCanvas canvas;
-                    EXPECT_GE(drawSection(canvas, scene.input).size(), 10U);
-                    EXPECT_LT(canvas.asText().size(), 20000U);
-                }
-            }
+    forWildScenes<Scene>([](Scene& scene, std::int32_t size, std::int32_t place) {
+        layOut(*scene.design.head());
+        scene.input.head = scene.design.head();
+        scene.input.dropMarker = place;
+        scene.input.openingWidth = size * 1e300;
+        for (CRez* record = scene.design.head(); record; record = record->next) {
+            record->offset = place;
+            record->level = size;
+            scene.input.current = record;
+            RecordingCanvas canvas;
+            EXPECT_GE(drawSection(canvas, scene.input).size(), 10U);
+            EXPECT_LT(canvas.asText().size(), 20000U);
         }
-    }
+    });
 }
 
 std::string zigzag(int start, int top, int step) {

@@ -5,8 +5,10 @@
 #include <memory>
 #include <random>
 #include <string>
+#include <vector>
 
 #include "catalogue/records.h"
+#include "platform/text.h"
 
 namespace lx {
 
@@ -37,11 +39,42 @@ inline Catalogue madeCatalogue(int types, int itemsOfEach, unsigned seed = 1) {
             item.maxOpening = item.length - 250;
             item.weight = number / 1000.0;
             item.qu = number % 3 == 0 ? 0.0 : number / 100000.0;
-            if (number % 5 != 0) item.description = "nosny, " + std::to_string(item.length);
+            if (number % 5 != 0) item.description = "nosny, 70x238x" + std::to_string(item.length);
             if (number % 9 == 0) item.compositionMark = static_cast<char>('A' + number % 26);
         }
     }
     return head;
+}
+
+// A record in short; names are UTF-8, an empty one is no designation.
+struct CatalogueLine {
+    std::int32_t group;
+    std::string name;
+    std::int32_t length = 0;
+};
+
+inline Catalogue catalogueOf(const std::vector<CatalogueLine>& lines) {
+    Catalogue head;
+    Catalogue* end = &head;
+    for (const CatalogueLine& line : lines) {
+        *end = std::make_unique<CPreklItem>();
+        (*end)->group = line.group;
+        (*end)->length = line.length;
+        if (!line.name.empty()) (*end)->designation = fromUtf8(line.name);
+        end = &(*end)->next;
+    }
+    return head;
+}
+
+// "group:name" of every record, with ":length" where there is one; in UTF-8.
+inline std::string shown(const Catalogue& chain) {
+    std::string text;
+    for (const CPreklItem* record = chain.get(); record; record = record->next.get()) {
+        text += (text.empty() ? "" : " ") + std::to_string(record->group) + ":" +
+                toUtf8(record->designation.value_or(""));
+        if (record->length != 0) text += ":" + std::to_string(record->length);
+    }
+    return text;
 }
 
 }  // namespace lx

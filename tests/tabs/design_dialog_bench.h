@@ -3,8 +3,11 @@
 
 #include <gtest/gtest.h>
 
+#include <span>
+
 #include "catalogue/catalogue_file.h"
 #include "composition/hand_over.h"
+#include "composition/layout.h"
 #include "composition/library.h"
 #include "composition/projects.h"
 #include "design/CObr1.h"
@@ -68,6 +71,20 @@ struct DesignDialog : testing::Test {
         ASSERT_EQ(saveCatalogueAs(head.get(), cataloguePath(kind, bench.host()), bench.files()), 0);
     }
 
+    // Lays out the design and hands it over, as a host does.
+    void give(const RezChain& design) {
+        layOut(*design.head());
+        writeHandOver(handOver(), design.head(), 1200, bench.files());
+    }
+    // The message that comes next; the user answers it.
+    void told(const char* text, const char* icon = "stop", const char* caption = "Upozornění") {
+        bench.user().then([=](Driver& d) {
+            EXPECT_EQ(d.messageBox().text, text);
+            EXPECT_EQ(d.messageBox().caption, caption);
+            EXPECT_EQ(d.messageBox().icon, icon);
+            d.answer("OK");
+        });
+    }
     // Runs the dialog against the steps that bench.user() has been given.
     int run() {
         TabFactory factory;
@@ -112,6 +129,44 @@ struct DesignDialog : testing::Test {
     }
 };
 
+// Whether the design that is shown has the line, one of `describe("design")`.
+inline bool has(Driver& d, std::string_view line) {
+    return d.describe("design").find(std::string(line) + "\n") != std::string::npos;
+}
+
+inline bool drawn(Driver& d, const char* picture, std::string_view what) {
+    return d.drawing(picture).find(what) != std::string::npos;
+}
+
+// The picture's regions without their places, "layer 1;overhang;".
+inline std::string regionNames(Driver& d, const char* picture) {
+    std::string names;
+    for (const std::string& region : d.regions(picture)) {
+        std::size_t end = region.size();
+        for (int number = 0; number < 4; ++number) end = region.rfind(' ', end - 1);
+        names += region.substr(0, end) + ";";
+    }
+    return names;
+}
+
+inline void clickRegion(Driver& d, const char* picture, std::string_view region) {
+    d.mouseDown(picture, d.regionPoint(picture, region));
+}
+
+// '1' for each control that is enabled, else '0'.
+inline std::string enabledAmong(Driver& d, std::span<const char* const> controls) {
+    std::string text;
+    for (const char* control : controls) text += d.enabled(control) ? '1' : '0';
+    return text;
+}
+
+inline void retype(Driver& d, const char* control, const char* text) {
+    d.focus(control);
+    d.key("Ctrl+A");
+    d.key("Delete");
+    d.type(text);
+}
+
 inline std::string namesOf(const RezChain& design) {
     std::string names;
     for (const CRez* one = design.empty() ? nullptr : design.head()->next; one; one = one->next) {
@@ -125,6 +180,6 @@ inline constexpr const char* offerList = "#1203";
 inline constexpr const char* propertiesBox = "#1024";
 inline constexpr const char* bubbleField = "#1110";
 inline constexpr const char* descriptionField = "#1108";
-inline constexpr const char* tabControl = "#1020";
+inline constexpr const char* inPlaceBox = "#1022";
 
 }  // namespace lx

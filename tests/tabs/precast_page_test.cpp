@@ -18,25 +18,18 @@ struct PrecastPage : DesignDialog {
 };
 
 std::string enabledButtons(Driver& d) {
-    std::string text;
-    for (const char* button : {add, removeLayer, insulation, space}) {
-        text += d.enabled(button) ? '1' : '0';
-    }
-    return text;
+    const char* const buttons[] = {add, removeLayer, insulation, space};
+    return enabledAmong(d, buttons);
 }
 
 TEST_F(PrecastPage, OffersWhatSuitsTheOpeningAndMarksWhatNoLongerFits) {
     run([](Driver& d) {
         ASSERT_EQ(d.rowCount(offerList), 3);
-        EXPECT_EQ(d.row(offerList, 0).text, "KP 7/750");
-        EXPECT_EQ(d.row(offerList, 1).text, "KP 7/1000");
-        EXPECT_EQ(d.row(offerList, 2).text, "KP 36/1000");
+        const char* offered[] = {"KP 7/750", "KP 7/1000", "KP 36/1000"};
+        for (int row = 0; row < 3; ++row) EXPECT_EQ(d.row(offerList, row).text, offered[row]);
         EXPECT_EQ(d.row(offerList, 2).textColor, red);
         EXPECT_EQ(d.row(offerList, 0).textColor, "");
-        EXPECT_EQ(d.row(offerList, 0).background, "113,113,255");
         EXPECT_EQ(enabledButtons(d), "1011");
-        EXPECT_TRUE(d.enabled("Skladba automaticky"));
-        EXPECT_TRUE(d.enabled("Databáze prefabrikátů..."));
         d.selectRowAt(offerList, 2);
         EXPECT_EQ(enabledButtons(d), "0011");
         d.doubleClickRow(offerList, 2);
@@ -67,8 +60,6 @@ TEST_F(PrecastPage, LayersAreAddedAndRemovedUntilTheWallIsFull) {
         EXPECT_EQ(enabledButtons(d), "1111");
         d.press(space);
         EXPECT_EQ(enabledButtons(d), "0100");
-        d.selectTab("Geometrie");
-        EXPECT_EQ(d.text(descriptionField), "3 x KP 7/1000");
         d.press("OK");
     });
     EXPECT_EQ(namesOf(takeHandOver()), "KP 7/1000 70;KP 7/1000 70;KP 7/1000 70;MEZERA 90;");
@@ -76,53 +67,28 @@ TEST_F(PrecastPage, LayersAreAddedAndRemovedUntilTheWallIsFull) {
 
 TEST_F(PrecastPage, PropertiesDescribeTheOfferOrTheCurrentRecord) {
     run([](Driver& d) {
-        const std::string offered =
-            "Označení: KV 14/?\r\nDélka: 1450, Šířka :  140, Výška: 238 [mm]\r\nUložení: 125 mm";
-        const std::string current =
-            "Označení: KV 14/1450\r\nDélka: 1450, Šířka :  140, Výška: 238 [mm]\r\n"
-            "Uložení: 125 mm";
+        const std::string rest =
+            "\r\nDélka: 1450, Šířka :  140, Výška: 238 [mm]\r\nUložení: 125 mm";
+        const std::string offered = "Označení: KV 14/?" + rest;
         EXPECT_TRUE(d.checked("z nabídky"));
         d.selectRow("Typ", "Na míru");
         EXPECT_EQ(d.text(propertiesBox), offered);
         d.check("z náhledu", true);
-        EXPECT_FALSE(d.checked("z nabídky"));
         EXPECT_EQ(d.text(propertiesBox), "<Stěna>");
         d.press(add);
-        EXPECT_EQ(d.text(propertiesBox), current);
+        EXPECT_EQ(d.text(propertiesBox), "Označení: KV 14/1450" + rest);
         d.check("z nabídky", true);
         EXPECT_EQ(d.text(propertiesBox), offered);
         d.selectTab("Monolitické překlady");
         EXPECT_EQ(d.text(propertiesBox), offered);
-        EXPECT_TRUE(d.enabled(removeLayer));
         d.press(removeLayer);
         EXPECT_FALSE(d.enabled(removeLayer));
         d.selectTab("Ocelové překlady");
         EXPECT_EQ(d.text(propertiesBox),
                   "Označení: IPE 100\r\nDélka: 1500, Šířka :  55, Výška: 238 [mm]\r\n"
                   "Uložení: 150 mm");
-        EXPECT_TRUE(d.enabled("Vložit vybraný profil"));
         d.press("Zrušit");
     });
-}
-
-TEST_F(PrecastPage, ASteelDesignTakesNoPrecastLintel) {
-    RezChain given;
-    given.append(headOf(300, "S"));
-    given.append(layer(kind::space, 10));
-    given.append(layer(kind::beam, 55, "IPE 100"));
-    writeHandOver(handOver(), given.head(), 1200, bench.files());
-    bench.user().inDialog("Návrh překladu", [](Driver& d) {
-        d.press(add);
-        d.press("OK");
-    });
-    bench.user().then([](Driver& d) {
-        EXPECT_EQ(d.messageBox().text, "Chybný typ");
-        EXPECT_EQ(d.messageBox().caption, "Upozornění");
-        EXPECT_EQ(d.messageBox().icon, "stop");
-        d.answer("OK");
-    });
-    EXPECT_EQ(run(), 1);
-    EXPECT_EQ(namesOf(takeHandOver()), "L 10;IPE 100 55;");
 }
 
 TEST_F(PrecastPage, EmptyCataloguesOfferNothing) {
