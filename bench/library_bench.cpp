@@ -74,11 +74,14 @@ void storeADesign(benchmark::State& state) {
     }
 }
 
-#define LIBRARY_SIZES Unit(benchmark::kMillisecond)->Arg(1000)->Arg(10000)->Arg(100000)
-BENCHMARK(readTheFileOnce)->LIBRARY_SIZES;
-BENCHMARK(openAProject)->LIBRARY_SIZES;
-BENCHMARK(storeADesign)->LIBRARY_SIZES;
+void manyDesigns(benchmark::internal::Benchmark* measured) {
+    measured->Unit(benchmark::kMillisecond)->UseRealTime();
+    for (const int size : {1000, 10000, 100000}) measured->Arg(size);
+}
+
+BENCHMARK(readTheFileOnce)->Name("open/yardstick")->Apply(manyDesigns);
+BENCHMARK(openAProject)->Name("open/module")->Apply(manyDesigns);
+BENCHMARK(readTheFileOnce)->Name("store/yardstick")->Apply(manyDesigns);
+BENCHMARK(storeADesign)->Name("store/module")->Apply(manyDesigns);
 
 }  // namespace
-
-BENCHMARK_MAIN();

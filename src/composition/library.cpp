@@ -28,18 +28,29 @@ Bytes int32Bytes(std::int32_t value) {
     return writer.take();
 }
 
-// Where the project ids of the entries stand; no label stands for every label.
-Positions entriesOf(std::string_view bytes, std::int32_t project,
-                    std::optional<std::string_view> label) {
+struct Found {
     Positions positions;
-    if (project == deletedProject) return positions;
+    std::size_t tornStart = 0;  // the end of the file when nothing is torn
+    bool torn = false;
+    bool tornIsDeleted = false;  // as an ended program leaves it, who could not seal it
+};
+
+// Walks all entries: where the project ids of those of that project and label stand, of all of the
+// project's without a label, and how the file ends.
+Found findEntries(std::string_view bytes, std::int32_t project,
+                  std::optional<std::string_view> label) {
+    Found found;
     LibraryEntries entries(bytes);
     while (entries.next()) {
-        if (entries.project() == project && (!label || entries.label() == *label)) {
-            positions.push_back(entries.projectPosition());
+        const std::int32_t id = entries.project();
+        found.tornIsDeleted = entries.torn() && id == deletedProject;
+        if (id == project && id != deletedProject && (!label || entries.label() == *label)) {
+            found.positions.push_back(entries.projectPosition());
         }
     }
-    return positions;
+    found.torn = entries.torn();
+    found.tornStart = entries.tornStart();
+    return found;
 }
 
 // True when at least one was marked.
@@ -114,12 +125,13 @@ bool appendBehindTornTail(const Path& path, std::string_view bytes, std::size_t 
                           std::int32_t project, const Bytes& entry, Files& files) {
     const std::size_t tailSize = bytes.size() - tornStart;
     if (tailSize > std::numeric_limits<std::int32_t>::max()) return false;
-    if (!files.keepAsBackup(path)) return false;
     const Closing closed = closing(bytes.substr(tornStart));
     if (!files.overwrite(path, tornStart, closed.over)) return false;
     if (appendEntry(path, project, closed.behind, entry, files)) return true;
-    // The tail's own records stay readable when nothing could be put behind it.
-    files.overwrite(path, tornStart, bytes.substr(tornStart, closed.over.size()));
+    // What could not be taken away again behind the tail would be read as a part of it.
+    if (files.read(path).bytes.size() == bytes.size()) {
+        files.overwrite(path, tornStart, bytes.substr(tornStart, closed.over.size()));
+    }
     return false;
 }
 
@@ -180,23 +192,20 @@ bool appendDesign(const Path& path, std::int32_t project, const CRez& head,
     const Bytes entry = unsealedEntry(head);
     if (file.status == ReadStatus::failed || entry.empty()) return false;
 
-    Positions older;
-    if (!replaceLabel.empty()) older = entriesOf(file.bytes, project, replaceLabel);
-    LibraryEntries entries(file.bytes);
-    while (entries.next()) {
-    }
+    const Found found = findEntries(file.bytes, project, replaceLabel);
+    // A deleted tail is nobody's, and no reason to give up an earlier .bak.
+    if (found.torn && !found.tornIsDeleted && !files.keepAsBackup(path)) return false;
     const bool appended =
-        entries.torn()
-            ? appendBehindTornTail(path, file.bytes, entries.tornStart(), project, entry, files)
-            : appendEntry(path, project, {}, entry, files);
-    if (appended) markDeleted(path, older, files);
+        found.torn ? appendBehindTornTail(path, file.bytes, found.tornStart, project, entry, files)
+                   : appendEntry(path, project, {}, entry, files);
+    if (appended && !replaceLabel.empty()) markDeleted(path, found.positions, files);
     return appended;
 }
 
 bool deleteEntries(const Path& path, std::int32_t project, std::optional<std::string_view> label,
                    Files& files) {
     const FileRead file = files.read(path);
-    const Positions positions = entriesOf(file.bytes, project, label);
+    const Positions positions = findEntries(file.bytes, project, label).positions;
     return !positions.empty() && markDeleted(path, positions, files);
 }
 

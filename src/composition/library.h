@@ -40,9 +40,10 @@ bool findStoredSame(const Path& path, std::int32_t project, std::string_view lab
 
 // Appends the entry, which readers see whole or not at all, then marks the entries of that project
 // and replaceLabel that were there before it deleted (none when replaceLabel is empty). A torn tail
-// is first closed off where it stands, after keeping the file as .bak; it stays an entry when a
-// design can be read from it. False when the entry could not be appended;
-// the file then reads as before. An older entry that could not be marked stays beside the new one.
+// is first closed off where it stands, after keeping the file as .bak unless it is a deleted
+// entry's; it stays an entry when a design can be read from it. False when the entry could not be
+// appended; the file then reads as before. An older entry that could not be marked stays beside the
+// new one.
 bool appendDesign(const Path& path, std::int32_t project, const CRez& head,
                   std::string_view replaceLabel, Files& files);
 

@@ -83,7 +83,7 @@ Bytes projectBytes(const ProjectList& list) {
 
 bool saveProjects(const Path& path, ProjectList& list, Files& files) {
     if (!list.mayReplaceFile) return false;
-    if (list.damaged && files.exists(path) && !files.keepAsBackup(path)) return false;
+    if (list.damaged && !files.keepAsBackup(path)) return false;
     if (!files.replace(path, projectBytes(list))) return false;
     list.damaged = false;
     return true;

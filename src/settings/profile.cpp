@@ -150,10 +150,10 @@ std::optional<Text> Profile::find(std::string_view section, std::string_view key
     return valueOf(file.bytes, section, key);
 }
 
-std::vector<ProfileEntry> Profile::entries(std::string_view section) const {
-    std::vector<ProfileEntry> result;
+std::optional<std::vector<ProfileEntry>> Profile::readableEntries(std::string_view section) const {
     const FileRead file = m_files.read(m_path);
-    if (file.status != ReadStatus::ok) return result;
+    if (file.status == ReadStatus::failed) return std::nullopt;
+    std::vector<ProfileEntry> result;
     const EncodedText text(file.bytes);
     for (const KeyLine& line : keyLines(text.text(), section)) {
         result.push_back({Text(line.name), Text(withoutQuotes(*line.value))});

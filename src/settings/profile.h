@@ -43,7 +43,11 @@ public:
     // none when the key is missing.
     std::optional<Text> find(std::string_view section, std::string_view key) const;
     // The keys of a section with their values in file order, doubled ones too.
-    std::vector<ProfileEntry> entries(std::string_view section) const;
+    std::vector<ProfileEntry> entries(std::string_view section) const {
+        return readableEntries(section).value_or(std::vector<ProfileEntry>());
+    }
+    // The same, none when the file is there but cannot be read.
+    std::optional<std::vector<ProfileEntry>> readableEntries(std::string_view section) const;
     // Creates file, section and key as needed; the rest of the file keeps its bytes. Blanks around
     // the value are not kept, nor is what follows a line break in it. Writes nothing when the value
     // is there already. False when the file could not be written, or exists but cannot be read, or

@@ -15,18 +15,15 @@ constexpr std::int32_t mostValues = 10000;
 
 }  // namespace
 
-std::vector<std::optional<Text>> ValueHistory::load() const {
-    const std::vector<ProfileEntry> entries = m_profile.entries(m_section);
-    const auto first = [&entries](std::string_view key) {
-        return std::find_if(entries.begin(), entries.end(), [key](const ProfileEntry& entry) {
-            return equalIgnoringCase(entry.key, key);
-        });
-    };
-    const auto nr = first(countKey);
-    const std::int32_t count = nr == entries.end() ? 0 : leadingInt(nr->value);
-    std::vector<std::optional<Text>> values(
-        static_cast<std::size_t>(std::clamp(count, 0, mostValues)));
-    for (const ProfileEntry& entry : entries) {
+std::optional<ValueHistory::Values> ValueHistory::load() const {
+    const auto entries = m_profile.readableEntries(m_section);
+    if (!entries) return std::nullopt;
+    const auto nr = std::find_if(entries->begin(), entries->end(), [](const ProfileEntry& entry) {
+        return equalIgnoringCase(entry.key, countKey);
+    });
+    const std::int32_t count = nr == entries->end() ? 0 : leadingInt(nr->value);
+    Values values(static_cast<std::size_t>(std::clamp(count, 0, mostValues)));
+    for (const ProfileEntry& entry : *entries) {
         const std::int32_t number = leadingInt(entry.key);
         if (number < 0 || static_cast<std::size_t>(number) >= values.size()) continue;
         std::optional<Text>& value = values[static_cast<std::size_t>(number)];
@@ -39,14 +36,18 @@ std::vector<std::optional<Text>> ValueHistory::load() const {
 
 std::vector<Text> ValueHistory::shown() const {
     std::vector<Text> result;
-    for (const std::optional<Text>& value : load()) {
+    const std::optional<Values> values = load();
+    if (!values) return result;
+    for (const std::optional<Text>& value : *values) {
         if (!value || !value->starts_with('-')) result.push_back(value.value_or("0"));
     }
     return result;
 }
 
 bool ValueHistory::add(std::string_view value) {
-    const auto count = static_cast<std::int64_t>(load().size());
+    const std::optional<Values> values = load();
+    if (!values) return false;
+    const auto count = static_cast<std::int64_t>(values->size());
     const Text key = formatInt(count);
     const Text newCount = formatInt(count + 1);
     const ProfileChange changes[] = {{m_section, key, value}, {m_section, countKey, newCount}};
@@ -54,7 +55,9 @@ bool ValueHistory::add(std::string_view value) {
 }
 
 bool ValueHistory::remove(std::string_view value) {
-    std::vector<std::optional<Text>> values = load();
+    const std::optional<Values> loaded = load();
+    if (!loaded) return false;
+    const Values& values = *loaded;
     const auto found = std::find(values.begin(), values.end(), value);
     if (found == values.end()) return true;
     const std::size_t from = static_cast<std::size_t>(found - values.begin());

@@ -25,8 +25,10 @@ public:
     bool remove(std::string_view value);
 
 private:
-    // Values by key number; none where the key is missing.
-    std::vector<std::optional<Text>> load() const;
+    // By key number; none where the key is missing.
+    using Values = std::vector<std::optional<Text>>;
+    // None when the file is there but cannot be read: it is then not to be written either.
+    std::optional<Values> load() const;
 
     Profile& m_profile;
     Text m_section;

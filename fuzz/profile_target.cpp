@@ -1,0 +1,34 @@
+// Settings files, which people edit by hand and other programs write.
+#include "catalogue/column_settings.h"
+#include "design/annotation_style.h"
+#include "entry/erase_choice.h"
+#include "fuzz/targets.h"
+#include "settings/keys.h"
+#include "settings/store.h"
+#include "tests/support/memory_files.h"
+
+namespace lx::fuzz {
+
+void readProfile(std::string_view input) {
+    MemoryFiles files;
+    files.content["set"] = input;
+    Profile profile(files, "set");
+    ColumnWidths widths;
+    const ColumnSettings columns = loadColumnSettings(profile, CatalogueKind::precast, widths);
+    promise(columns.order.size() == 9 && columns.widths.size() == 9 && columns.type >= 0);
+    const AnnotationStyle style = storedStyle(profile);
+    storedChoice(profile);
+
+    // What is written is read, and what was there stays, whatever the file held.
+    storeStyle(profile, style);
+    promise(storedStyle(profile).edges == style.edges);
+    const std::optional<Text> before = profile.find("TAB_PREFA", "ORD0");
+    promise(profile.write("SETTINGS", "new key", "12 34"));
+    promise(profile.find("SETTINGS", "new key") == "12 34");
+    promise(profile.find("TAB_PREFA", "ORD0") == before);
+    promise(profile.erase("SETTINGS", "new key"));
+    storeChoice(profile, {3, true});
+    promise(storedChoice(profile).elements == 3);
+}
+
+}  // namespace lx::fuzz

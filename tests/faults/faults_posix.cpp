@@ -1,0 +1,312 @@
+// Nothing is lost: every act that writes is tried with each of its system calls failing in turn,
+// and with the process killed there. Each file must then read as before the act or as after it, of
+// the library each stored design, and doing the act once more must complete it.
+//
+// LX_FAULTS=full tries pairs of failing calls and every place where a write can be cut as well;
+// tools/faults prints the table of it.
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <map>
+#include <set>
+
+#include "composition/library.h"
+#include "tests/faults/operations_posix.h"
+#include "tests/faults/system_calls_posix.h"
+#include "tests/support/bench.h"
+#include "tests/support/designs.h"
+
+namespace lx::faults {
+namespace {
+
+namespace fs = std::filesystem;
+
+bool tryingAll() {
+    const char* wanted = std::getenv("LX_FAULTS");
+    return wanted != nullptr && std::string_view(wanted) == "full";
+}
+
+// ---- the table
+
+struct Row {
+    std::map<Fault, int> tries;
+    int losses = 0;
+};
+
+constexpr std::pair<Fault, const char*> columns[] = {
+    {Fault::noSpace, "no space"},      {Fault::denied, "denied"}, {Fault::deniedTwice, "denied 2x"},
+    {Fault::shortWrite, "short"},      {Fault::gone, "gone"},     {Fault::killed, "killed"},
+    {Fault::killedInWrite, "in write"}};
+
+class Table : public testing::Environment {
+public:
+    static std::map<std::string, Row>& rows() {
+        static std::map<std::string, Row> all;
+        return all;
+    }
+    void TearDown() override {
+        if (!tryingAll()) return;
+        std::printf("\n%-26s", "");
+        for (const auto& [fault, heading] : columns) std::printf(" %9s", heading);
+        std::printf(" %9s\n", "losses");
+        int tries = 0;
+        int losses = 0;
+        for (const Operation& operation : operations()) {
+            const auto found = rows().find(operation.name);
+            if (found == rows().end()) continue;
+            std::printf("%-26s", operation.name.c_str());
+            for (const auto& [fault, heading] : columns) {
+                std::printf(" %9d", found->second.tries[fault]);
+                tries += found->second.tries[fault];
+            }
+            std::printf(" %9d\n", found->second.losses);
+            losses += found->second.losses;
+        }
+        std::printf("%d tries, %d losses\n", tries, losses);
+    }
+};
+
+// ---- what files read as
+
+using Entry = std::pair<Text, Bytes>;  // label with its project, design
+struct State {
+    std::map<std::string, Bytes> files;  // by name, the library's own apart
+    Bytes library;
+    std::vector<Entry> entries;
+
+    bool operator==(const State&) const = default;
+    std::set<Entry> distinct() const { return {entries.begin(), entries.end()}; }
+    int count(const Entry& entry) const {
+        return static_cast<int>(std::count(entries.begin(), entries.end(), entry));
+    }
+};
+
+Text labelKey(std::int32_t project, const Text& label) {
+    return std::to_string(project) + " " + label;
+}
+
+State stateOf(const Path& folder) {
+    State state;
+    for (const auto& entry : fs::directory_iterator(folder)) {
+        state.files[entry.path().filename()] = systemFiles().read(entry.path()).bytes;
+    }
+    const auto library = state.files.find(std::string(libraryFileName));
+    if (library == state.files.end()) return state;
+    state.library = library->second;
+    for (const std::int32_t project : {libraryProject, otherProject, 0}) {
+        for (const LibraryEntry& entry : parseLibrary(state.library, project).entries) {
+            state.entries.emplace_back(labelKey(project, entry.label),
+                                       designBytes(entry.design.head()));
+        }
+    }
+    state.files.erase(library);
+    return state;
+}
+
+const Bytes* find(const State& state, const std::string& name) {
+    const auto found = state.files.find(name);
+    return found == state.files.end() ? nullptr : &found->second;
+}
+
+bool equal(const Bytes* a, const Bytes* b) {
+    return (a == nullptr) == (b == nullptr) && (a == nullptr || *a == *b);
+}
+
+// ---- one operation and its trouble
+
+struct Outcome {
+    bool struck = false;
+    bool ended = false;  // by the trouble, or beyond the reach of its own mending
+    Answer answer = Answer::untold;
+};
+
+class Faults : public testing::TestWithParam<Operation> {
+protected:
+    void prepare() {
+        fs::remove_all(m_folder);
+        fs::create_directories(m_folder);
+        GetParam().prepare(m_folder);
+    }
+    Outcome runHere(const Trouble& trouble);
+    Outcome runInOwnProcess(const Trouble& trouble);
+    void tryOnce(const Trouble& trouble);
+    void tryTwoDenied(int first);
+
+    std::string lossIn(const State& now, const Outcome& outcome) const;
+    std::string libraryLossIn(const State& now, const Outcome& outcome) const;
+
+    Bench m_bench;
+    Path m_folder = m_bench.folder() + "faults/";
+    State m_before;
+    State m_after;
+    Course m_undisturbed;
+};
+
+Outcome Faults::runHere(const Trouble& trouble) {
+    Outcome outcome;
+    begin(trouble);
+    outcome.answer = GetParam().run(m_folder);
+    const Course course = end();
+    outcome.struck = course.struck;
+    outcome.ended = trouble.fault == Fault::gone || trouble.fault == Fault::deniedTwice;
+    return outcome;
+}
+
+Outcome Faults::runInOwnProcess(const Trouble& trouble) {
+    std::fflush(nullptr);
+    const pid_t child = ::fork();
+    if (child == 0) {
+        begin(trouble);
+        GetParam().run(m_folder);
+        ::_exit(0);
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    const bool killed = WIFEXITED(status) && WEXITSTATUS(status) == killedStatus;
+    EXPECT_TRUE(killed || (WIFEXITED(status) && WEXITSTATUS(status) == 0)) << "another end";
+    return {killed, true, Answer::untold};
+}
+
+// Empty when every stored design is there as before or as after.
+std::string Faults::libraryLossIn(const State& now, const Outcome& outcome) const {
+    const Text own = labelKey(libraryProject, GetParam().label);
+    std::set<Entry> all = m_before.distinct();
+    all.merge(m_after.distinct());
+    for (const Entry& entry : now.distinct()) {
+        if (!all.contains(entry)) return "a design that nobody stored under " + entry.first;
+    }
+    for (const Entry& entry : all) {
+        const int before = m_before.count(entry);
+        const int after = m_after.count(entry);
+        const bool stored = GetParam().stores && entry.first == own;
+        const int most = stored ? before + after : std::max(before, after);
+        const int count = now.count(entry);
+        if (count < std::min(before, after) || count > most) {
+            return std::to_string(count) + " designs under " + entry.first;
+        }
+        const bool failed = !outcome.ended && outcome.answer == Answer::failed;
+        if (failed && entry.first == own && count != before) return "changed, but told as failed";
+        const bool done = outcome.answer == Answer::done;
+        if (done && stored && count == 0) return "told as stored, but it is not there";
+    }
+    return {};
+}
+
+// Empty when every file reads as before or as after, and as was answered.
+std::string Faults::lossIn(const State& now, const Outcome& outcome) const {
+    std::set<std::string> names;
+    for (const State* state : {&m_before, &m_after, &now}) {
+        for (const auto& [name, bytes] : state->files) names.insert(name);
+    }
+    for (const std::string& name : names) {
+        const Bytes* before = find(m_before, name);
+        const Bytes* after = find(m_after, name);
+        const Bytes* here = find(now, name);
+        if (outcome.ended && !before && !after && name.find(".new") != std::string::npos) continue;
+        if (!equal(here, before) && !equal(here, after)) return name + " reads as neither";
+        if (name.ends_with(".bak")) continue;
+        const bool failed = !outcome.ended && outcome.answer == Answer::failed;
+        if (failed && !equal(here, before)) return name + " changed, but told as failed";
+        const bool done = outcome.answer == Answer::done;
+        if (done && !equal(here, after)) return name + " is not what was told as done";
+        const Bytes* kept = find(m_after, name + ".bak");
+        if (kept && !equal(here, before) && !equal(find(now, name + ".bak"), kept)) {
+            return name + " was written over without its backup";
+        }
+    }
+    return libraryLossIn(now, outcome);
+}
+
+void Faults::tryOnce(const Trouble& trouble) {
+    prepare();
+    const bool kills = trouble.fault == Fault::killed || trouble.fault == Fault::killedInWrite;
+    const Outcome outcome = kills ? runInOwnProcess(trouble) : runHere(trouble);
+    if (!outcome.struck) return;
+    Row& row = Table::rows()[GetParam().name];
+    ++row.tries[trouble.fault];
+    const State troubled = stateOf(m_folder);
+    std::string loss = lossIn(troubled, outcome);
+    if (loss.empty()) {
+        runHere({});
+        State repeated = stateOf(m_folder);
+        // Names that a dying process left, and the backup of a tail that it left.
+        std::erase_if(repeated.files, [this](const auto& file) {
+            return !m_after.files.contains(file.first) &&
+                   file.first.find(".new") != std::string::npos;
+        });
+        const std::string backup = std::string(libraryFileName) + ".bak";
+        const Bytes* kept = find(repeated, backup);
+        const Bytes* wanted = find(m_after, backup);
+        if (kept && *kept == troubled.library) {
+            repeated.files.erase(backup);
+            if (wanted) repeated.files[backup] = *wanted;
+        }
+        // Also when it was done at once, a repeat finds its own work.
+        loss = lossIn(repeated, {true, false, Answer::done});
+        if (loss.empty() && repeated.entries.size() != m_after.entries.size())
+            loss = "designs left";
+        if (!loss.empty()) loss = "after a repeat: " + loss;
+    }
+    if (!loss.empty()) ++row.losses;
+    EXPECT_EQ(loss, "") << "fault " << static_cast<int>(trouble.fault) << " at call "
+                        << trouble.call << " second " << trouble.second << " cut " << trouble.cut;
+}
+
+void Faults::tryTwoDenied(int first) {
+    // An act that goes on behind a refused call makes at most these more.
+    constexpr int mendingCalls = 4;
+    const int last = m_undisturbed.calls + mendingCalls;
+    for (int second = first + 1; second <= last; ++second) {
+        tryOnce({Fault::deniedTwice, first, second});
+    }
+}
+
+TEST_P(Faults, LoseNothing) {
+    prepare();
+    m_before = stateOf(m_folder);
+    begin({});
+    GetParam().run(m_folder);
+    m_undisturbed = end();
+    m_after = stateOf(m_folder);
+    ASSERT_FALSE(m_before == m_after) << "the operation writes nothing";
+    ASSERT_GT(m_undisturbed.calls, 1);
+
+    for (int call = 1; call <= m_undisturbed.calls; ++call) {
+        for (const Fault fault : {Fault::noSpace, Fault::denied, Fault::gone}) {
+            tryOnce({fault, call});
+        }
+        if (tryingAll()) tryTwoDenied(call);
+    }
+    // Between two changes it is all the same when the process ends.
+    for (const int call : m_undisturbed.changes) tryOnce({Fault::killed, call});
+    const std::size_t step = tryingAll() ? 1 : 60;
+    for (const int call : m_undisturbed.writes) {
+        for (std::size_t cut = step; cut < 100; cut += step) {
+            for (const Fault fault : {Fault::shortWrite, Fault::gone, Fault::killedInWrite}) {
+                tryOnce({fault, call, 0, cut});
+            }
+        }
+    }
+}
+
+std::string testName(const testing::TestParamInfo<Operation>& info) {
+    std::string name;
+    bool capital = true;
+    for (const char c : info.param.name) {
+        const bool letter = std::isalpha(static_cast<unsigned char>(c)) != 0;
+        if (letter) name += capital ? static_cast<char>(std::toupper(c)) : c;
+        capital = !letter;
+    }
+    return name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Operations, Faults, testing::ValuesIn(operations()), testName);
+
+const auto* const table = testing::AddGlobalTestEnvironment(new Table);
+
+}  // namespace
+}  // namespace lx::faults

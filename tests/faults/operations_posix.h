@@ -1,0 +1,35 @@
+// Everything of the module that writes a file, as acts that can be tried again and again.
+#pragma once
+
+#include <functional>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "platform/text.h"
+
+namespace lx::faults {
+
+enum class Answer { done, failed, untold };
+
+struct Operation {
+    std::string name;
+    // Makes the files that are there before, in an empty folder; paths end in a separator.
+    std::function<void(const Path& folder)> prepare;
+    // The user's act, from its reading on. Done once more after trouble it is to complete.
+    std::function<Answer(const Path& folder)> run;
+    // Of a library: the stored designs that the act adds, replaces or deletes. Others must stay.
+    Text label = {};
+    bool stores = false;
+};
+
+inline void PrintTo(const Operation& operation, std::ostream* stream) {
+    *stream << operation.name;
+}
+
+inline constexpr std::int32_t libraryProject = 1;
+inline constexpr std::int32_t otherProject = 2;
+
+const std::vector<Operation>& operations();
+
+}  // namespace lx::faults
