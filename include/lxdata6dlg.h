@@ -184,9 +184,9 @@ int LX_STDCALL CallLXdata6(void* parent, int32_t unused2, int32_t unused3, int32
                            OpeningBlock opening, int32_t exteriorSide);
 
 /* Lets the user choose one of the two catalogues and opens it in the catalogue browser. Returns
- * LX_DIALOG_OK (also when no catalogue was chosen), LX_DIALOG_CANCEL (also when the catalogue's file
- * cannot be opened) or LX_DIALOG_FAILED. Asks the host for the lock on the catalogues, without which
- * nothing can be changed. */
+ * LX_DIALOG_OK (also when no catalogue was chosen), LX_DIALOG_CANCEL (also when the catalogue's
+ * file cannot be opened) or LX_DIALOG_FAILED. Asks the host for the lock on the catalogues, without
+ * which nothing can be changed. */
 int LX_STDCALL CallLXdata6Base(void* parent);
 
 /* Asks in the erase dialog which drawn elements of a lintel are to be erased. Returns

@@ -16,7 +16,6 @@ namespace {
 
 constexpr int cataloguesMissingText = 113;
 
-
 }  // namespace
 
 void CObr1::connect() {

@@ -3,8 +3,8 @@
 
 #include <memory>
 
-#include "design/pages.h"
 #include "design/catalogue_choice.h"
+#include "design/pages.h"
 #include "design/services.h"
 #include "tabs/CNabidka.h"
 
