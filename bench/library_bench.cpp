@@ -16,7 +16,8 @@ constexpr int projects = 50;
 // A library of that many designs, spread over the projects, as a file of its own.
 class LibraryFile {
 public:
-    explicit LibraryFile(std::int64_t designs) : m_path("bench-library.bk6") {
+    explicit LibraryFile(std::int64_t designs, const Path& folder = {})
+        : m_path(folder + "bench-library.bk6") {
         Bytes bytes;
         for (std::int64_t i = 0; i < designs; ++i) {
             const RezChain design = sampleDesign(std::to_string(i / projects % 1000));
@@ -65,13 +66,28 @@ void openAProject(benchmark::State& state) {
     state.counters["designs"] = static_cast<double>(designs);
 }
 
-void storeADesign(benchmark::State& state) {
-    const LibraryFile file(state.range(0));
+void storeInto(benchmark::State& state, const LibraryFile& file) {
     const RezChain design = sampleDesign("new");
     for (auto _ : state) {
-        const bool stored = appendDesign(file.path(), 7, *design.head(), "new", systemFiles());
+        const bool stored = appendDesign(file.path(), 7, *design.head(), {}, systemFiles());
         if (!stored) state.SkipWithError("the design could not be stored");
     }
+}
+
+void storeADesign(benchmark::State& state) {
+    storeInto(state, LibraryFile(state.range(0)));
+}
+
+// Where flushing takes no time.
+void storeInMemory(benchmark::State& state) {
+    storeInto(state, LibraryFile(state.range(0), "/dev/shm/"));
+}
+
+// What the disk takes of a store: an entry is appended and flushed, its seal set and flushed.
+void flushTwice(benchmark::State& state) {
+    const LibraryFile file(state.range(0));
+    const Bytes entry(208, 'e');
+    for (auto _ : state) systemFiles().append(file.path(), entry, {4, "seal"});
 }
 
 void manyDesigns(benchmark::internal::Benchmark* measured) {
@@ -83,5 +99,8 @@ BENCHMARK(readTheFileOnce)->Name("open/yardstick")->Apply(manyDesigns);
 BENCHMARK(openAProject)->Name("open/module")->Apply(manyDesigns);
 BENCHMARK(readTheFileOnce)->Name("store/yardstick")->Apply(manyDesigns);
 BENCHMARK(storeADesign)->Name("store/module")->Apply(manyDesigns);
+BENCHMARK(readTheFileOnce)->Name("store_ram/yardstick")->Apply(manyDesigns);
+BENCHMARK(storeInMemory)->Name("store_ram/module")->Apply(manyDesigns);
+BENCHMARK(flushTwice)->Name("flush/module")->Apply(manyDesigns);
 
 }  // namespace

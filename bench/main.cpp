@@ -31,6 +31,8 @@ constexpr Goal goals[] = {
     {.work = "merge", .what = "merge so many items into as many", .size = 100000, .mostTimes = 1},
     {.work = "open", .what = "a project of so many designs", .size = 100000, .mostTimes = 3},
     {.work = "store", .what = "a design into a library", .size = 100000, .mostTimes = 3},
+    {.work = "flush", .what = "what the disk takes of that", .size = 100000},
+    {.work = "store_ram", .what = "where the disk takes nothing", .size = 100000, .mostTimes = 3},
     {.work = "draw", .what = "section of so many layers", .size = 20, .mostMicroseconds = 50},
     {.work = "layout", .what = "with levels, availability", .size = 20, .mostMicroseconds = 20},
 };
@@ -59,7 +61,7 @@ public:
     }
 
     void printGoals() const {
-        std::printf("\n%-7s %-34s %8s %12s %12s %6s  goal\n", "work", "", "size", "module us",
+        std::printf("\n%-9s %-34s %8s %12s %12s %6s  goal\n", "work", "", "size", "module us",
                     "yardstick us", "times");
         for (const Goal& goal : goals) {
             for (const auto& [key, measured] : m_measured) {
@@ -86,7 +88,7 @@ private:
 
     void printRow(const Goal& goal, long size, const Measured& measured) const {
         const double ratio = times(goal, size);
-        std::printf("%-7s %-34s %8ld %12.2f", goal.work, goal.what, size, measured.microseconds);
+        std::printf("%-9s %-34s %8ld %12.2f", goal.work, goal.what, size, measured.microseconds);
         if (ratio > 0)
             std::printf(" %12.2f %6.2f", measured.microseconds / ratio, ratio);
         else

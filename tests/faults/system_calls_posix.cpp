@@ -113,7 +113,7 @@ ssize_t __wrap_write(int file, const void* bytes, size_t size) {
 }
 
 // What reached the system is enough here; waiting for the disk would take most of the time.
-int __wrap_fsync(int) {
+int __wrap_fdatasync(int) {
     return fails(false) ? -1 : 0;
 }
 

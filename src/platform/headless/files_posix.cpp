@@ -36,7 +36,8 @@ public:
         if (::fstat(m_number, &about) != 0 || !S_ISREG(about.st_mode)) return -1;
         return about.st_size;
     }
-    bool flush() const { return ::fsync(m_number) == 0; }
+    // All that is needed to read the bytes again; times of change may be lost.
+    bool flush() const { return ::fdatasync(m_number) == 0; }
     // Also a close can tell of bytes that did not arrive.
     bool close() { return ::close(std::exchange(m_number, -1)) == 0; }
 
