@@ -9,21 +9,18 @@ class CTabOcel : public OfferPageWindow {
 public:
     explicit CTabOcel(DesignServices& services);
 
-    void showAvailability(const Availability& available) override;
-
 private:
     Offer& offer() override { return services().model().steelOffer(); }
     void changeType() override { services().RebuildSteelOffer(); }
-    void addByDoubleClick() override;
-
-    void addSelected();
-    void insertInsulation();
-    void insertSpace();
-
-    Button& m_add;
-    Button& m_remove;
-    Button& m_insulation;
-    Button& m_space;
+    void compose() override { services().ComposeSteel(); }
+    void openCatalogue() override { services().OpenCatalogue(1); }
+    CommandAnswer addElement(DesignEdit design, const CRez* element) override {
+        return addSteel(design, element);
+    }
+    CommandAnswer addInsulationLayer(DesignEdit design) override {
+        return addSteelInsulation(design);
+    }
+    bool addAvailable(const Availability& available) const override { return available.addSteel; }
 };
 
 }  // namespace lx

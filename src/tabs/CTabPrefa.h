@@ -9,21 +9,16 @@ class CTabPrefa : public OfferPageWindow {
 public:
     explicit CTabPrefa(DesignServices& services);
 
-    void showAvailability(const Availability& available) override;
-
 private:
     Offer& offer() override { return services().model().precastOffer(); }
     void changeType() override { services().RebuildPrecastOffer(); }
-    void addByDoubleClick() override;
-
-    void addSelected();
-    void insertInsulation();
-    void insertSpace();
-
-    Button& m_add;
-    Button& m_remove;
-    Button& m_insulation;
-    Button& m_space;
+    void compose() override { services().ComposePrecast(); }
+    void openCatalogue() override { services().OpenCatalogue(pickRequest | 1); }
+    CommandAnswer addElement(DesignEdit design, const CRez* element) override {
+        return addPrecast(design, element);
+    }
+    CommandAnswer addInsulationLayer(DesignEdit design) override { return addInsulation(design); }
+    bool addAvailable(const Availability& available) const override { return available.addPrecast; }
 };
 
 }  // namespace lx

@@ -1,16 +1,44 @@
 #include "tabs/offer_page.h"
 
+#include "resources/icons.h"
 #include "resources/strings.h"
 #include "tabs/page_window.h"
 
 namespace lx {
 
 OfferPageWindow::OfferPageWindow(DesignServices& services, const DialogTemplate& layout,
-                                 int typeBox, int offerList)
+                                 const OfferPageControls& controls, std::string_view addTooltip)
     : m_services(services),
       m_window(makePageWindow(services, layout)),
-      m_types(m_window->get<ComboBox>(typeBox)),
-      m_offer(m_window->get<ListBox>(offerList)) {
+      m_types(m_window->get<ComboBox>(controls.typeBox)),
+      m_offer(m_window->get<ListBox>(controls.offerList)),
+      m_add(m_window->get<Button>(controls.add)),
+      m_remove(m_window->get<Button>(controls.remove)),
+      m_insulation(m_window->get<Button>(controls.insulation)),
+      m_space(m_window->get<Button>(controls.space)) {
+    connect(controls, addTooltip);
+}
+
+void OfferPageWindow::connect(const OfferPageControls& controls, std::string_view addTooltip) {
+    dress(m_add, icon::add, addTooltip);
+    dress(m_remove, icon::remove, texts::removeLayer);
+    dress(m_insulation, icon::insulation, texts::addInsulation);
+    dress(m_space, icon::space, texts::addSpace);
+    m_add.onClick = [this] { addSelected(); };
+    m_remove.onClick = [this] { m_services.RemoveCurrent(); };
+    m_insulation.onClick = [this] {
+        m_services.EndEdit();
+        finish(addInsulationLayer(m_services.model().edit()));
+    };
+    m_space.onClick = [this] {
+        m_services.EndEdit();
+        finish(addSpace(m_services.model().edit()));
+    };
+    m_window->get<Button>(controls.compose).onClick = [this] {
+        compose();
+        Refresh();
+    };
+    m_window->get<Button>(controls.catalogue).onClick = [this] { openCatalogue(); };
     m_types.onSelect = [this] {
         m_services.EndEdit();
         changeType();
@@ -20,7 +48,22 @@ OfferPageWindow::OfferPageWindow(DesignServices& services, const DialogTemplate&
         offer().select(m_offer.list().selected());
         Refresh();
     };
-    m_offer.list().onDoubleClick = [this] { addByDoubleClick(); };
+    m_offer.list().onDoubleClick = [this] {
+        if (m_add.enabled()) addSelected();
+    };
+}
+
+void OfferPageWindow::showAvailability(const Availability& available) {
+    ListBox& list = m_offer.list();
+    enableOrLeave(m_add, addAvailable(available), list);
+    enableOrLeave(m_remove, available.remove, list);
+    enableOrLeave(m_insulation, available.insertInsulation, list);
+    enableOrLeave(m_space, available.insertSpace, list);
+}
+
+void OfferPageWindow::addSelected() {
+    m_services.EndEdit();
+    finish(addElement(m_services.model().edit(), offer().selectedRecord()));
 }
 
 void OfferPageWindow::fillTypes(const std::vector<Text>& names) {

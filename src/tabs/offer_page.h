@@ -1,4 +1,5 @@
-// What the precast and the steel page have in common: the "Typ:" box and the offer list.
+// What the precast and the steel page have in common: the "Typ:" box, the offer list, and the
+// buttons that build a lintel from it.
 #pragma once
 
 #include <memory>
@@ -10,9 +11,22 @@
 
 namespace lx {
 
+// Control ids of a page.
+struct OfferPageControls {
+    int typeBox = 0;
+    int offerList = 0;
+    int compose = 0;
+    int add = 0;
+    int remove = 0;
+    int insulation = 0;
+    int space = 0;
+    int catalogue = 0;
+};
+
 class OfferPageWindow : public OfferPage {
 public:
     Dialog& window() override { return *m_window; }
+    void showAvailability(const Availability& available) override;
     void fillTypes(const std::vector<Text>& names) override;
     void selectType(int type) override;
     int selectedType() const override { return m_types.selected(); }
@@ -21,30 +35,37 @@ public:
     void refreshOfferLooks() override;
 
 protected:
-    OfferPageWindow(DesignServices& services, const DialogTemplate& layout, int typeBox,
-                    int offerList);
+    // addTooltip: a text that lasts.
+    OfferPageWindow(DesignServices& services, const DialogTemplate& layout,
+                    const OfferPageControls& controls, std::string_view addTooltip);
 
     DesignServices& services() { return m_services; }
-    template <class C>
-    C& get(int control) {
-        return m_window->get<C>(control);
-    }
-    CNabidka& nabidka() { return m_offer; }
     // The model's offer that this page lists.
     virtual Offer& offer() = 0;
     virtual void changeType() = 0;
-    // The page's command "add the selected element", when its button is enabled.
-    virtual void addByDoubleClick() = 0;
+    virtual void compose() = 0;
+    virtual void openCatalogue() = 0;
+    virtual CommandAnswer addElement(DesignEdit design, const CRez* element) = 0;
+    virtual CommandAnswer addInsulationLayer(DesignEdit design) = 0;
+    // Whether the selected element may be added.
+    virtual bool addAvailable(const Availability& available) const = 0;
+
+private:
+    void connect(const OfferPageControls& controls, std::string_view addTooltip);
+    void addSelected();
     // After a command: lays out when the design has changed, or tells why it has not.
     void finish(CommandAnswer answer);
     // After a command and a new selection.
     void Refresh();
 
-private:
     DesignServices& m_services;
     std::unique_ptr<Dialog> m_window;
     ComboBox& m_types;
     CNabidka m_offer;
+    Button& m_add;
+    Button& m_remove;
+    Button& m_insulation;
+    Button& m_space;
 };
 
 }  // namespace lx
