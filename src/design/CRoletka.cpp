@@ -95,7 +95,6 @@ bool CRoletka::commit(Message message) {
     DesignModel& model = m_services.model();
     const CommitAnswer answer = commitValue(model.edit(), edit, typed, model.values().openingWidth);
     if (answer.message != 0) {
-        if (edit.kind == edit_kind::specialWidth) m_edit.kind = edit_kind::refusedWidth;
         refuse(answer, message);
         return false;
     }

@@ -20,8 +20,6 @@ public:
     void open(const EditRequest& request, Picture& picture, Point at);
     // Also during the event that has closed the box by taking its focus.
     bool visible() const { return m_box.visible() || m_left; }
-    // edit_kind::none when no edit is pending.
-    int kind() const { return m_edit.kind; }
     // Takes the edit away, hides the box and puts the typed value into the design. False when the
     // value was refused, also when the message about it is still to come. True as well when
     // there was nothing to commit.

@@ -46,11 +46,13 @@ bool isNegative(const HitRegion& region, const RezChain& design) {
     return value != nullptr && *value < 0;
 }
 
-}  // namespace
-
+// A region of a bend's run or step: the numbers under the wall stand to the right of the labels of
+// the current layer.
 bool isBendRegion(const HitRegion& region) {
     return region.kind == region::number && region.x > labelsEnd;
 }
+
+}  // namespace
 
 Text valueFamily(const HitRegions& regions, std::size_t clicked, const RezChain& design) {
     if (const auto family = familyOfLayer(regions, clicked)) return Text(*family);

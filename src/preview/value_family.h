@@ -9,8 +9,4 @@ namespace lx {
 // Section of the dialog's settings for the region of that index, one of a number.
 Text valueFamily(const HitRegions& regions, std::size_t clicked, const RezChain& design);
 
-// A region of a bend's run or step: the numbers under the wall stand to the right of the labels of
-// the current layer.
-bool isBendRegion(const HitRegion& region);
-
 }  // namespace lx
