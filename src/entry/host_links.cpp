@@ -9,6 +9,7 @@ namespace lx {
 
 namespace {
 
+constexpr char helpLibrary[] = "vdhelp.dll";
 // The help library's command "show the topic with this context number".
 constexpr std::uintptr_t helpContext = 1;
 
@@ -87,8 +88,12 @@ std::vector<Text> HostLinks::textStyles() {
 }
 
 int HostLinks::showHelp(int topic) {
-    const Path hostFolder = m_helpFile.substr(0, m_helpFile.find_last_of("\\/") + 1);
-    const ModuleHandle library = m_modules.load("vdhelp.dll", hostFolder);
+    // A host that has loaded it already may keep it in a folder that only the host knows.
+    ModuleHandle library = m_modules.loaded(helpLibrary);
+    if (!library) {
+        const Path hostFolder = m_helpFile.substr(0, m_helpFile.find_last_of("\\/") + 1);
+        library = m_modules.load(helpLibrary, hostFolder);
+    }
     void* const entry = library ? m_modules.symbol(library, "vdHtmlHelp") : nullptr;
     if (!entry) return 0;
     const std::array<std::uintptr_t, 4> arguments{0,

@@ -121,6 +121,11 @@ TEST_F(Links, HelpNamesTheFileAndTheTopic) {
     EXPECT_EQ(links.showHelp(99), 0);
     modules.libraries.clear();
     EXPECT_EQ(links.showHelp(99), 0);
+    // The host has loaded it from a folder of its own.
+    installHost(modules, host_module::application, programFolder);
+    modules.loadedModules["vdhelp.dll"] = modules.libraries.at(programFolder + "vdhelp.dll");
+    modules.libraries.clear();
+    EXPECT_EQ(links.showHelp(146), 77);
 }
 
 }  // namespace
