@@ -50,7 +50,7 @@ int CData6_1::runStandAlone() {
     LoadedCatalogue loaded =
         loadCatalogue(m_request.kind, cataloguePath(m_request.kind, m_host), m_files);
     if (!loaded.opened) {
-        message(str(notAccessible), m_host.title(), MessageIcon::stop, MessageButtons::ok);
+        message(str(notAccessible), m_host.hostTitle(), MessageIcon::stop, MessageButtons::ok);
         return notOpened;
     }
     m_ownItems = std::move(loaded.head);
@@ -100,7 +100,7 @@ void CData6_1::connect() {
     m_types->onCommand = [this](int command) { execute(command); };
     m_list->onCommand = [this](int command) { execute(command); };
     m_list->onCopyFailed = [this] {
-        message(str(notCopied), m_host.title(), MessageIcon::stop, MessageButtons::ok);
+        message(str(notCopied), m_host.hostTitle(), MessageIcon::stop, MessageButtons::ok);
     };
 }
 

@@ -32,7 +32,7 @@ std::string_view catalogueFileName(CatalogueKind kind) {
 }
 
 Path cataloguePath(CatalogueKind kind, Host& host) {
-    Path path = host.folder(HostFolder::catalogue).value_or(host.dataFolder());
+    Path path = host.getHostFolder(HostFolder::catalogue).value_or(host.dataFolder());
     path += catalogueFileName(kind);
     return path;
 }

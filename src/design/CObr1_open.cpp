@@ -83,7 +83,7 @@ bool CObr1::loadCatalogueOf(CatalogueKind kind, Catalogue& catalogue, CatalogueS
         loadCatalogue(kind, cataloguePath(kind, m_context.host), m_context.files);
     if (!loaded.opened) {
         m_context.platform.messageBox(Owner{m_window.get(), m_owner.hostWindow},
-                                      str(cataloguesMissingText), m_context.host.title(),
+                                      str(cataloguesMissingText), m_context.host.hostTitle(),
                                       MessageIcon::stop, MessageButtons::ok);
         return false;
     }

@@ -17,13 +17,13 @@ ProjectList LibrarySession::unreadProjects() {
 }
 
 std::optional<Path> LibrarySession::pathOf(std::string_view fileName) {
-    std::optional<Path> path = m_host.folder(HostFolder::library);
+    std::optional<Path> path = m_host.getHostFolder(HostFolder::library);
     if (path) path->append(fileName);
     return path;
 }
 
 bool LibrarySession::available() {
-    return m_host.folder(HostFolder::library).has_value();
+    return m_host.getHostFolder(HostFolder::library).has_value();
 }
 
 bool LibrarySession::readOnly() {

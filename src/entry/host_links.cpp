@@ -22,7 +22,7 @@ Text orEmpty(const char* text) {
 HostLinks::HostLinks(Modules& modules, const Path& dataFolder, const Path& helpFile)
     : m_modules(modules), m_dataFolder(dataFolder), m_helpFile(helpFile) {}
 
-HostLinks::Services HostLinks::services() {
+HostLinks::Services HostLinks::getHostServices() {
     ModuleHandle host = m_modules.loaded(host_module::application);
     if (!host) host = m_modules.loaded(host_module::extension);
     void* const entry = host ? m_modules.symbol(host, "GetExport2D") : nullptr;
@@ -33,7 +33,7 @@ HostLinks::Services HostLinks::services() {
 
 template <class Function>
 Function HostLinks::service(int position) {
-    const Services table = services();
+    const Services table = getHostServices();
     return table ? std::bit_cast<Function>(table[position]) : nullptr;
 }
 
@@ -59,7 +59,7 @@ void HostLinks::releaseLock(HostResource resource, int code) {
     }
 }
 
-Text HostLinks::title() {
+Text HostLinks::hostTitle() {
     const auto ask = service<LxTitleService>(LX_SERVICE_TITLE);
     const char* const answer = ask ? ask() : nullptr;
     return answer ? Text(answer) : Text("ERROR");

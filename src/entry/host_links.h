@@ -20,10 +20,10 @@ public:
 
     std::optional<Path> folderWithin(HostFolder id, int bufferSize) override;
     const Path& dataFolder() const override { return m_dataFolder; }
-    bool present() override { return services() != nullptr; }
+    bool present() override { return getHostServices() != nullptr; }
     int requestLock(HostResource resource, int mode) override;
     void releaseLock(HostResource resource, int code) override;
-    Text title() override;
+    Text hostTitle() override;
     Text variable(const char* name) override;
     int unitsPerMetre() override;
     std::vector<Text> textStyles() override;
@@ -32,7 +32,7 @@ public:
 private:
     // A row of function addresses, or null.
     using Services = void* const*;
-    Services services();
+    Services getHostServices();
     template <class Function>
     Function service(int position);
 

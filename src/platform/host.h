@@ -21,7 +21,7 @@ public:
     virtual ~Host() = default;
 
     // The host's folder with its trailing separator, or none when the host does not tell.
-    std::optional<Path> folder(HostFolder id) { return folderWithin(id, 260); }
+    std::optional<Path> getHostFolder(HostFolder id) { return folderWithin(id, 260); }
     // The same, with the number of bytes that the host is told its answer may take.
     virtual std::optional<Path> folderWithin(HostFolder id, int bufferSize) = 0;
     // The module's own data folder, ending in "DAT" and a separator; known from start-up on.
@@ -34,7 +34,7 @@ public:
     // Gives a lock back with the release code; does nothing when the host has no such entry.
     virtual void releaseLock(HostResource resource, int code) = 0;
     // The host's product title, "ERROR" when there is none.
-    virtual Text title() = 0;
+    virtual Text hostTitle() = 0;
     // A named variable of the host such as "DWGNAME"; empty when unknown.
     virtual Text variable(const char* name) = 0;
     // Drawing units per metre; 0 when the host does not tell.

@@ -128,7 +128,7 @@ void CSettings::onOk() {
             m_edges.selectAll();
         }
         m_context.platform.messageBox(Owner{m_window.get(), nullptr}, str(refusal),
-                                      m_context.host.title(), MessageIcon::stop,
+                                      m_context.host.hostTitle(), MessageIcon::stop,
                                       MessageButtons::ok);
         return;
     }

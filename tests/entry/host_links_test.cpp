@@ -60,8 +60,8 @@ TEST_F(Links, HandOnWhatTheServicesAnswer) {
     hostSide().libraryFolder = "L:\\shared\\";
     hostSide().catalogueFolder = "K:\\";
     EXPECT_TRUE(links.present());
-    EXPECT_EQ(links.folder(HostFolder::library), "L:\\shared\\");
-    EXPECT_EQ(links.folder(HostFolder::catalogue), "K:\\");
+    EXPECT_EQ(links.getHostFolder(HostFolder::library), "L:\\shared\\");
+    EXPECT_EQ(links.getHostFolder(HostFolder::catalogue), "K:\\");
     EXPECT_EQ(hostSide().sizesGiven, (std::vector<int>{260, 260}));
     EXPECT_EQ(links.variable("DWGNAME"), "plan.dwg");
     EXPECT_EQ(links.variable("OTHER"), "");
@@ -70,20 +70,20 @@ TEST_F(Links, HandOnWhatTheServicesAnswer) {
     links.releaseLock(HostResource::library, 4);
     EXPECT_EQ(hostSide().lockCalls, (std::vector<std::pair<int, int>>{{3, 9}, {2, 4}}));
     EXPECT_EQ(links.textStyles(), (std::vector<Text>{"Standard", "Iso"}));
-    EXPECT_EQ(links.title(), "Stand-in 7");
+    EXPECT_EQ(links.hostTitle(), "Stand-in 7");
 }
 
 TEST_F(Links, OnlyTheLowByteOfTheFolderAnswerCounts) {
     hostSide().folderAnswer = 0x7FFF00;
-    EXPECT_EQ(links.folder(HostFolder::library), std::nullopt);
+    EXPECT_EQ(links.getHostFolder(HostFolder::library), std::nullopt);
     hostSide().folderAnswer = 0x100 | 1;
     hostSide().libraryFolder = Path(400, 'x');
-    EXPECT_EQ(links.folder(HostFolder::library), Path(260, 'x'));
+    EXPECT_EQ(links.getHostFolder(HostFolder::library), Path(260, 'x'));
 }
 
 TEST_F(Links, TheTableIsAskedAfreshOfTheProgramBeforeTheExtension) {
     modules.loadedModules[host_module::extension] = {};  // without the export
-    EXPECT_EQ(links.title(), "Stand-in 7");
+    EXPECT_EQ(links.hostTitle(), "Stand-in 7");
     hostSide().noTable = true;
     EXPECT_FALSE(links.present());
     hostSide().noTable = false;
@@ -97,14 +97,14 @@ TEST_F(Links, TheTableIsAskedAfreshOfTheProgramBeforeTheExtension) {
 
 TEST_F(Links, AMissingTableOrEntryAnswersNothing) {
     const auto expectNothing = [this] {
-        EXPECT_EQ(links.folder(HostFolder::library), std::nullopt);
+        EXPECT_EQ(links.getHostFolder(HostFolder::library), std::nullopt);
         EXPECT_EQ(links.variable("DWGNAME"), "");
         EXPECT_EQ(links.unitsPerMetre(), 0);
         EXPECT_EQ(links.requestLock(HostResource::library, 9), -1);
         links.releaseLock(HostResource::library, 2);
         EXPECT_TRUE(hostSide().lockCalls.empty());
         EXPECT_TRUE(links.textStyles().empty());
-        EXPECT_EQ(links.title(), "ERROR");
+        EXPECT_EQ(links.hostTitle(), "ERROR");
     };
     hostSide().noTable = true;
     expectNothing();

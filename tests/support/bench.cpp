@@ -23,7 +23,7 @@ void FakeHost::releaseLock(HostResource resource, int code) {
     lockReleases.push_back({resource, code});
 }
 
-Text FakeHost::title() {
+Text FakeHost::hostTitle() {
     return hasServices ? titleText : "ERROR";
 }
 

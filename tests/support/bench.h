@@ -60,7 +60,7 @@ public:
     bool present() override { return hasServices; }
     int requestLock(HostResource resource, int mode) override;
     void releaseLock(HostResource resource, int code) override;
-    Text title() override;
+    Text hostTitle() override;
     Text variable(const char* name) override;
     int unitsPerMetre() override;
     std::vector<Text> textStyles() override;
