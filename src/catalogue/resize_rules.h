@@ -58,7 +58,6 @@ public:
     void addDivider(int control, const Rect& area, Side side, int partner, const Rect& partnerArea);
     // Other minimum sizes for all registrations of a control; a negative one leaves what there is.
     void setSize(int control, int width, int height);
-    const std::vector<resizeCtrl>& registrations() const { return m_registrations; }
 
     // The client size that the registered areas belong to. Before it sizes are ignored.
     void initialise(Size client) { m_client = client; }

@@ -74,14 +74,6 @@ std::int32_t DesignModel::FreeSpace() const {
     return head() ? freeSpace(*head()) : 0;
 }
 
-int DesignModel::LayerCount() const {
-    return head() ? layerCount(*head()) : 0;
-}
-
-Family DesignModel::DesignFamily() const {
-    return head() ? designFamily(*head()) : Family::none;
-}
-
 bool DesignModel::ComposePrecast(const Profile& rules) {
     return composed(
         composePrecast(chain(), m_precastOffer.selectedRecord(), m_precastOffer.rows(), rules));

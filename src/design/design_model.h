@@ -42,8 +42,6 @@ public:
     // False without a design.
     bool Relayout();
     std::int32_t FreeSpace() const;
-    int LayerCount() const;
-    Family DesignFamily() const;
     DesignEdit edit() { return {chain(), m_current}; }
     // Replace every layer by what the selected element of the offer makes, laid out; false when
     // there is none, then nothing has changed. Steel may turn that element in the offer.

@@ -12,7 +12,6 @@ namespace lx {
 // Kinds of an edit, beside the one of the clicked value.
 namespace edit_kind {
 inline constexpr int none = -999;
-inline constexpr int refusedWidth = -2;  // a refused width: no longer tested
 inline constexpr int specialWidth = -1;  // width of a special layer, tested against the wall
 inline constexpr int number = 0;
 }  // namespace edit_kind

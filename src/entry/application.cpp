@@ -17,7 +17,6 @@ CLXdata6dlgApp::CLXdata6dlgApp(Platform& platform, Files& files, Modules& module
 
 bool CLXdata6dlgApp::InitInstance() {
     Locations found = findLocations(m_modules);
-    m_hostModule = found.host;
     m_dataFolder = std::move(found.dataFolder);
     m_values.helpFile = std::move(found.helpFile);
     return true;

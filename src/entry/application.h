@@ -22,8 +22,6 @@ public:
     int ExitInstance();
 
     Context& context() { return m_context; }
-    // The host module found at start-up, or null.
-    ModuleHandle hostModule() const { return m_hostModule; }
 
     // Claims the module for one dialog call; held() is false while another one has it.
     class Call {
@@ -45,7 +43,6 @@ public:
 
 private:
     Modules& m_modules;
-    ModuleHandle m_hostModule = nullptr;
     Path m_dataFolder;
     ModuleValues m_values;
     HostLinks m_host;

@@ -22,8 +22,7 @@ inline constexpr std::string_view wrongType = "Chybný typ"_cz;
 inline constexpr std::string_view precastBrowser = "Databáze prefabrikátů (%s)"_cz;
 inline constexpr std::string_view steelBrowser = "Databáze průřezů (%s)"_cz;
 
-// Properties text of an offer entry without a record, and of a record without a name.
-inline constexpr std::string_view noItem = "<item = NULL>"_cz;
+// Properties text of an offered record without a name.
 inline constexpr std::string_view noName = "<NULL>"_cz;
 
 // Name of the project that every project list starts with.
