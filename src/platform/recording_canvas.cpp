@@ -321,9 +321,4 @@ std::string RecordingCanvas::svgElements() const {
     return result;
 }
 
-std::string RecordingCanvas::asSvg(Size size) const {
-    return "<svg xmlns=\"http://www.w3.org/2000/svg\"" + sides(size.width, size.height) + ">\n" +
-           svgElements() + "</svg>\n";
-}
-
 }  // namespace lx

@@ -43,9 +43,7 @@ public:
     // another are one.
     std::string asText() const;
     bool empty() const { return m_operations.empty(); }
-    // A whole SVG document of that size.
-    std::string asSvg(Size size) const;
-    // The elements alone, to stand inside another document.
+    // The drawing as SVG elements, to stand inside a document.
     std::string svgElements() const;
 
 private:

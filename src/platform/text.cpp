@@ -66,26 +66,6 @@ std::string toUtf8(std::string_view text) {
     return result;
 }
 
-std::optional<Text> fromUtf16(std::u16string_view utf16) {
-    Text result;
-    result.reserve(utf16.size());
-    for (const char16_t unit : utf16) {
-        const int byte = unit == 0 ? -1 : cp1250FromUnicode(unit);
-        if (byte < 0) return std::nullopt;
-        result.push_back(static_cast<char>(byte));
-    }
-    return result;
-}
-
-std::u16string toUtf16(std::string_view text) {
-    std::u16string result;
-    result.reserve(text.size());
-    for (const char c : text) {
-        result.push_back(static_cast<char16_t>(unicodeFromCp1250(static_cast<unsigned char>(c))));
-    }
-    return result;
-}
-
 unsigned char lowerCase(unsigned char byte) {
     if (byte < 0x80)
         return byte >= 'A' && byte <= 'Z' ? static_cast<unsigned char>(byte + 32) : byte;

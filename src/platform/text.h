@@ -29,9 +29,6 @@ constexpr char32_t unicodeFromCp1250(unsigned char byte);
 // UTF-8 to code page 1250; none when a character does not exist there or the UTF-8 is malformed.
 std::optional<Text> fromUtf8(std::string_view utf8);
 std::string toUtf8(std::string_view text);
-// UTF-16 to code page 1250; none when a character does not exist there.
-std::optional<Text> fromUtf16(std::u16string_view utf16);
-std::u16string toUtf16(std::string_view text);
 
 // Lower case of one byte, Czech letters included ("Č" gives "č").
 unsigned char lowerCase(unsigned char byte);
