@@ -24,7 +24,6 @@ public:
     void inDialog(std::string_view title, std::function<void(Driver&)> step);
     // Empty when all is well: the steps are used up and none failed.
     std::string failure() const;
-    bool finished() const { return m_steps.empty(); }
 
 private:
     bool runNext(Driver& driver);

@@ -48,7 +48,6 @@ public:
 
     // Sees a key down before the control and before the dialog's own keys (Enter, Esc, Tab).
     std::function<KeyAnswer(const KeyEvent&)> onKey;
-    std::function<void()> onFocus;
     // Fired when the focus leaves by the user's act. Show a message box from here by Dialog::post
     // alone.
     std::function<void()> onBlur;
@@ -95,7 +94,6 @@ public:
     virtual void select(TextSelection selection) = 0;
     virtual TextSelection selection() const = 0;
     void selectAll() { select({0, static_cast<int>(text().size())}); }
-    virtual void setReadOnly(bool on) = 0;
     virtual bool readOnly() const = 0;
     // The user changed the text.
     std::function<void()> onChange;

@@ -75,8 +75,7 @@ public:
     virtual void bringToFront() = 0;
 
     virtual void setMenuBar(const Menu& menu) = 0;
-    // Greys out an entry by its command, or a top entry of the menu bar by its position.
-    virtual void enableCommand(int command, bool on) = 0;
+    // Greys out a top entry of the menu bar.
     virtual void enableMenu(int position, bool on) = 0;
     // Shows a popup menu at a point of that control's client area and returns the chosen command, 0
     // when none. Commands for which enabled answers false are greyed out.
@@ -90,7 +89,6 @@ public:
     virtual void post(std::function<void()> action) = 0;
     // Mouse messages of the dialog's own client area go to its handlers until released or lost.
     virtual void captureMouse(bool on) = 0;
-    virtual void setCursor(CursorShape shape) = 0;
     // The window answers this private message with that value and does nothing else.
     virtual void answerMessage(unsigned message, int value) = 0;
 
@@ -106,7 +104,7 @@ public:
     std::function<bool(Point)> onLeftUp;
     std::function<bool(Point)> onMouseMove;
     std::function<void()> onCaptureLost;
-    // Which cursor stands over that point; none = the usual one.
+    // Which cursor stands over that point; none = the arrow.
     std::function<std::optional<CursorShape>(Point)> onCursor;
     // Once, when the window is about to be destroyed and its controls still answer.
     std::function<void()> onDestroy;

@@ -41,9 +41,8 @@ inline constexpr unsigned verticalScroll = 1U << 4;  // edits and lists
 inline constexpr unsigned sorted = 1U << 5;  // editable combos: the box keeps its items sorted
 inline constexpr unsigned noTabStop = 1U << 6;
 inline constexpr unsigned multipleSelection = 1U << 7;  // list views
-inline constexpr unsigned rightAligned = 1U << 8;       // labels
-inline constexpr unsigned focusable = 1U << 9;  // pictures that take the focus on a click or by Tab
-inline constexpr unsigned border = 1U << 10;    // pictures with a sunken edge
+inline constexpr unsigned focusable = 1U << 8;  // pictures that take the focus on a click or by Tab
+inline constexpr unsigned border = 1U << 9;     // pictures with a sunken edge
 }  // namespace style
 
 struct ControlTemplate {

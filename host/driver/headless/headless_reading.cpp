@@ -239,7 +239,7 @@ std::string HeadlessDriver::tooltip(ControlName name) {
 std::string HeadlessDriver::cursor(ControlName name) {
     if (!name.empty()) return cursorName(picture(name).cursor());
     const HeadlessDialog& top = dialog();
-    return cursorName(m_mouse && top.onCursor ? top.cursorAt(*m_mouse) : top.cursor());
+    return cursorName(m_mouse ? top.cursorAt(*m_mouse) : CursorShape::arrow);
 }
 
 std::string HeadlessDriver::clipboard() {

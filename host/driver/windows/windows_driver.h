@@ -100,7 +100,6 @@ private:
     Window listView(ControlName name);
     Window focusedWindow();
     Window mouseTarget(ControlName picture, ScreenPoint& p, bool press);
-    void typeCharacters(std::u16string_view text);
     void chooseFromPopup(const std::string& path);
     void pickInCombo(Window combo, int row);
     bool step(const std::function<bool(Driver&)>& next);

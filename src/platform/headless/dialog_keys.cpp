@@ -53,9 +53,7 @@ void HeadlessDialog::moveFocusByUser(HeadlessControl* control, bool byKey) {
     HeadlessControl* before = m_focus;
     moveFocusByProgram(control);
     if (byKey) control->enteredByKey();
-    if (before == control) return;
-    if (before) callCopy(before->control().onBlur);
-    if (m_running && m_focus == control) callCopy(control->control().onFocus);
+    if (before && before != control) callCopy(before->control().onBlur);
 }
 
 void HeadlessDialog::leaveFocusIfLost() {

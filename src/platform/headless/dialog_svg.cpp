@@ -225,9 +225,7 @@ void drawGroup(Area& area, const HeadlessControl& group) {
 }
 
 void drawLabel(Area& area, const HeadlessControl& label) {
-    const Text text = label.plainText();
-    const bool right = (label.style() & style::rightAligned) != 0;
-    area.lines({right ? area.width() - textWidth(text) : 0, 0}, text, inkOf(label));
+    area.lines({0, 0}, label.plainText(), inkOf(label));
 }
 
 void drawControl(std::string& out, const HeadlessControl& control) {

@@ -196,13 +196,10 @@ public:
     Text text() const override { return m_field.text(); }
     void select(TextSelection selection) override { m_field.select(selection); }
     TextSelection selection() const override { return m_field.selection(); }
-    void setReadOnly(bool on) override { m_readOnly = on; }
     bool readOnly() const override { return m_readOnly; }
 
     // By way of the dialog's keys; the edit takes the focus first.
     void userType(char32_t character);
-    // Drags over that part of the text.
-    void userSelectText(TextSelection selection);
     // The context menu's Paste of UTF-8 text; what code page 1250 lacks is left out with a beep.
     void userPaste(std::string_view utf8);
 

@@ -31,10 +31,10 @@ std::vector<HeadlessMenuEntry> entriesOf(const Menu& menu) {
 }
 
 void setEnabled(std::vector<HeadlessMenuEntry>& entries,
-                const std::function<std::optional<bool>(int command)>& state) {
+                const std::function<bool(int command)>& enabled) {
     for (HeadlessMenuEntry& entry : entries) {
-        if (entry.command != 0) entry.enabled = state(entry.command).value_or(entry.enabled);
-        setEnabled(entry.items, state);
+        if (entry.command != 0) entry.enabled = enabled(entry.command);
+        setEnabled(entry.items, enabled);
     }
 }
 
@@ -319,11 +319,6 @@ void HeadlessDialog::setMenuBar(const Menu& menu) {
     if (has != had) m_placement.normal.bottom += has ? menuHeight : -menuHeight;
 }
 
-void HeadlessDialog::enableCommand(int command, bool on) {
-    setEnabled(m_menu,
-               [=](int entry) { return entry == command ? std::optional(on) : std::nullopt; });
-}
-
 void HeadlessDialog::enableMenu(int position, bool on) {
     if (position >= 0 && static_cast<std::size_t>(position) < m_menu.size()) {
         m_menu[static_cast<std::size_t>(position)].enabled = on;
@@ -334,9 +329,7 @@ int HeadlessDialog::popupMenu(const Menu& menu, Control& control, Point p,
                               const std::function<bool(int command)>& enabled) {
     if (!root().m_running) return 0;
     HeadlessPopup popup{entriesOf(menu), dynamic_cast<HeadlessControl*>(&control), p};
-    if (enabled) {
-        setEnabled(popup.entries, [&](int command) { return std::optional(enabled(command)); });
-    }
+    if (enabled) setEnabled(popup.entries, enabled);
     return m_platform.runPopup(std::move(popup));
 }
 
@@ -350,7 +343,7 @@ void HeadlessDialog::userMenu(int command) {
     settle();
 }
 
-// ---- timers, posted actions, messages
+// ---- timers, posted actions
 
 void HeadlessDialog::startTimer(int timer, int milliseconds) {
     stopTimer(timer);
@@ -364,11 +357,6 @@ void HeadlessDialog::stopTimer(int timer) {
 
 void HeadlessDialog::post(std::function<void()> action) {
     if (!root().m_closed) m_platform.post(*this, std::move(action));
-}
-
-std::optional<int> HeadlessDialog::answerTo(unsigned message) const {
-    const auto found = m_answers.find(message);
-    return found == m_answers.end() ? std::nullopt : std::optional(found->second);
 }
 
 // ---- the mouse over the dialog's own client area

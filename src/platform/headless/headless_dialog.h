@@ -2,7 +2,6 @@
 // headless_controls.h says of a user's acts holds here as well.
 #pragma once
 
-#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -44,9 +43,8 @@ public:
     bool visible() const override { return m_visible; }
     Control* focusedControl() override;
     void focusFirst() override;
-    void bringToFront() override { ++m_broughtToFront; }
+    void bringToFront() override {}
     void setMenuBar(const Menu& menu) override;
-    void enableCommand(int command, bool on) override;
     void enableMenu(int position, bool on) override;
     int popupMenu(const Menu& menu, Control& control, Point p,
                   const std::function<bool(int command)>& enabled) override;
@@ -54,14 +52,12 @@ public:
     void stopTimer(int timer) override;
     void post(std::function<void()> action) override;
     void captureMouse(bool on) override { m_captured = on; }
-    void setCursor(CursorShape shape) override { m_cursor = shape; }
-    void answerMessage(unsigned message, int value) override { m_answers[message] = value; }
+    void answerMessage(unsigned, int) override {}
 
     // ---- what there is
     HeadlessPlatform& platform() const { return m_platform; }
     // The template's name.
     const std::string& name() const { return m_name; }
-    DialogStyle dialogStyle() const { return m_style; }
     bool isPage() const { return m_style == DialogStyle::page; }
     // The top-level dialog of a page; any other dialog itself.
     HeadlessDialog& root();
@@ -77,15 +73,9 @@ public:
     HeadlessButton* defaultButton() const;
     int icon() const { return m_icon; }
     const std::vector<HeadlessMenuEntry>& menuBar() const { return m_menu; }
-    Size minimumSize() const { return m_minimumSize; }
-    bool mouseCaptured() const { return m_captured; }
-    CursorShape cursor() const { return m_cursor; }
     // What stands under the mouse over the dialog's own client area.
     CursorShape cursorAt(Point p) const;
-    // What the window answers to a private message; none = nothing.
-    std::optional<int> answerTo(unsigned message) const;
     Text describe(std::string_view topic) const { return onDescribe ? onDescribe(topic) : Text(); }
-    int broughtToFront() const { return m_broughtToFront; }
     // Shown, together with the dialog that it is a page of; of a top-level dialog always true.
     bool flagsShown() const;
     // Window less client area.
@@ -130,7 +120,7 @@ private:
     void closeWindow();
     void loseCapture();
 
-    // Focus. The user's way fires onBlur and onFocus, the program's does not.
+    // Focus. The user's way fires onBlur, the program's does not.
     void moveFocusByUser(HeadlessControl* control, bool byKey);
     void moveFocusByProgram(HeadlessControl* control);
     void leaveFocusIfLost();
@@ -169,9 +159,6 @@ private:
     std::vector<HeadlessMenuEntry> m_menu;
     std::vector<Timer> m_timers;
     bool m_captured = false;
-    CursorShape m_cursor = CursorShape::arrow;
-    std::map<unsigned, int> m_answers;
-    int m_broughtToFront = 0;
 };
 
 }  // namespace lx

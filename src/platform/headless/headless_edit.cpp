@@ -67,13 +67,6 @@ void HeadlessEdit::userType(char32_t character) {
     m_dialog->root().userType(character);
 }
 
-void HeadlessEdit::userSelectText(TextSelection selection) {
-    checkReachable("be clicked");
-    clickFocus();
-    m_field.select(selection);
-    settle();
-}
-
 void HeadlessEdit::userPaste(std::string_view utf8) {
     checkReachable("be pasted into");
     if (m_readOnly) refuse("it is read-only");

@@ -206,8 +206,8 @@ void HeadlessPlatform::closePopup() {
 }
 
 bool HeadlessPlatform::setClipboardText(std::string_view text) {
-    if (m_clipboardWorks) m_clipboard = text;
-    return m_clipboardWorks;
+    m_clipboard = text;
+    return true;
 }
 
 // ---- clock, posted actions, paints

@@ -61,7 +61,6 @@ public:
     // Dialogs and message boxes that waited with nobody to act, as "dialog NAME", "message TEXT" or
     // "popup", UTF-8.
     const std::vector<std::string>& stranded() const { return m_stranded; }
-    void clearStranded() { m_stranded.clear(); }
     long long clock() const { return m_clock; }  // virtual milliseconds
 
     // ---- acts
@@ -75,11 +74,6 @@ public:
     void advanceClock(int milliseconds);
     // What stands on top ends as cancelled, whatever state its buttons are in.
     void cancelTop();
-
-    // ---- set by tests
-    void setScreen(const Screen& screen) { m_screen = screen; }
-    void setClipboardWorks(bool works) { m_clipboardWorks = works; }
-    void setClipboardByUser(std::string_view text) { m_clipboard = text; }
 
     // ---- for the dialogs
     // Runs posted actions and due paints until nothing is left.
@@ -122,7 +116,6 @@ private:
     std::vector<std::string> m_stranded;
     Screen m_screen{{1280, 1024}, 96, {32, 32}};
     Text m_clipboard;
-    bool m_clipboardWorks = true;
     int m_beeps = 0;
     long long m_clock = 0;
     long long m_lastAct = 0;  // when the user did something last

@@ -287,7 +287,6 @@ void WindowsDialog::focusArrived(ControlCore& control) {
     showDefaultButton();
     if (m_quietFocus > 0 || !m_running) return;
     if (left) fire(left->face().onBlur);
-    if (m_focus == &control) fire(control.face().onFocus);
 }
 
 WindowsButton* WindowsDialog::defaultButton() const {

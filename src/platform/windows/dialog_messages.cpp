@@ -212,7 +212,7 @@ bool WindowsDialog::handleMouse(UINT message, LPARAM lParam) {
 CursorShape WindowsDialog::cursorAt(Point p) const {
     const auto ask = onCursor;
     const std::optional<CursorShape> shape = ask ? ask(p) : std::nullopt;
-    return shape.value_or(m_cursor);
+    return shape.value_or(CursorShape::arrow);
 }
 
 bool WindowsDialog::showCursor() {
@@ -227,7 +227,7 @@ bool WindowsDialog::showCursor() {
 
 // point: "x y" in the client area, or null.
 CursorShape WindowsDialog::cursorOver(const char* point) const {
-    if (!point) return m_cursor;
+    if (!point) return CursorShape::arrow;
     char* rest = nullptr;
     const long x = std::strtol(point, &rest, 10);
     const long y = std::strtol(rest, nullptr, 10);

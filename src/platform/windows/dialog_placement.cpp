@@ -176,13 +176,6 @@ void WindowsDialog::setMenuBar(const Menu& menu) {
     m_ready = ready;
 }
 
-void WindowsDialog::enableCommand(int command, bool on) {
-    if (!m_menu.get()) return;
-    EnableMenuItem(m_menu.get(), static_cast<UINT>(command),
-                   MF_BYCOMMAND | (on ? MF_ENABLED : MF_GRAYED));
-    if (m_window) DrawMenuBar(m_window);
-}
-
 void WindowsDialog::enableMenu(int position, bool on) {
     if (!m_menu.get()) return;
     EnableMenuItem(m_menu.get(), static_cast<UINT>(position),
@@ -234,11 +227,6 @@ void WindowsDialog::captureMouse(bool on) {
     } else if (GetCapture() == m_window) {
         ReleaseCapture();
     }
-}
-
-void WindowsDialog::setCursor(CursorShape shape) {
-    m_cursor = shape;
-    if (m_window) SetCursor(systemCursor(shape));
 }
 
 }  // namespace lx

@@ -96,11 +96,6 @@ TextSelection WindowsEdit::selection() const {
     return {static_cast<int>(begin), static_cast<int>(end)};
 }
 
-void WindowsEdit::setReadOnly(bool on) {
-    m_readOnly = on;
-    send(EM_SETREADONLY, on);
-}
-
 // Enter makes a new line where the user may write one.
 bool WindowsEdit::wantsKey(int key) const {
     return key == key::enter && multiline() && !m_readOnly;

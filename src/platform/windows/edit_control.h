@@ -16,7 +16,6 @@ public:
     WindowsEdit(WindowsDialog& dialog, const ControlTemplate& layout);
     void select(TextSelection selection) override;
     TextSelection selection() const override;
-    void setReadOnly(bool on) override;
     bool readOnly() const override { return m_readOnly; }
     bool wantsKey(int key) const override;
     void enteredByTab() override { send(EM_SETSEL, 0, -1); }

@@ -9,7 +9,7 @@
 namespace lx {
 
 WindowClass WindowsLabel::windowClass() const {
-    return {L"STATIC", static_cast<DWORD>(hasStyle(style::rightAligned) ? SS_RIGHT : SS_LEFT)};
+    return {L"STATIC", SS_LEFT};
 }
 
 WindowClass WindowsGroupBox::windowClass() const {

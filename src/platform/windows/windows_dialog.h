@@ -46,7 +46,6 @@ public:
     void focusFirst() override;
     void bringToFront() override;
     void setMenuBar(const Menu& menu) override;
-    void enableCommand(int command, bool on) override;
     void enableMenu(int position, bool on) override;
     int popupMenu(const Menu& menu, Control& control, Point p,
                   const std::function<bool(int command)>& enabled) override;
@@ -54,7 +53,6 @@ public:
     void stopTimer(int timer) override;
     void post(std::function<void()> action) override;
     void captureMouse(bool on) override;
-    void setCursor(CursorShape shape) override;
     void answerMessage(unsigned message, int value) override { m_answers[message] = value; }
 
     // ---- for the controls and the platform
@@ -181,7 +179,6 @@ private:
     WindowPlacement m_placement;
     Rect m_unitScale;  // pixels of 400 by 800 dialog units
     bool m_capturing = false;
-    CursorShape m_cursor = CursorShape::arrow;
     std::map<UINT, int> m_answers;
     std::deque<std::function<void()>> m_posted;
 
