@@ -1,18 +1,15 @@
-// The small dialog that asks for a name: of a catalogue type, of a project. Whoever asks checks the
-// name and may run the dialog again; it then shows the name as it was left.
+// The small dialog that asks for a name: of a catalogue type, of a project.
 #pragma once
 
-#include <memory>
-
-#include "catalogue/my_edit.h"
-#include "platform/host.h"
+#include "catalogue/field_dialog.h"
 
 namespace lx {
 
-class CAddVyrobce {
+class CAddVyrobce : private FieldDialog {
 public:
     // All must outlive the dialog.
-    CAddVyrobce(Platform& platform, Host& host, Owner parent);
+    CAddVyrobce(Platform& platform, Host& host, Owner parent)
+        : FieldDialog(platform, host, parent) {}
 
     Text title;
     Text label;
@@ -21,14 +18,7 @@ public:
     // True after OK.
     bool DoModal();
     // The window's title as caption, the stop icon.
-    void showMessage(std::string_view text);
-
-private:
-    void onInit(Dialog& window);
-
-    Platform& m_platform;
-    Host& m_host;
-    Owner m_parent;
+    void showMessage(std::string_view text) { stop(text, title); }
 };
 
 }  // namespace lx

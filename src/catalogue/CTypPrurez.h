@@ -1,17 +1,16 @@
-// The dialog that asks for a new steel type: its name and the shape of its sections. Whoever asks
-// checks the name and may run the dialog again; it then shows the name as it was left and keeps the
-// shape.
+// The dialog that asks for a new steel type: its name and the shape of its sections. Run again, it
+// keeps the shape.
 #pragma once
 
-#include "catalogue/my_edit.h"
-#include "platform/host.h"
+#include "catalogue/field_dialog.h"
 
 namespace lx {
 
-class CTypPrurez {
+class CTypPrurez : private FieldDialog {
 public:
     // All must outlive the dialog.
-    CTypPrurez(Platform& platform, Host& host, Owner parent);
+    CTypPrurez(Platform& platform, Host& host, Owner parent)
+        : FieldDialog(platform, host, parent) {}
 
     Text name;      // proposed; after OK what the user typed
     int shape = 0;  // of the button clicked last, from 1; 0 = none was
@@ -19,14 +18,10 @@ public:
     // True after OK.
     bool DoModal();
     // No caption, the stop icon.
-    void showMessage(std::string_view text);
+    void showMessage(std::string_view text) { stop(text, {}); }
 
 private:
-    void onInit(Dialog& window);
-
-    Platform& m_platform;
-    Host& m_host;
-    Owner m_parent;
+    void dressShapes(Dialog& window);
 };
 
 }  // namespace lx

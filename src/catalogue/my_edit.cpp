@@ -26,8 +26,7 @@ bool alwaysPasses(int code) {
     }
 }
 
-}  // namespace
-
+// Digits with at most one point and a minus sign in the first place alone; not empty.
 bool isPlainNumber(std::string_view text) {
     bool point = false;
     for (std::size_t i = 0; i < text.size(); ++i) {
@@ -39,6 +38,8 @@ bool isPlainNumber(std::string_view text) {
     }
     return !text.empty();
 }
+
+}  // namespace
 
 CMyEdit::CMyEdit(Platform& platform, Dialog& dialog, Edit& edit, int maxLength, int decimals)
     : m_platform(platform),

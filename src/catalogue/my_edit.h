@@ -9,7 +9,9 @@ namespace lx {
 
 class CMyEdit {
 public:
-    // decimals: -1 = free text, 0 or more = a number shown with that many decimals. Takes the
+    static constexpr int freeText = -1;
+
+    // decimals: freeText, or 0 or more for a number shown with that many decimals. Takes the
     // control's onKey; dialog, edit and platform must outlive it.
     CMyEdit(Platform& platform, Dialog& dialog, Edit& edit, int maxLength, int decimals);
     CMyEdit(const CMyEdit&) = delete;
@@ -21,8 +23,6 @@ public:
     // message box and becomes 0. Always true; free text stays as it is and is never invalid.
     bool checkAndFormat(Text& text, bool& invalid);
 
-    Edit& edit() { return m_edit; }
-
 private:
     KeyAnswer keyDown(const KeyEvent& event);
     void formatField();
@@ -33,8 +33,5 @@ private:
     int m_maxLength;
     int m_decimals;
 };
-
-// Digits with at most one point and a minus sign in the first place alone; not empty.
-bool isPlainNumber(std::string_view text);
 
 }  // namespace lx

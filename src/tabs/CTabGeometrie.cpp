@@ -17,7 +17,6 @@ constexpr int bendButtons[] = {id::bendNone, id::bend1, id::bend2, id::bend3, id
 // initialised.
 constexpr int bubbleLimitAtFirst = 50;
 constexpr int bubbleLimit = 5;
-constexpr int freeText = -1;
 
 }  // namespace
 
@@ -28,7 +27,8 @@ CTabGeometrie::CTabGeometrie(DesignServices& services)
              m_window->get<CheckBox>(id::insertFoldedSection)),
       m_description(m_window->get<Edit>(id::description)),
       m_bubble(m_window->get<Edit>(id::bubbleName)),
-      m_bubbleField(services.context().platform, *m_window, m_bubble, bubbleLimitAtFirst, freeText),
+      m_bubbleField(services.context().platform, *m_window, m_bubble, bubbleLimitAtFirst,
+                    CMyEdit::freeText),
       m_insertBubble(m_window->get<CheckBox>(id::insertBubble)),
       m_insertDescription(m_window->get<CheckBox>(id::insertDescription)),
       m_insertFoldedSection(m_window->get<CheckBox>(id::insertFoldedSection)),
