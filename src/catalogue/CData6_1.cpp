@@ -180,17 +180,14 @@ void CData6_1::selectStart(const ColumnSettings& stored) {
 // ---- what is shown
 
 CPreklItem* CData6_1::selectedType() const {
-    const int position = m_types->selected();
-    const std::vector<CPreklItem*> types = typeRecords(m_items->get());
-    if (position < 0 || static_cast<std::size_t>(position) >= types.size()) return nullptr;
-    return types[static_cast<std::size_t>(position)];
+    return typeAt(m_items->get(), m_types->selected());
 }
 
 void CData6_1::refreshItems() {
     const CPreklItem* type = selectedType();
     if (!type) return;
     const std::string_view title = steel() ? texts::steelBrowser : texts::precastBrowser;
-    m_window->setTitle(fillIn(title, {type->designation.value_or(Text())}));
+    m_window->setTitle(fillIn(title, {type->nameOrEmpty()}));
     m_list->refresh(m_items->get(), m_types->selected() + 1);
 }
 

@@ -77,6 +77,8 @@ private:
 
     // ---- commands (CData6_1_commands.cpp)
     void execute(int command);
+    // Asks; question: number of a text with a place for the record's name.
+    bool mayDelete(const CPreklItem& record, int question) const;
     void newType();
     std::optional<Text> askTypeName(int& shape);
     void renameType();

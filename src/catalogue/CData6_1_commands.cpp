@@ -50,6 +50,11 @@ void CData6_1::execute(int command) {
     }
 }
 
+bool CData6_1::mayDelete(const CPreklItem& record, int question) const {
+    return message(fillIn(str(question), {record.nameOrEmpty()}), str(text::warning),
+                   MessageIcon::question, MessageButtons::yesNo) == MessageAnswer::yes;
+}
+
 // ---- types
 
 std::optional<Text> CData6_1::askTypeName(int& shape) {
@@ -88,7 +93,7 @@ void CData6_1::renameType() {
     CAddVyrobce dialog(m_platform, m_host, here());
     dialog.title = str(text::renameType);
     dialog.label = str(text::name);
-    dialog.name = type->designation.value_or(Text());
+    dialog.name = type->nameOrEmpty();
     while (dialog.DoModal()) {
         if (const int refusal = renameRefusal(m_items->get(), *type, dialog.name)) {
             dialog.showMessage(str(refusal));
@@ -104,11 +109,7 @@ void CData6_1::renameType() {
 void CData6_1::deleteType() {
     const CPreklItem* type = selectedType();
     if (!type || m_types->count() < 2) return;
-    const Text question = fillIn(str(text::askDeleteType), {type->designation.value_or(Text())});
-    if (message(question, str(text::warning), MessageIcon::question, MessageButtons::yesNo) !=
-        MessageAnswer::yes) {
-        return;
-    }
+    if (!mayDelete(*type, text::askDeleteType)) return;
     const int position = m_types->selected();
     lx::deleteType(*m_items, position);
     if (position > 0) {
@@ -158,11 +159,7 @@ void CData6_1::editItem() {
 void CData6_1::deleteItem() {
     const CPreklItem* item = m_list->selected();
     if (!item) return;
-    const Text question = fillIn(str(text::askDeleteItem), {item->designation.value_or(Text())});
-    if (message(question, str(text::warning), MessageIcon::question, MessageButtons::yesNo) !=
-        MessageAnswer::yes) {
-        return;
-    }
+    if (!mayDelete(*item, text::askDeleteItem)) return;
     m_list->remove(*item);
     unlinkItem(*m_items, *item);
 }

@@ -37,7 +37,7 @@ void CList1::fill(std::span<CPreklItem* const> types) {
 
 ListRow CList1::rowOf(const CPreklItem& type) const {
     ListRow row;
-    row.text = type.designation.value_or(Text());
+    row.text = type.nameOrEmpty();
     row.selectedBackground = selectedGround;
     const bool steel = m_kind == CatalogueKind::steel;
     row.indent = steel ? indentBehindIcon : indentAlone;

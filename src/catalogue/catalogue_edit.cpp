@@ -15,13 +15,9 @@ constexpr int nameTaken = 19;
 constexpr int newTypeUnnamed = 20;
 constexpr int renamedUnnamed = 27;
 
-std::string_view nameOf(const CPreklItem& record) {
-    return record.designation ? std::string_view(*record.designation) : std::string_view();
-}
-
 bool hasType(const CPreklItem* chain, std::string_view name) {
     for (const CPreklItem* record = chain; record; record = record->next.get()) {
-        if (record->isType() && equalIgnoringCase(nameOf(*record), name)) return true;
+        if (record->isType() && equalIgnoringCase(record->nameOrEmpty(), name)) return true;
     }
     return false;
 }
@@ -58,7 +54,7 @@ void closeUp(CPreklItem* chain, std::int32_t number) {
 
 EditorTexts editorTexts(const CPreklItem& item) {
     EditorTexts texts;
-    texts.designation = nameOf(item);
+    texts.designation = item.nameOrEmpty();
     texts.length = formatInt(item.length);
     texts.width = formatInt(item.width);
     texts.height = formatInt(item.height);
@@ -79,6 +75,12 @@ std::vector<CPreklItem*> typeRecords(CPreklItem* chain) {
     return types;
 }
 
+CPreklItem* typeAt(CPreklItem* chain, int position) {
+    const std::vector<CPreklItem*> types = typeRecords(chain);
+    if (position < 0 || static_cast<std::size_t>(position) >= types.size()) return nullptr;
+    return types[static_cast<std::size_t>(position)];
+}
+
 int newTypeRefusal(const CPreklItem* chain, std::string_view name) {
     if (name.empty()) return newTypeUnnamed;
     return hasType(chain, name) ? nameTaken : 0;
@@ -86,7 +88,7 @@ int newTypeRefusal(const CPreklItem* chain, std::string_view name) {
 
 int renameRefusal(const CPreklItem* chain, const CPreklItem& type, std::string_view name) {
     if (name.empty()) return renamedUnnamed;
-    return name != nameOf(type) && hasType(chain, name) ? nameTaken : 0;
+    return name != type.nameOrEmpty() && hasType(chain, name) ? nameTaken : 0;
 }
 
 CPreklItem& appendType(Catalogue& chain, std::string_view name, CatalogueKind kind, int shape) {
@@ -98,11 +100,8 @@ CPreklItem& appendType(Catalogue& chain, std::string_view name, CatalogueKind ki
 }
 
 bool deleteType(Catalogue& chain, int position) {
-    const std::vector<CPreklItem*> types = typeRecords(chain.get());
-    if (types.size() < 2 || position < 0 || static_cast<std::size_t>(position) >= types.size()) {
-        return false;
-    }
-    const CPreklItem* type = types[static_cast<std::size_t>(position)];
+    const CPreklItem* type = typeAt(chain.get(), position);
+    if (type == nullptr || typeRecords(chain.get()).size() < 2) return false;
     const bool stays = position == 0;
     const std::int32_t number = itemGroup(*type);
     for (Catalogue* link = &chain->next; *link;) {

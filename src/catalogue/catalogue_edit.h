@@ -26,6 +26,8 @@ EditorTexts editorTexts(const CPreklItem& item);
 
 // The type records in chain order, which is that of the type list.
 std::vector<CPreklItem*> typeRecords(CPreklItem* chain);
+// Null when there is no type at that position of the list.
+CPreklItem* typeAt(CPreklItem* chain, int position);
 
 // Number of the text that refuses a new type's name, 0 when it is free. Names are the same without
 // regard to letter case.

@@ -69,7 +69,7 @@ Text cellText(const CPreklItem& record, int column, CatalogueKind kind) {
     if (!found) return {};
     switch (found->field) {
         case Field::designation:
-            return record.designation.value_or(Text());
+            return Text(record.nameOrEmpty());
         case Field::length:
             return formatInt(record.length);
         case Field::width:

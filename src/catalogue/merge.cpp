@@ -11,11 +11,6 @@ namespace lx {
 
 namespace {
 
-// The texts of a record do not move while it is in a table: names may be views of them.
-std::string_view nameOf(const CPreklItem& record) {
-    return record.designation ? std::string_view(*record.designation) : std::string_view();
-}
-
 void update(CPreklItem& item, CPreklItem& from) {
     item.length = from.length;
     item.width = from.width;
@@ -33,7 +28,7 @@ public:
         : m_type(std::move(type)), m_number(-std::int64_t{m_type->group}) {}
 
     std::int64_t number() const { return m_number; }
-    std::string_view name() const { return nameOf(*m_type); }
+    std::string_view name() const { return m_type->nameOrEmpty(); }
     void append(Catalogue item) { m_items.push_back(std::move(item)); }
     void merge(Group supplied);
     void renumber(std::int64_t number) { m_number = number; }
@@ -45,7 +40,8 @@ private:
     // 1 and up; one more than an item's group can hold when the type's is the lowest of all.
     std::int64_t m_number;
     std::vector<Catalogue> m_items;
-    // The first item of each designation; empty until a merge asks for it.
+    // The first item of each designation; empty until a merge asks for it. The texts of a record do
+    // not move while it is in a table, so their views stay good.
     std::unordered_map<std::string_view, CPreklItem*> m_byDesignation;
 };
 
@@ -53,10 +49,10 @@ void Group::merge(Group supplied) {
     if (m_byDesignation.empty()) {
         m_byDesignation.reserve(m_items.size() + supplied.m_items.size());
         for (const Catalogue& item : m_items)
-            m_byDesignation.try_emplace(nameOf(*item), item.get());
+            m_byDesignation.try_emplace(item->nameOrEmpty(), item.get());
     }
     for (Catalogue& item : supplied.m_items) {
-        const auto [found, isNew] = m_byDesignation.try_emplace(nameOf(*item), item.get());
+        const auto [found, isNew] = m_byDesignation.try_emplace(item->nameOrEmpty(), item.get());
         if (isNew) {
             m_items.push_back(std::move(item));
         } else {

@@ -22,6 +22,11 @@ public:
     virtual ~CPreklItem();
 
     bool isType() const { return group < 0; }
+    // designation, or an empty text where there is none
+    std::string_view nameOrEmpty() const {
+        if (!designation) return {};
+        return *designation;
+    }
     // A copy of this record alone, without the rest of the chain.
     std::unique_ptr<CPreklItem> copyAlone() const;
 

@@ -186,7 +186,7 @@ std::vector<int> offerOrder(const RezChain& offer) {
 std::vector<Text> typeNames(const CPreklItem* catalogue) {
     std::vector<Text> names;
     for (const CPreklItem* record = catalogue; record; record = record->next.get()) {
-        if (record->isType()) names.push_back(record->designation.value_or(Text()));
+        if (record->isType()) names.emplace_back(record->nameOrEmpty());
     }
     return names;
 }

@@ -89,7 +89,7 @@ private:
     void openCommandMenu();
     bool commandEnabled(int command);
     void run(int command);
-    void refillTypes(OfferPage& page, const CPreklItem* catalogue, const CPreklItem* selected);
+    void refillTypes(OfferPage& page, CPreklItem* catalogue, const CPreklItem* selected);
     void showBubbleField();
     Text describe(std::string_view topic) const;
 

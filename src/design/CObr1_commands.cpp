@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "catalogue/CData6_1.h"
+#include "catalogue/catalogue_edit.h"
 #include "composition/rules_file.h"
 #include "design/CObr1.h"
 #include "design/bend_presets.h"
@@ -13,22 +14,11 @@ namespace lx {
 
 namespace {
 
-// Null when there is no type at that position.
-const CPreklItem* typeAt(const CPreklItem* catalogue, int position) {
-    for (const CPreklItem* record = catalogue; record != nullptr; record = record->next.get()) {
-        if (record->isType() && position-- == 0) return record;
-    }
-    return nullptr;
-}
-
 // -1 when that record is no longer a type of the catalogue.
-int typePosition(const CPreklItem* catalogue, const CPreklItem* type) {
-    int position = 0;
-    for (const CPreklItem* record = catalogue; record != nullptr; record = record->next.get()) {
-        if (record == type) return position;
-        if (record->isType()) ++position;
-    }
-    return -1;
+int typePosition(CPreklItem* catalogue, const CPreklItem* type) {
+    const std::vector<CPreklItem*> types = typeRecords(catalogue);
+    const auto found = std::find(types.begin(), types.end(), type);
+    return found == types.end() ? -1 : static_cast<int>(found - types.begin());
 }
 
 }  // namespace
@@ -76,7 +66,7 @@ void CObr1::OpenCatalogue(int request) {
     if (choice.element) {
         opened.element = {choice.element->typeIndex, choice.element->itemIndex};
         const CPreklItem* type = typeAt(catalogue.get(), choice.element->typeIndex);
-        if (type != nullptr) opened.typeName = type->designation.value_or(Text());
+        if (type != nullptr) opened.typeName = type->nameOrEmpty();
         opened.elementName = choice.element->name;
     }
     CData6_1 browser(m_context.platform, m_context.files, m_context.host, values.columnWidths,
@@ -92,7 +82,7 @@ void CObr1::OpenCatalogue(int request) {
 }
 
 // The type that was selected: itself, else by its name, else by its place.
-void CObr1::refillTypes(OfferPage& page, const CPreklItem* catalogue, const CPreklItem* selected) {
+void CObr1::refillTypes(OfferPage& page, CPreklItem* catalogue, const CPreklItem* selected) {
     const std::vector<Text> names = typeNames(catalogue);
     const Text name = page.selectedTypeName();
     int place = typePosition(catalogue, selected);
