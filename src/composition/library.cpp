@@ -11,13 +11,11 @@
 
 namespace lx {
 
+using namespace library_entry;
+
 namespace {
 
-constexpr std::size_t lengthField = 4;  // bytes
-constexpr std::size_t labelField = 4;
-constexpr std::size_t labelLength = 3;
-constexpr std::int32_t entryHeader = 8;           // bytes of project id and label
-constexpr std::size_t smallestEntry = 12;         // bytes, its length field included
+constexpr std::size_t smallestEntry = lengthField + header;  // bytes
 constexpr std::size_t fewEnoughToOverwrite = 16;  // places; more are cheaper as one new file
 
 using Positions = std::vector<std::size_t>;  // of project ids in the file
@@ -76,12 +74,12 @@ bool markDeleted(const Path& path, const Positions& positions, Files& files) {
 Bytes unsealedEntry(const CRez& head) {
     BinaryWriter design;
     writeDesign(&head, design);
-    constexpr std::size_t longest = std::numeric_limits<std::int32_t>::max() - entryHeader;
+    constexpr std::size_t longest = std::numeric_limits<std::int32_t>::max() - header;
     if (design.bytes().size() > longest) return {};
     Bytes label = paddedLabel(head.label());
     label.resize(labelField, '\0');
     BinaryWriter entry;
-    entry.int32(entryHeader + static_cast<std::int32_t>(design.bytes().size()));
+    entry.int32(static_cast<std::int32_t>(header + design.bytes().size()));
     entry.int32(deletedProject);
     entry.raw(label);
     entry.raw(design.bytes());
@@ -106,7 +104,7 @@ bool holdsDesign(std::string_view tail) {
 Closing closing(std::string_view tail) {
     const std::size_t size = std::max(tail.size(), smallestEntry);
     BinaryWriter writer;
-    writer.int32(static_cast<std::int32_t>(size - sizeof(std::int32_t)));
+    writer.int32(static_cast<std::int32_t>(size - lengthField));
     if (!holdsDesign(tail)) writer.int32(deletedProject);
     Bytes start = writer.take();
     if (tail.size() >= smallestEntry) return {std::move(start), {}};

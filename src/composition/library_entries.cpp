@@ -6,12 +6,7 @@
 
 namespace lx {
 
-namespace {
-constexpr std::size_t lengthField = 4;
-constexpr std::size_t projectField = 4;
-constexpr std::size_t entryHeader = 8;  // project id and label, counted by the length
-constexpr std::size_t labelLength = 3;
-}  // namespace
+using namespace library_entry;
 
 bool LibraryEntries::next() {
     while (m_next < m_bytes.size()) {
@@ -24,7 +19,7 @@ bool LibraryEntries::next() {
         m_body = rest.substr(lengthField, static_cast<std::size_t>(length));
         m_torn = m_body.size() < static_cast<std::size_t>(length);
         m_next = m_start + lengthField + m_body.size();
-        if (m_body.size() >= entryHeader) return true;
+        if (m_body.size() >= header) return true;
         // Too short for a label: nobody's design, but what stands behind it can be reached.
         if (m_torn) return false;
     }
@@ -36,12 +31,12 @@ std::int32_t LibraryEntries::project() const {
 }
 
 Text LibraryEntries::label() const {
-    const std::string_view bytes = m_body.substr(sizeof(std::int32_t), labelLength);
+    const std::string_view bytes = m_body.substr(projectField, labelLength);
     return Text(bytes.substr(0, bytes.find('\0')));
 }
 
 std::string_view LibraryEntries::design() const {
-    return m_body.substr(entryHeader);
+    return m_body.substr(header);
 }
 
 }  // namespace lx

@@ -8,6 +8,15 @@
 
 namespace lx {
 
+// An entry: its length, which counts what follows; then project id, label and design.
+namespace library_entry {
+inline constexpr std::size_t lengthField = 4;  // bytes
+inline constexpr std::size_t projectField = 4;
+inline constexpr std::size_t labelField = 4;
+inline constexpr std::size_t labelLength = 3;                     // of its field
+inline constexpr std::size_t header = projectField + labelField;  // behind the length
+}  // namespace library_entry
+
 class LibraryEntries {
 public:
     explicit LibraryEntries(std::string_view bytes) : m_bytes(bytes) {}
@@ -15,7 +24,7 @@ public:
     // Moves to the next entry that has a project id and a label; false when there is none.
     bool next();
     // Of the entry moved to.
-    std::size_t projectPosition() const { return m_start + 4; }
+    std::size_t projectPosition() const { return m_start + library_entry::lengthField; }
     std::int32_t project() const;
     Text label() const;
     std::string_view design() const;
