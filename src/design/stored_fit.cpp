@@ -1,13 +1,11 @@
 #include "design/stored_fit.h"
 
-#include "resources/strings.h"
+#include "composition/special_layers.h"
 
 namespace lx {
 
 namespace {
 
-constexpr int insulationName = 83;
-constexpr int monolithName = 95;
 constexpr double tolerance = 0.000001;  // mm
 
 }  // namespace
@@ -15,8 +13,8 @@ constexpr double tolerance = 0.000001;  // mm
 bool suitsOpening(const CRez& head, double openingWidth) {
     const CRez* bearing = nullptr;
     for (const CRez* layer = head.next; layer != nullptr; layer = layer->next) {
-        if (layer->nameOrEmpty() == str(monolithName)) return true;
-        if (bearing == nullptr && layer->name && *layer->name != str(insulationName)) {
+        if (layer->nameOrEmpty() == specialName(kind::monolith)) return true;
+        if (bearing == nullptr && layer->name && *layer->name != specialName(kind::insulation)) {
             bearing = layer;
         }
     }
