@@ -31,7 +31,7 @@ bool isPlainNumber(std::string_view text) {
     bool point = false;
     for (std::size_t i = 0; i < text.size(); ++i) {
         const char c = text[i];
-        if (c >= '0' && c <= '9') continue;
+        if (isDigit(c)) continue;
         if (c == '-' && i == 0) continue;
         if (c != '.' || point) return false;
         point = true;

@@ -26,10 +26,6 @@ constexpr auto rankOfByte = [] {
     return ranks;
 }();
 
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
 // More digits without leading zeros are a larger number. Their count stands before them in as many
 // bytes as it takes, each full one counting 255.
 void appendNumber(Text& key, std::string_view digits) {

@@ -71,7 +71,7 @@ void followRule(RezChain& design, std::string_view rule, const CRez& chosen,
     const CRez& x = elementX(chosen);
     CollectedNumber number;
     for (const char c : rule) {
-        if (c >= '0' && c <= '9') {
+        if (isDigit(c)) {
             number.add(c);
         } else if (c == ']') {
             design.last()->width = number.take();

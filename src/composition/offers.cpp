@@ -50,10 +50,6 @@ bool belongsTo(const CPreklItem& item, std::int32_t type) {
     return type >= 0 && item.group == std::int64_t{type} + 1;
 }
 
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
 // The run of digits at the position without its leading zeros; the position moves on behind it.
 std::string_view takeDigits(std::string_view text, std::size_t& position) {
     while (position < text.size() && text[position] == '0') ++position;

@@ -2,14 +2,6 @@
 
 namespace lx {
 
-namespace {
-
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
-}  // namespace
-
 Text proposeBubbleName(std::string_view last) {
     if (last.empty()) return "0";
     if (!isDigit(last.back())) return Text(last) + '1';

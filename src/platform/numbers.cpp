@@ -12,9 +12,6 @@ namespace {
 bool isSpace(char c) {
     return c == ' ' || (c >= '\t' && c <= '\r');
 }
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
 
 std::size_t skipSpaces(std::string_view text) {
     std::size_t i = 0;

@@ -30,6 +30,10 @@ constexpr char32_t unicodeFromCp1250(unsigned char byte);
 std::optional<Text> fromUtf8(std::string_view utf8);
 std::string toUtf8(std::string_view text);
 
+constexpr bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
 // Lower case of one byte, Czech letters included ("Č" gives "č").
 unsigned char lowerCase(unsigned char byte);
 // Comparison without regard to letter case, byte by byte after lowerCase.

@@ -111,7 +111,7 @@ std::int32_t leadingNumber(std::string_view text) {
     for (; at < text.size(); ++at) {
         const char c = text[at];
         std::uint32_t digit = base;
-        if (c >= '0' && c <= '9') digit = static_cast<std::uint32_t>(c - '0');
+        if (isDigit(c)) digit = static_cast<std::uint32_t>(c - '0');
         if (c >= 'a' && c <= 'f') digit = static_cast<std::uint32_t>(c - 'a' + 10);
         if (c >= 'A' && c <= 'F') digit = static_cast<std::uint32_t>(c - 'A' + 10);
         if (digit >= base) break;

@@ -17,7 +17,7 @@ void takeNumber(std::string_view& text, std::int32_t& value) {
     std::size_t end = first;
     if (text[end] == '-' || text[end] == '+') ++end;
     const std::size_t digits = end;
-    while (end < text.size() && text[end] >= '0' && text[end] <= '9') ++end;
+    while (end < text.size() && isDigit(text[end])) ++end;
     if (end == digits) return;
     value = leadingInt(text);
     text.remove_prefix(end);
