@@ -1,12 +1,12 @@
 #include "host/calls.h"
 
 #include <array>
-#include <charconv>
 #include <cstddef>
 #include <cstring>
 #include <stdexcept>
 #include <vector>
 
+#include "host/parse.h"
 #include "host/paths.h"
 
 namespace lx::host {
@@ -54,16 +54,9 @@ constexpr BlockField blockFields[] = {
 #undef LX_FIELD
 
 template <class T>
-bool parse(std::string_view text, T& value) {
-    const char* end = text.data() + text.size();
-    const auto [stop, error] = std::from_chars(text.data(), end, value);
-    return error == std::errc() && stop == end;
-}
-
-template <class T>
 bool store(std::string_view text, unsigned char* place) {
     T value{};
-    if (!parse(text, value)) return false;
+    if (!parseNumber(text, value)) return false;
     std::memcpy(place, &value, sizeof value);
     return true;
 }
@@ -165,11 +158,11 @@ OpeningBlock Opening::emptyBlock() {
 }
 
 std::string Opening::set(std::string_view name, std::string_view value) {
-    if (name == "width") return needsNumber(name, value, parse(value, width));
-    if (name == "wall") return needsNumber(name, value, parse(value, wall));
-    if (name == "level") return needsNumber(name, value, parse(value, level));
-    if (name == "A") return needsNumber(name, value, parse(value, a));
-    if (name == "B") return needsNumber(name, value, parse(value, b));
+    if (name == "width") return needsNumber(name, value, parseNumber(value, width));
+    if (name == "wall") return needsNumber(name, value, parseNumber(value, wall));
+    if (name == "level") return needsNumber(name, value, parseNumber(value, level));
+    if (name == "A") return needsNumber(name, value, parseNumber(value, a));
+    if (name == "B") return needsNumber(name, value, parseNumber(value, b));
     if (name == "exterior") {
         if (value != "on" && value != "off") return "\"exterior\" is \"on\" or \"off\"";
         exterior = value == "on";

@@ -5,6 +5,7 @@
 #include <thread>
 
 #include "host/ini_text.h"
+#include "host/parse.h"
 #include "host/paths.h"
 #include "host/play_context.h"
 #include "host/scenario.h"
@@ -16,11 +17,7 @@ namespace fs = std::filesystem;
 
 int wholeNumber(const std::string& text) {
     int value = 0;
-    const char* end = text.data() + text.size();
-    const auto [stop, error] = std::from_chars(text.data(), end, value);
-    if (text.empty() || error != std::errc() || stop != end) {
-        throw std::runtime_error(inQuotes(text) + " is no whole number");
-    }
+    if (!parseNumber(text, value)) throw std::runtime_error(inQuotes(text) + " is no whole number");
     return value;
 }
 

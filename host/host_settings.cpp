@@ -1,9 +1,9 @@
 #include "host/host_settings.h"
 
 #include <array>
-#include <charconv>
 #include <functional>
 
+#include "host/parse.h"
 #include "platform/text.h"
 
 namespace lx::host {
@@ -12,10 +12,7 @@ namespace {
 
 std::optional<int> wholeNumber(std::string_view text) {
     int value = 0;
-    const char* end = text.data() + text.size();
-    const auto [stop, error] = std::from_chars(text.data(), end, value);
-    if (text.empty() || error != std::errc() || stop != end) return std::nullopt;
-    return value;
+    return parseNumber(text, value) ? std::optional(value) : std::nullopt;
 }
 
 std::string setSwitch(bool& target, std::string_view value) {

@@ -1,7 +1,6 @@
 #include "host/options.h"
 
-#include <charconv>
-
+#include "host/parse.h"
 #include "host/paths.h"
 
 namespace lx::host {
@@ -78,9 +77,7 @@ private:
         call.folder = m_arguments[m_next++];
         if (*call.folder == "none") call.folder.reset();
         const std::string& mode = m_arguments[m_next++];
-        const char* end = mode.data() + mode.size();
-        const auto [stop, error] = std::from_chars(mode.data(), end, call.mode);
-        if (error != std::errc() || stop != end) fail("the mode is a number, not \"" + mode + "\"");
+        if (!parseNumber(mode, call.mode)) fail("the mode is a number, not \"" + mode + "\"");
     }
 
     const std::vector<std::string>& m_arguments;
