@@ -16,6 +16,8 @@
 namespace lx {
 
 enum class CursorShape { arrow, hand, upArrow, splitLeftRight, splitUpDown, text };
+// Its name in that list, for programs that act as the user.
+const char* cursorName(CursorShape shape);
 
 class Control {
 public:

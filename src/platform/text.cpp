@@ -102,6 +102,15 @@ bool equalIgnoringCase(std::string_view a, std::string_view b) {
     return true;
 }
 
+std::string withoutMnemonic(std::string_view text) {
+    std::string result;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '&' && ++i == text.size()) break;
+        result.push_back(text[i]);
+    }
+    return result;
+}
+
 Text fillIn(std::string_view format, std::initializer_list<std::string_view> arguments) {
     Text result;
     const auto* next = arguments.begin();

@@ -39,6 +39,10 @@ unsigned char lowerCase(unsigned char byte);
 // Comparison without regard to letter case, byte by byte after lowerCase.
 bool equalIgnoringCase(std::string_view a, std::string_view b);
 
+// The text of a control or menu entry as it is read: without the "&" that marks its mnemonic ("&&"
+// is one "&").
+std::string withoutMnemonic(std::string_view text);
+
 // Replaces "%s", "%d" and "%C" in order by the arguments; "%%" is a percent sign. Surplus places
 // stay empty, surplus arguments are left out. Numbers with decimals come as texts (formatFixed).
 Text fillIn(std::string_view format, std::initializer_list<std::string_view> arguments);

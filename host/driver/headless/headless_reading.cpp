@@ -15,33 +15,6 @@ std::string colorText(const std::optional<Color>& color) {
            std::to_string(color->blue);
 }
 
-std::string cursorName(CursorShape shape) {
-    switch (shape) {
-        case CursorShape::arrow:
-            return "arrow";
-        case CursorShape::hand:
-            return "hand";
-        case CursorShape::upArrow:
-            return "upArrow";
-        case CursorShape::splitLeftRight:
-            return "splitLeftRight";
-        case CursorShape::splitUpDown:
-            return "splitUpDown";
-        case CursorShape::text:
-            return "text";
-    }
-    return {};
-}
-
-std::string withoutMnemonic(std::string_view text) {
-    std::string result;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == '&' && ++i == text.size()) break;
-        result += text[i];
-    }
-    return result;
-}
-
 // The system's short-cut text behind a tab is no part of an entry's name.
 std::string entryName(const HeadlessMenuEntry& entry) {
     const std::string name = toUtf8(withoutMnemonic(entry.text));

@@ -54,15 +54,6 @@ Kind kindOfStatic(LONG_PTR windowStyle) {
     return type == SS_ICON || type == SS_BITMAP || type == SS_OWNERDRAW ? Kind::icon : Kind::label;
 }
 
-std::string withoutMnemonic(std::string_view text) {
-    std::string result;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == '&' && ++i == text.size()) break;
-        result += text[i];
-    }
-    return result;
-}
-
 std::string withoutColon(std::string text) {
     while (!text.empty() && (text.back() == ':' || text.back() == ' ')) text.pop_back();
     return text;

@@ -291,8 +291,7 @@ std::string dialogSvg(const HeadlessDialog& dialog) {
         window.text({8, 6}, dialog.title(), paper);
         int x = 8;
         for (const HeadlessMenuEntry& entry : dialog.menuBar()) {
-            Text text = entry.text;
-            std::erase(text, '&');
+            const Text text = withoutMnemonic(entry.text);
             window.text({x, 28}, text, entry.enabled ? ink : grey);
             x += textWidth(text) + 14;
         }

@@ -70,13 +70,7 @@ bool HeadlessControl::tabStop() const {
 }
 
 Text HeadlessControl::plainText() const {
-    Text result;
-    const Text full = control().text();
-    for (std::size_t i = 0; i < full.size(); ++i) {
-        if (full[i] == '&' && ++i == full.size()) break;
-        result.push_back(full[i]);
-    }
-    return result;
+    return withoutMnemonic(control().text());
 }
 
 unsigned char HeadlessControl::mnemonic() const {

@@ -31,24 +31,6 @@ LRESULT answerDescribe(const DescribeRequest& request, const Text& answer) {
     return static_cast<LRESULT>(answer.size());
 }
 
-const char* cursorName(CursorShape shape) {
-    switch (shape) {
-        case CursorShape::hand:
-            return "hand";
-        case CursorShape::upArrow:
-            return "upArrow";
-        case CursorShape::splitLeftRight:
-            return "splitLeftRight";
-        case CursorShape::splitUpDown:
-            return "splitUpDown";
-        case CursorShape::text:
-            return "text";
-        case CursorShape::arrow:
-            break;
-    }
-    return "arrow";
-}
-
 HCURSOR systemCursor(CursorShape shape) {
     const wchar_t* name = IDC_ARROW;
     switch (shape) {

@@ -139,7 +139,6 @@ private:
 
 // Copies the answer into the request's buffer; the message's result is the whole answer's length.
 LRESULT answerDescribe(const DescribeRequest& request, const Text& answer);
-const char* cursorName(CursorShape shape);
 HCURSOR systemCursor(CursorShape shape);
 
 template <class Interface>
