@@ -59,7 +59,7 @@ KeyAnswer CObrP::key(const KeyEvent& event) {
     if (event.key != key::f2 || event.ctrl || event.alt) return KeyAnswer::pass;
     if (const HitRegion* next = nextNumber(m_regions, m_services.lastEdited(), event.shift)) {
         const HitRegion region = *next;
-        edit(region, {region.x + region.width / 2, region.y + region.height / 2});
+        edit(region, region.middle());
     }
     return KeyAnswer::swallow;
 }

@@ -4,15 +4,15 @@
 
 #include <vector>
 
-#include "design/edit_target.h"
+#include "design/value_commit.h"
 #include "platform/controls.h"
 
 namespace lx {
 
-// Kinds of hit regions.
+// Kinds of hit regions; one of a number is the kind of the edit that it begins.
 namespace region {
-inline constexpr int specialWidth = -1;  // width of a special layer, checked against the wall
-inline constexpr int number = 0;
+inline constexpr int specialWidth = edit_kind::specialWidth;
+inline constexpr int number = edit_kind::number;
 inline constexpr int layerName = 1;  // selects the layer
 inline constexpr int mirror = 2;     // mirrors a steel section
 inline constexpr int planLevel = 103;
@@ -28,6 +28,7 @@ struct HitRegion {
     int height = 0;
 
     bool contains(Point p) const;
+    Point middle() const { return {x + width / 2, y + height / 2}; }
     bool operator==(const HitRegion&) const = default;
 };
 

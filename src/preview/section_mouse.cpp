@@ -120,8 +120,7 @@ void SectionMouse::editNext(bool back) {
     const HitRegion* next = nextNumber(m_regions, m_services.lastEdited(), back);
     if (next == nullptr) return;
     const HitRegion region = *next;
-    clickRegion(region, familyOf(*next),
-                {region.x + region.width / 2, region.y + region.height / 2});
+    clickRegion(region, familyOf(*next), region.middle());
 }
 
 void SectionMouse::clickRegion(const HitRegion& region, const Text& family, Point p) {
