@@ -22,7 +22,7 @@ struct DesignCall : testing::Test {
         return CallLXdata6(nullptr, 0, 0, 0, opening, wall, 0.0, text.data(), &a, &b, block,
                            exterior);
     }
-    host::Session& user() { return module.bench.user(); }
+    Session& user() { return module.bench.user(); }
 };
 
 TEST_F(DesignCall, RefusesTheWallBeforeTheOpening) {

@@ -81,7 +81,7 @@ Bench::Bench() : m_folder(freshFolder()) {
     m_host.catalogue = catalogueFolder();
     m_platform = makeTestPlatform();
     m_driver = makeTestDriver(*m_platform);
-    m_user = std::make_unique<host::Session>(*m_driver);
+    m_user = std::make_unique<Session>(*m_driver);
 }
 
 Bench::~Bench() {

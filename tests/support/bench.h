@@ -10,10 +10,10 @@
 #include <vector>
 
 #include "host/driver/driver.h"
-#include "host/driver/session.h"
 #include "platform/files.h"
 #include "platform/host.h"
 #include "platform/platform.h"
+#include "tests/support/session.h"
 
 namespace lx {
 
@@ -81,7 +81,7 @@ public:
     Files& files() { return systemFiles(); }
     FakeHost& host() { return m_host; }
     // The user: steps to be done in the dialogs that the test is about to open.
-    host::Session& user() { return *m_user; }
+    Session& user() { return *m_user; }
     Driver& driver() { return *m_driver; }
 
     // Each ends in a separator.
@@ -103,7 +103,7 @@ private:
     FakeHost m_host;
     std::unique_ptr<Platform> m_platform;
     std::unique_ptr<Driver> m_driver;
-    std::unique_ptr<host::Session> m_user;
+    std::unique_ptr<Session> m_user;
 };
 
 // Of this platform.

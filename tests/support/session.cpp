@@ -1,12 +1,12 @@
-#include "host/driver/session.h"
+#include "tests/support/session.h"
 
 #include <exception>
 #include <utility>
 
-namespace lx::host {
+namespace lx {
 
-Session::Session(Driver& driver) : m_driver(driver) {
-    m_driver.drive([this](Driver& d) { return runNext(d); });
+Session::Session(host::Driver& driver) : m_driver(driver) {
+    m_driver.drive([this](host::Driver& d) { return runNext(d); });
 }
 
 Session::~Session() {
@@ -14,12 +14,12 @@ Session::~Session() {
     m_driver.drive(nullptr);
 }
 
-void Session::then(std::function<void(Driver&)> step) {
+void Session::then(std::function<void(host::Driver&)> step) {
     m_steps.push_back(std::move(step));
 }
 
-void Session::inDialog(std::string_view title, std::function<void(Driver&)> step) {
-    then([wanted = std::string(title), act = std::move(step)](Driver& d) {
+void Session::inDialog(std::string_view title, std::function<void(host::Driver&)> step) {
+    then([wanted = std::string(title), act = std::move(step)](host::Driver& d) {
         d.expectDialog(wanted);
         act(d);
     });
@@ -34,14 +34,14 @@ std::string Session::failure() const {
     return {};
 }
 
-bool Session::runNext(Driver& driver) {
+bool Session::runNext(host::Driver& driver) {
     if (!m_failure.empty()) {
         driver.cancelTop();
         return true;
     }
     if (m_steps.empty()) return false;
     // Taken off first: the step may open a dialog in which the next one is run.
-    const std::function<void(Driver&)> step = std::move(m_steps.front());
+    const std::function<void(host::Driver&)> step = std::move(m_steps.front());
     m_steps.pop_front();
     try {
         step(driver);
@@ -51,4 +51,4 @@ bool Session::runNext(Driver& driver) {
     return true;
 }
 
-}  // namespace lx::host
+}  // namespace lx

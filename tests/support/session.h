@@ -9,28 +9,28 @@
 
 #include "host/driver/driver.h"
 
-namespace lx::host {
+namespace lx {
 
 class Session {
 public:
     // Takes over the driver's drive(); the driver must outlive the session.
-    explicit Session(Driver& driver);
+    explicit Session(host::Driver& driver);
     ~Session();
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
 
-    void then(std::function<void(Driver&)> step);
+    void then(std::function<void(host::Driver&)> step);
     // The same, after waiting for the dialog with that title (UTF-8).
-    void inDialog(std::string_view title, std::function<void(Driver&)> step);
+    void inDialog(std::string_view title, std::function<void(host::Driver&)> step);
     // Empty when all is well: the steps are used up and none failed.
     std::string failure() const;
 
 private:
-    bool runNext(Driver& driver);
+    bool runNext(host::Driver& driver);
 
-    Driver& m_driver;
-    std::deque<std::function<void(Driver&)>> m_steps;
+    host::Driver& m_driver;
+    std::deque<std::function<void(host::Driver&)>> m_steps;
     std::string m_failure;
 };
 
-}  // namespace lx::host
+}  // namespace lx
