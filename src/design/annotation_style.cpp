@@ -21,12 +21,8 @@ constexpr std::size_t edgesRead = 19;
 constexpr std::size_t heightLimit = 14;
 constexpr std::size_t numberLimit = 29;
 
-Text read(const Profile& file, const settings::TextKey& key) {
-    return file.read(key.section, key.key, key.fallback, key.bufferSize);
-}
-
 int readNumber(const Profile& file, const settings::TextKey& key) {
-    return leadingInt(read(file, key));
+    return leadingInt(file.read(key));
 }
 
 int readColor(const Profile& file, const settings::TextKey& key) {
@@ -54,20 +50,20 @@ std::string_view number(std::string_view text) {
 
 AnnotationStyle storedStyle(const Profile& settings) {
     AnnotationStyle style;
-    style.textStyle = read(settings, settings::textStyle);
+    style.textStyle = settings.read(settings::textStyle);
     style.bubbleColor = readColor(settings, settings::bubbleColor);
     style.descriptionColor = readColor(settings, settings::descriptionColor);
     style.followsOpening = readNumber(settings, settings::turnedByAngle) == 0;
     style.auxiliaryLine = readNumber(settings, settings::auxiliaryLine) != 0;
     style.hasEdges = readNumber(settings, settings::outlineHasEdges) != 0;
-    style.bubbleAngle = read(settings, settings::bubbleAngle);
-    style.lineLength = read(settings, settings::auxiliaryLineLength);
-    style.bubbleHeight = read(settings, settings::bubbleTextHeight);
-    style.descriptionHeight = read(settings, settings::descriptionTextHeight);
-    style.bubbleWidthFactor = read(settings, settings::bubbleWidthFactor);
-    style.descriptionWidthFactor = read(settings, settings::descriptionWidthFactor);
-    style.diameter = read(settings, settings::bubbleDiameter);
-    style.edges = read(settings, settings::outlineEdges);
+    style.bubbleAngle = settings.read(settings::bubbleAngle);
+    style.lineLength = settings.read(settings::auxiliaryLineLength);
+    style.bubbleHeight = settings.read(settings::bubbleTextHeight);
+    style.descriptionHeight = settings.read(settings::descriptionTextHeight);
+    style.bubbleWidthFactor = settings.read(settings::bubbleWidthFactor);
+    style.descriptionWidthFactor = settings.read(settings::descriptionWidthFactor);
+    style.diameter = settings.read(settings::bubbleDiameter);
+    style.edges = settings.read(settings::outlineEdges);
     return style;
 }
 

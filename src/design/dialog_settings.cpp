@@ -7,14 +7,6 @@ namespace lx {
 
 namespace {
 
-int readInt(const Profile& file, const settings::IntKey& key) {
-    return file.readInt(key.section, key.key, key.fallback);
-}
-
-Text readText(const Profile& file, const settings::TextKey& key) {
-    return file.read(key.section, key.key, key.fallback);
-}
-
 void writeInt(Profile& file, const settings::TextKey& key, int value) {
     file.writeInt(key.section, key.key, value);
 }
@@ -26,7 +18,7 @@ DialogSettings::DialogSettings(Files& files, const Path& dataFolder)
       m_dialog(files, dataFolder + Path(settings::dialogFile)) {}
 
 Annotation DialogSettings::annotation() const {
-    return annotationFromSetting(readInt(m_user, settings::description));
+    return annotationFromSetting(m_user.readInt(settings::description));
 }
 
 void DialogSettings::storeAnnotation(const Annotation& annotation) {
@@ -35,7 +27,7 @@ void DialogSettings::storeAnnotation(const Annotation& annotation) {
 }
 
 bool DialogSettings::bearingCheck() const {
-    return readInt(m_user, settings::checkLength) != 0;
+    return m_user.readInt(settings::checkLength) != 0;
 }
 
 void DialogSettings::storeBearingCheck(bool on) {
@@ -44,7 +36,7 @@ void DialogSettings::storeBearingCheck(bool on) {
 }
 
 int DialogSettings::tab() const {
-    return leadingInt(readText(m_dialog, settings::tab));
+    return leadingInt(m_dialog.read(settings::tab));
 }
 
 void DialogSettings::storeTab(int index) {
@@ -52,7 +44,7 @@ void DialogSettings::storeTab(int index) {
 }
 
 int DialogSettings::precastType() const {
-    return leadingInt(readText(m_dialog, settings::precastType));
+    return leadingInt(m_dialog.read(settings::precastType));
 }
 
 void DialogSettings::storePrecastType(int type) {
@@ -60,7 +52,7 @@ void DialogSettings::storePrecastType(int type) {
 }
 
 int DialogSettings::steelType() const {
-    return leadingInt(readText(m_dialog, settings::steelType));
+    return leadingInt(m_dialog.read(settings::steelType));
 }
 
 void DialogSettings::storeSteelType(int type) {
@@ -68,7 +60,7 @@ void DialogSettings::storeSteelType(int type) {
 }
 
 Text DialogSettings::bubbleName() const {
-    return readText(m_dialog, settings::bubbleName);
+    return m_dialog.read(settings::bubbleName);
 }
 
 void DialogSettings::storeBubbleName(std::string_view name) {

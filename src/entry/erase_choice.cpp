@@ -5,9 +5,7 @@
 namespace lx {
 
 EraseChoice storedChoice(const Profile& settings) {
-    const settings::IntKey& key = settings::lintelErase;
-    const int stored = settings.readInt(key.section, key.key, key.fallback);
-    const int elements = stored & (LX_ERASE_LINTEL | eraseParts);
+    const int elements = settings.readInt(settings::lintelErase) & (LX_ERASE_LINTEL | eraseParts);
     return {elements, (elements & LX_ERASE_LINTEL) == 0};
 }
 

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "platform/files.h"
+#include "settings/keys.h"
 
 namespace lx {
 
@@ -37,9 +38,15 @@ public:
     // missing. A line without "=" is a key without a value: it is there, but reads as missing.
     Text read(std::string_view section, std::string_view key, std::string_view fallback,
               std::size_t bufferSize = 1024) const;
+    Text read(const settings::TextKey& key) const {
+        return read(key.section, key.key, key.fallback, key.bufferSize);
+    }
     // profileInt of the value, fallback when the key is missing.
     std::int32_t readInt(std::string_view section, std::string_view key,
                          std::int32_t fallback) const;
+    std::int32_t readInt(const settings::IntKey& key) const {
+        return readInt(key.section, key.key, key.fallback);
+    }
     // none when the key is missing.
     std::optional<Text> find(std::string_view section, std::string_view key) const;
     // The keys of a section with their values in file order, doubled ones too.
