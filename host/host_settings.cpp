@@ -1,6 +1,5 @@
 #include "host/host_settings.h"
 
-#include <array>
 #include <functional>
 
 #include "host/parse.h"

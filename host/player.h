@@ -4,7 +4,6 @@
 
 #include <functional>
 #include <iosfwd>
-#include <memory>
 #include <string>
 
 #include "host/calls.h"

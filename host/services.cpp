@@ -1,6 +1,5 @@
 #include "host/services.h"
 
-#include <algorithm>
 #include <cstring>
 #include <filesystem>
 

@@ -1,7 +1,6 @@
 #include "host/driver/png.h"
 
 #include <algorithm>
-#include <array>
 #include <string_view>
 #include <utility>
 

@@ -2,7 +2,6 @@
 // modules registered instead of loaded, so that it finds the host as it does in the host's process.
 #pragma once
 
-#include <memory>
 #include <string>
 
 #include "host/player.h"

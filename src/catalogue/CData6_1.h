@@ -10,6 +10,7 @@
 #include "catalogue/CList2Ctrl.h"
 #include "catalogue/catalogue_edit.h"
 #include "catalogue/catalogue_session.h"
+#include "catalogue/column_settings.h"
 #include "catalogue/resize_wnd.h"
 
 namespace lx {

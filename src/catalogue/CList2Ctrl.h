@@ -5,7 +5,6 @@
 #include <functional>
 #include <vector>
 
-#include "catalogue/column_settings.h"
 #include "catalogue/row_list.h"
 #include "platform/platform.h"
 

@@ -1,6 +1,5 @@
 #include "catalogue/catalogue_edit.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <limits>
 #include <utility>

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <string_view>
-#include <vector>
 
 #include "catalogue/resize_rules.h"
 #include "platform/platform.h"

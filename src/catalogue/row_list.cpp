@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <utility>
 
 #include "catalogue/item_cells.h"
 #include "catalogue/natural_order.h"

@@ -2,7 +2,6 @@
 
 #include <string_view>
 #include <unordered_map>
-#include <utility>
 
 #include "composition/saturate.h"
 #include "composition/stored_form.h"

@@ -1,7 +1,5 @@
 #include "composition/library_entries.h"
 
-#include <algorithm>
-
 #include "platform/binary.h"
 
 namespace lx {

@@ -4,6 +4,7 @@
 
 #include "catalogue/CData6_1.h"
 #include "catalogue/catalogue_edit.h"
+#include "composition/offers.h"
 #include "composition/rules_file.h"
 #include "design/CObr1.h"
 #include "design/bend_presets.h"

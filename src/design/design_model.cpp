@@ -4,6 +4,8 @@
 
 #include "composition/automatic.h"
 #include "composition/hand_over.h"
+#include "composition/layout.h"
+#include "composition/offers.h"
 #include "composition/section_scale.h"
 #include "design/opening.h"
 #include "design/page_index.h"

@@ -2,7 +2,6 @@
 // state of the design dialog without its windows.
 #pragma once
 
-#include "composition/layout.h"
 #include "composition/library.h"
 #include "design/availability.h"
 #include "design/layer_commands.h"

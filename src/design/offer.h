@@ -4,7 +4,7 @@
 #include <span>
 #include <vector>
 
-#include "composition/offers.h"
+#include "composition/records.h"
 
 namespace lx {
 

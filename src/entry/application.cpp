@@ -1,5 +1,6 @@
 #include "entry/application.h"
 
+#include "entry/locations.h"
 #include "resources/icons.h"
 
 namespace lx {

@@ -4,7 +4,6 @@
 
 #include "design/module_values.h"
 #include "entry/host_links.h"
-#include "entry/locations.h"
 
 namespace lx {
 

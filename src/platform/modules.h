@@ -1,8 +1,6 @@
 // Programs and libraries loaded into the process: what the module asks of the system's loader.
 #pragma once
 
-#include <string_view>
-
 #include "platform/text.h"
 
 namespace lx {

@@ -1,7 +1,5 @@
 #include "preview/value_family.h"
 
-#include <algorithm>
-
 #include "platform/numbers.h"
 #include "settings/keys.h"
 

@@ -1,6 +1,7 @@
 // The page "Prefa překlady": the precast offer, and the commands that build a lintel from it.
 #pragma once
 
+#include "design/catalogue_choice.h"
 #include "tabs/offer_page.h"
 
 namespace lx {

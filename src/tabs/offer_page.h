@@ -4,7 +4,6 @@
 
 #include <memory>
 
-#include "design/catalogue_choice.h"
 #include "design/pages.h"
 #include "design/services.h"
 #include "tabs/CNabidka.h"

@@ -3,7 +3,6 @@
 #include <commctrl.h>
 
 #include <algorithm>
-#include <utility>
 
 #include "host/driver/windows/keyboard.h"
 #include "host/driver/windows/lists.h"

@@ -3,7 +3,6 @@
 #include <commctrl.h>
 
 #include <array>
-#include <cstdio>
 #include <numeric>
 
 #include "host/driver/windows/lists.h"

@@ -1,7 +1,6 @@
 #include "platform/headless/headless_platform.h"
 
 #include <algorithm>
-#include <limits>
 #include <stdexcept>
 
 #include "platform/numbers.h"

@@ -1,7 +1,5 @@
 #include "platform/windows/combo_control.h"
 
-#include <algorithm>
-
 #include "platform/keys.h"
 #include "platform/windows/edit_control.h"
 #include "platform/windows/platform_windows.h"

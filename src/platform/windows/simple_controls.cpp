@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "platform/windows/gdi_canvas.h"
-#include "platform/windows/platform_windows.h"
 #include "platform/windows/windows_dialog.h"
 
 namespace lx {
