@@ -1,6 +1,6 @@
 // Text inside the module: bytes in code page 1250, exactly as the files hold them. Limits, sort
 // ranks and label lengths are rules about bytes. Conversion to other encodings happens in platform/
-// alone.
+// alone, but for settings files that are Unicode themselves (settings/encoded_text.h).
 #pragma once
 
 #include <cstddef>
