@@ -100,16 +100,14 @@ void CTabKnihovna::newProject() {
     }
 }
 
-bool CTabKnihovna::mayDelete(bool& used) {
-    used = true;
+CTabKnihovna::Deletion CTabKnihovna::askDeletion() {
     if (m_services.library().readOnly()) {
         m_services.showMessage(str(isReadOnly), MessageIcon::none);
-        return false;
+        return Deletion::refused;
     }
     const MessageAnswer answer =
         m_services.showMessage(str(askDelete), MessageIcon::question, MessageButtons::yesNo);
-    used = answer == MessageAnswer::yes;
-    return used;
+    return answer == MessageAnswer::yes ? Deletion::agreed : Deletion::declined;
 }
 
 // The question closes an open list, which puts back the project that it was opened on: the one to
@@ -119,8 +117,8 @@ bool CTabKnihovna::deleteProject() {
     const int index = library.projects().selected;
     if (index == 0) return false;
     m_projects.box().dropDown(false);
-    bool used = false;
-    if (!mayDelete(used)) return used;
+    const Deletion answer = askDeletion();
+    if (answer != Deletion::agreed) return answer == Deletion::refused;
     const auto id = library.removeProject(index);
     showProjects();
     changeProject();
@@ -131,8 +129,8 @@ bool CTabKnihovna::deleteProject() {
 bool CTabKnihovna::deleteStored() {
     DesignModel& model = m_services.model();
     if (model.shownStored() == 0) return false;
-    bool used = false;
-    if (!mayDelete(used)) return used;
+    const Deletion answer = askDeletion();
+    if (answer != Deletion::agreed) return answer == Deletion::refused;
     m_services.EndEdit();
     const auto label = model.removeShownStored();
     showDesigns();

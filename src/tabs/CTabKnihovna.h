@@ -30,9 +30,9 @@ private:
     // Whether the key has been used.
     bool deleteProject();
     bool deleteStored();
-    // Tells that the library is read-only, or asks; true when the entry is to be deleted. used:
-    // whether the key is thereby used.
-    bool mayDelete(bool& used);
+    enum class Deletion { agreed, declined, refused };
+    // Tells that the library is read-only, which refuses it, or asks.
+    Deletion askDeletion();
 
     DesignServices& m_services;
     std::unique_ptr<Dialog> m_window;
