@@ -163,6 +163,9 @@ struct ListColumn {
 };
 
 enum class HeadingArrow { none, ascending, descending };
+// Resource numbers of the icons that show them.
+inline constexpr int ascendingIcon = 2014;
+inline constexpr int descendingIcon = 2015;
 
 // A report list of any number of rows; texts are asked for as rows are shown.
 class ListView : public Control {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/canvas.h"
+#include "platform/controls.h"
 
 namespace lx {
 
@@ -16,8 +17,8 @@ inline constexpr int add = 1997;
 inline constexpr int remove = 1998;
 inline constexpr int space = 1999;
 inline constexpr int steel = 2004;
-inline constexpr int ascending = 2014;
-inline constexpr int descending = 2015;
+inline constexpr int ascending = ascendingIcon;
+inline constexpr int descending = descendingIcon;
 inline constexpr int module = 2019;
 inline constexpr int insulation = 2063;
 inline constexpr int monolith = 2073;

@@ -10,8 +10,8 @@
 namespace lx {
 namespace {
 
-// Icon resource numbers of the arrows in headings, in image list order.
-constexpr int arrowIcons[] = {2014, 2015};
+// In image list order.
+constexpr int arrowIcons[] = {ascendingIcon, descendingIcon};
 constexpr Size arrowSize{16, 16};
 
 bool isPermutation(const std::vector<int>& order) {
