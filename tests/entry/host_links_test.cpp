@@ -1,6 +1,7 @@
 // Start-up and the links to the host, over programs and functions that the test makes.
 #include <gtest/gtest.h>
 
+#include "entry/locations.h"
 #include "tests/entry/fake_modules.h"
 
 namespace lx {
