@@ -171,6 +171,31 @@ void setColumnOrder(PlayContext& context, const Words& words) {
     context.driver.setColumnOrder(words[0], order);
 }
 
+void answerAny(PlayContext& context, const Words&) {
+    Driver& driver = context.driver;
+    while (driver.messageBoxOpen()) driver.answer(driver.messageBox().buttons.at(0));
+}
+
+// The host calls while a dialog of the module is open: that answers at once and touches nothing.
+void secondCall(PlayContext& context, const Words& words) {
+    CallRequest request;
+    const std::optional<Function> function = functionNamed(words[0]);
+    if (!function || *function == Function::merge) {
+        throw std::runtime_error(inQuotes(words[0]) + " is none of the functions with a dialog");
+    }
+    request.function = *function;
+    request.opening = context.opening;
+    const CallOutcome outcome = context.callAgain(request);
+    if (outcome.result != wholeNumber(words[1])) {
+        throw std::runtime_error("expected result " + words[1] + ", there is " +
+                                 std::to_string(outcome.result));
+    }
+    const bool kept = outcome.a == request.opening.a && outcome.b == request.opening.b;
+    if (outcome.text || outcome.overran || (*function == Function::design && !kept)) {
+        throw std::runtime_error("the refused call handed a result back");
+    }
+}
+
 void takeScreenshot(PlayContext& context, const Words& words) {
     const fs::path file = context.folders.path("out:" + words[0]);
     context.driver.screenshot(utf8FromPath(file));
@@ -192,6 +217,7 @@ const std::vector<Command>& commands() {
         {"setting", 4, 4, Where::anywhere, setSetting},
         {"host", 2, 2, Where::anywhere, setHost},
         {"opening", 2, anyNumber, Where::anywhere, setOpening},
+        {"count-held", 0, 0, Where::outside, [](C& c, const W&) { c.counted = countHeld(); }},
         {"clear-logs", 0, 0, Where::anywhere, [](C& c, const W&) { c.services.clearLogs(); }},
 
         {"dialog", 1, 1, Where::inCall, [](C& c, const W& w) { c.driver.expectDialog(w[0]); }},
@@ -222,6 +248,8 @@ const std::vector<Command>& commands() {
         {"popup", 1, 1, Where::inCall, [](C& c, const W& w) { c.driver.choosePopup(w[0]); }},
         {"close-popup", 0, 0, Where::inCall, [](C& c, const W&) { c.driver.closePopup(); }},
         {"answer", 1, 1, Where::inCall, [](C& c, const W& w) { c.driver.answer(w[0]); }},
+        {"answer-any", 0, 0, Where::inCall, answerAny},
+        {"second-call", 2, 2, Where::inCall, secondCall},
         {"close", 0, 0, Where::inCall, [](C& c, const W&) { c.driver.closeDialog(); }},
         {"mouse-move", 3, 3, Where::inCall,
          [](C& c, const W& w) { c.driver.mouseMove(w[0], onlyPoint(c, w), false); }},

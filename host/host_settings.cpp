@@ -65,6 +65,14 @@ std::string setUnits(std::optional<int>& target, std::string_view value) {
     return target || value == "none" ? "" : "is a whole number or \"none\"";
 }
 
+std::string setWindow(HostSettings& settings, std::string_view value) {
+    if (value != "normal" && value != "minimized" && value != "modal" && value != "none") {
+        return "is \"normal\", \"minimized\", \"modal\" or \"none\"";
+    }
+    settings.window = value;
+    return {};
+}
+
 struct Setting {
     std::string_view name;
     std::string_view values;
@@ -118,6 +126,8 @@ const std::vector<Setting>& settings() {
          [](S& s, V v) { return setStyles(s.styles, v); }},
         {"title", "TEXT|none", "the host's title; none: the table cannot tell",
          [](S& s, V v) { return setText(s.title, v); }},
+        {"window", "normal|minimized|modal|none",
+         "what owns the dialogs; modal: a dialog of the host's own", setWindow},
     };
     return table;
 }

@@ -33,6 +33,9 @@ struct HostSettings {
     std::optional<std::vector<std::string>> styles =
         std::vector<std::string>{"Standard", "Popisy", "Kóty"};  // none: no entry 59
     std::optional<std::string> title = "Stand-in";               // none: no entry 94
+    // What owns the module's dialogs: "normal", "minimized" or "none", or "modal", a dialog of the
+    // host's own in front of its window. Without a screen there is never any.
+    std::string window = "normal";
 
     // Empty when the setting was made, else what is wrong with it.
     std::string set(std::string_view name, std::string_view value);

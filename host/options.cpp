@@ -37,11 +37,26 @@ private:
         return {};
     }
 
+    int number(const std::string& name) {
+        const std::string text = value(name);
+        int parsed = 0;
+        const char* end = text.data() + text.size();
+        const auto [stop, error] = std::from_chars(text.data(), end, parsed);
+        if (error != std::errc() || stop != end || parsed < 0) {
+            fail("--" + name + " is a number, not \"" + text + "\"");
+        }
+        return parsed;
+    }
+
     void option(const std::string& name) {
         if (name == "help") {
             m_options.help = true;
         } else if (name == "play") {
             m_options.scenarios.push_back(value(name));
+        } else if (name == "calls") {
+            m_options.chance.calls = number(name);
+        } else if (name == "seed") {
+            m_options.chance.seed = static_cast<unsigned>(number(name));
         } else if (name == "out") {
             m_options.out = value(name);
         } else if (name == "data") {
@@ -116,6 +131,8 @@ std::string optionsHelp(const std::string& programName) {
            "Exit code: 0, or 1 when an expectation of a scenario failed, or 2 when nothing could "
            "be\n"
            "run. What scenarios are made of is told in docs/scenarios.md.\n\n"
+           "  --calls N  --seed N                   of scenarios with chance: calls (40), what is "
+           "drawn (1)\n"
            "  --out DIR                             where folders and pictures are made (out)\n"
            "  --data DIR                            LXDATA6.DAT, LXDATA6S.DAT, VDLINTEL.TXT "
            "(data beside the program)\n"

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "host/calls.h"
+#include "host/chance.h"
 #include "host/host_settings.h"
 
 namespace lx::host {
@@ -19,6 +20,7 @@ struct Options {
     bool catalogueGiven = false;
     std::string temporary;               // "" = the system's
     std::optional<CallRequest> call;     // a function to call
+    Chance chance;                       // in the scenarios
     std::vector<std::string> scenarios;  // files to play, in order
     std::string out = "out";             // folder for everything that is made
     std::string data;  // folder of LXDATA6.DAT, LXDATA6S.DAT and VDLINTEL.TXT; "" = beside the

@@ -9,6 +9,7 @@
 
 #include "host/calls.h"
 #include "host/driver/driver.h"
+#include "host/held.h"
 #include "host/scenario_folders.h"
 #include "host/services.h"
 
@@ -21,6 +22,10 @@ struct PlayContext {
     Opening opening;
     std::optional<CallOutcome> outcome;  // of the last call
     std::ostream& output;
+    std::vector<Held> counted;  // by the last "count-held"
+    std::function<std::vector<std::string>()> hostWindows;
+    // A call made while one is under way.
+    std::function<CallOutcome(const CallRequest&)> callAgain;
 };
 
 using Words = std::vector<std::string>;

@@ -1,5 +1,6 @@
 #include "host/player.h"
 
+#include <algorithm>
 #include <exception>
 #include <ostream>
 #include <stdexcept>
@@ -85,6 +86,11 @@ public:
 private:
     void checkLine(const Words& words) {
         const std::string& name = words[0];
+        if (name == "try") {
+            if (words.size() < 2) throw std::invalid_argument("try what?");
+            checkPlace(name, Where::inCall);
+            return checkLine(behind(words, 1));
+        }
         if (name == "call" || name == "returns") return checkCall(words);
         if (name == "expect") {
             checkExpectWords(behind(words, 1));
@@ -147,7 +153,10 @@ public:
                               utf8FromPath(pathFromUtf8(file).parent_path())),
               {},
               std::nullopt,
-              player.m_output} {}
+              player.m_output,
+              {},
+              [this] { return hostWindows(); },
+              [this](const CallRequest& request) { return run(*m_module, request, m_owner); }} {}
 
     ~Run() {
         m_context.driver.drive(nullptr);
@@ -184,7 +193,8 @@ private:
         try {
             act();
         } catch (const std::exception& error) {
-            fail(line, error.what());
+            if (line.words[0] != "try") return fail(line, error.what());
+            m_next = std::max(m_next, line.goesOnAt);
         }
     }
 
@@ -199,6 +209,7 @@ private:
     }
 
     void playAnywhere(const Words& words) {
+        if (words[0] == "try") return playAnywhere(behind(words, 1));
         if (words[0] == "expect") return expect(m_context, behind(words, 1));
         if (words[0] == "print") return print(m_context, behind(words, 1));
         findCommand(words[0])->run(m_context, behind(words, 1));
@@ -208,13 +219,20 @@ private:
         const CallRequest request = requestOf(m_context.folders, m_context.opening, words);
         if (!m_module) m_module = m_player.m_module.load(m_context.services.settings);
         Driver& driver = m_context.driver;
-        driver.drive([this](Driver&) { return playNextInside(); });
-        m_context.outcome = run(*m_module, request, m_player.m_module.parentWindow);
-        driver.settle();
+        m_player.m_module.call(m_context.services.settings, [&](void* owner) {
+            m_owner = owner;
+            m_inCall = true;
+            driver.drive([this](Driver&) { return playNextInside(); });
+            m_context.outcome = run(*m_module, request, owner);
+            driver.settle();
+            m_windowsAfter = hostWindows();
+            m_inCall = false;
+        });
         const std::string abandoned = driver.abandoned();
         driver.drive(nullptr);
         if (!m_failure.empty()) return;
 
+        while (m_lines[m_next].words[0] == "try") ++m_next;
         const ScenarioLine& line = m_lines[m_next];
         const std::string result = std::to_string(m_context.outcome->result);
         if (line.words[0] != "returns") {
@@ -256,6 +274,13 @@ private:
         }
     }
 
+    // Behind the call: as they were when it returned.
+    Words hostWindows() const {
+        if (!m_inCall) return m_windowsAfter;
+        const ModuleSource& module = m_player.m_module;
+        return module.windows ? module.windows() : Words();
+    }
+
     void unload() {
         if (!m_module) return;
         m_module.reset();
@@ -266,26 +291,32 @@ private:
     std::vector<ScenarioLine> m_lines;
     PlayContext m_context;
     std::optional<ModuleCalls> m_module;
+    void* m_owner = nullptr;  // of the call under way
+    bool m_inCall = false;
+    Words m_windowsAfter;
     std::size_t m_next = 0;
     std::string m_failure;
     bool m_failureShown = false;
 };
 
 Player::Player(HostServices& services, ModuleSource module, Driver& driver, PlayerFolders folders,
-               std::ostream& output)
+               std::ostream& output, const Chance& chance)
     : m_services(services),
       m_module(std::move(module)),
       m_driver(driver),
       m_folders(std::move(folders)),
-      m_output(output) {}
+      m_output(output),
+      m_chance(chance) {}
 
 Player::~Player() = default;
 
 bool Player::play(const std::string& file) {
     m_failure.clear();
     try {
-        std::vector<ScenarioLine> lines = readScenario(
-            file, [](const std::string& name) { return readFile(pathFromUtf8(name)); });
+        std::vector<ScenarioLine> lines =
+            drawn(readScenario(
+                      file, [](const std::string& name) { return readFile(pathFromUtf8(name)); }),
+                  m_chance);
         Checker().check(lines);
         m_failure = Run(*this, file, std::move(lines)).play();
     } catch (const std::exception& error) {

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "host/calls.h"
+#include "host/chance.h"
 #include "host/driver/driver.h"
 #include "host/services.h"
 
@@ -17,7 +18,17 @@ namespace lx::host {
 struct ModuleSource {
     std::function<ModuleCalls(const HostSettings& settings)> load;
     std::function<void()> unload;
-    void* parentWindow = nullptr;
+    // Makes a call as this host does, owned by the window that the settings name, which it hands
+    // on; without a function there is none.
+    std::function<void(const HostSettings& settings, const std::function<void(void* owner)>& call)>
+        callFrom;
+    // What the host's own windows are like, one an item: "window disabled", "dialog enabled
+    // active".
+    std::function<std::vector<std::string>()> windows;
+
+    void call(const HostSettings& settings, const std::function<void(void* owner)>& make) const {
+        callFrom ? callFrom(settings, make) : make(nullptr);
+    }
 };
 
 struct PlayerFolders {
@@ -28,7 +39,7 @@ struct PlayerFolders {
 class Player {
 public:
     Player(HostServices& services, ModuleSource module, Driver& driver, PlayerFolders folders,
-           std::ostream& output);
+           std::ostream& output, const Chance& chance = {});
     ~Player();
     Player(const Player&) = delete;
     Player& operator=(const Player&) = delete;
@@ -47,6 +58,7 @@ private:
     Driver& m_driver;
     PlayerFolders m_folders;
     std::ostream& m_output;
+    Chance m_chance;
     std::string m_failure;
 };
 

@@ -195,6 +195,11 @@ const std::vector<Readable>& readables() {
         {"A", 0, after, [](C& c, const W&) { return one(std::to_string(outcome(c).a)); }},
         {"B", 0, after, [](C& c, const W&) { return one(std::to_string(outcome(c).b)); }},
 
+        {"held", 0, after, [](C& c, const W&) { return comparedHeld(c.counted, countHeld()); }},
+        {"left-behind", 0, after,
+         [](C& c, const W&) { return leftBehind(c.counted, countHeld()); }},
+
+        {"host-windows", 0, any, [](C& c, const W&) { return c.hostWindows(); }},
         {"help-topics", 0, any, [](C& c, const W&) { return numbers(c.services.helpTopics); }},
         {"help-file", 0, any,
          [](C& c, const W&) { return one(utf8FromSystemPath(c.services.helpFile)); }},

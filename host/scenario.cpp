@@ -59,7 +59,7 @@ public:
         if (rest.starts_with("\xEF\xBB\xBF")) rest.remove_prefix(3);
         for (int number = 1; !rest.empty(); ++number) {
             const std::size_t end = std::min(rest.find('\n'), rest.size());
-            add({name, number, words(rest.substr(0, end), file, number)}, depth);
+            add({name, number, words(rest.substr(0, end), file, number), 0}, depth);
             rest.remove_prefix(std::min(end + 1, rest.size()));
         }
     }

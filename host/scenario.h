@@ -16,6 +16,8 @@ struct ScenarioLine {
     std::shared_ptr<const std::string> file;  // as named, UTF-8
     int number = 0;                           // from 1
     std::vector<std::string> words;           // never empty
+    // Of a "try" that cannot be done: index of the line to go on with, see chance.h.
+    std::size_t goesOnAt = 0;
 
     std::string place() const { return *file + ":" + std::to_string(number); }
 };

@@ -15,7 +15,7 @@ constexpr int nothingRun = 2;
 
 int playAll(const Options& options, HostServices& services, const ModuleSource& module,
             Driver& driver, std::ostream& output, std::ostream& errors) {
-    Player player(services, module, driver, {options.out, options.data}, output);
+    Player player(services, module, driver, {options.out, options.data}, output, options.chance);
     int code = allHeld;
     for (const std::string& scenario : options.scenarios) {
         output << scenario << std::endl;
@@ -39,7 +39,8 @@ int callOnce(Options& options, HostServices& services, const ModuleSource& modul
     services.settings = options.host;
     try {
         const ModuleCalls calls = module.load(services.settings);
-        output << report(run(calls, *options.call, module.parentWindow));
+        module.call(services.settings,
+                    [&](void* owner) { output << report(run(calls, *options.call, owner)); });
         for (const int topic : services.helpTopics) output << "help topic " << topic << "\n";
         for (const std::string& line : services.lockLog()) output << "lock " << line << "\n";
         output << std::flush;

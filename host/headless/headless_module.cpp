@@ -73,7 +73,9 @@ private:
 ModuleSource headlessModule(HeadlessPlatform& platform, const std::string& programFolder) {
     const auto module = std::make_shared<LoadedModule>(platform, programFolder);
     return {[module](const HostSettings& settings) { return module->load(settings); },
-            [module] { module->unload(); }, nullptr};
+            [module] { module->unload(); },
+            {},
+            {}};
 }
 
 }  // namespace lx::host

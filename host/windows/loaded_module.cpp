@@ -83,10 +83,12 @@ private:
 
 }  // namespace
 
-ModuleSource moduleFromFile(const std::string& programFolder, void* parentWindow) {
+ModuleSource moduleFromFile(const std::string& programFolder) {
     const auto module = std::make_shared<LoadedModule>(programFolder);
     return {[module](const HostSettings& settings) { return module->load(settings); },
-            [module] { module->unload(); }, parentWindow};
+            [module] { module->unload(); },
+            {},
+            {}};
 }
 
 bool helpLibraryWanted() {

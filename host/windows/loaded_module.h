@@ -8,7 +8,7 @@
 namespace lx::host {
 
 // The modules lie in programFolder (UTF-8). One is loaded at a time.
-ModuleSource moduleFromFile(const std::string& programFolder, void* parentWindow);
+ModuleSource moduleFromFile(const std::string& programFolder);
 
 // False while a scenario wants no vdhelp.dll: that library then refuses to be loaded.
 bool helpLibraryWanted();

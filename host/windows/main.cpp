@@ -12,6 +12,7 @@
 #include "host/driver/windows/windows_driver.h"
 #include "host/options.h"
 #include "host/paths.h"
+#include "host/windows/host_window.h"
 #include "host/windows/loaded_module.h"
 
 // What the module looks for in its host's program.
@@ -63,22 +64,6 @@ std::string programFolder() {
     return utf8FromPath(std::filesystem::path(name).parent_path());
 }
 
-// The host program's own window, in front of which the dialogs stand.
-HWND makeParentWindow() {
-    WNDCLASSW look{};
-    look.lpfnWndProc = DefWindowProcW;
-    look.hInstance = GetModuleHandleW(nullptr);
-    look.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-    look.hbrBackground = GetSysColorBrush(COLOR_APPWORKSPACE);
-    look.lpszClassName = L"VORDANLT";
-    RegisterClassW(&look);
-    constexpr int width = 1024;
-    constexpr int height = 768;
-    return CreateWindowExW(0, look.lpszClassName, L"Stand-in", WS_OVERLAPPEDWINDOW | WS_VISIBLE,
-                           CW_USEDEFAULT, CW_USEDEFAULT, width, height, nullptr, nullptr,
-                           look.hInstance, nullptr);
-}
-
 }  // namespace
 
 int main() {
@@ -96,11 +81,13 @@ int main() {
         std::cerr << options.error << "\nVORDANLT.EXE --help tells what there is." << std::endl;
         return 2;
     }
-    const HWND parent = makeParentWindow();
+    HostWindow window;
     HostServices services;
     WindowsDriver driver;
-    const int code =
-        runStandIn(options, services, moduleFromFile(folder, parent), driver, std::cout, std::cerr);
-    DestroyWindow(parent);
-    return code;
+    ModuleSource module = moduleFromFile(folder);
+    module.callFrom = [&window](const HostSettings& settings, const auto& call) {
+        window.call(settings, call);
+    };
+    module.windows = [&window] { return window.look(); };
+    return runStandIn(options, services, module, driver, std::cout, std::cerr);
 }
