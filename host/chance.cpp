@@ -1,5 +1,6 @@
 #include "host/chance.h"
 
+#include <algorithm>
 #include <charconv>
 #include <map>
 #include <random>
@@ -69,9 +70,9 @@ private:
 
     int numberFrom(const ScenarioLine& line, std::string_view word) {
         word.remove_prefix(numberMark.size());
-        const std::size_t colon = std::min(word.find(':'), word.size() - 1);
+        const std::size_t colon = std::min(word.find(':'), word.size());
         const std::optional<int> low = numberIn(word.substr(0, colon));
-        const std::optional<int> high = numberIn(word.substr(colon + 1));
+        const std::optional<int> high = numberIn(word.substr(std::min(colon + 1, word.size())));
         if (!low || !high || *low < 0 || *low > *high) fail(line, "a number is any:LOW:HIGH");
         return *low + static_cast<int>(below(static_cast<std::size_t>(*high - *low) + 1));
     }

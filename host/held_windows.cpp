@@ -13,7 +13,8 @@ constexpr long long heapNoise = 64 * 1024;
 constexpr long long privateNoise = 2 * 1024 * 1024;
 // Handles of windows, menus and drawing objects are known by their low word alone.
 constexpr UINT_PTR mostHandles = 0x10000;
-constexpr UINT_PTR mostKernelHandles = 0x40000;
+// Each is asked of the system, which takes its time.
+constexpr UINT_PTR mostKernelHandles = 0x4000;
 
 bool ours(HWND window) {
     DWORD process = 0;
@@ -90,6 +91,8 @@ void addDrawingObjects(std::vector<Held>& held) {
 }
 
 long long kernelHandles() {
+    DWORD told = 0;
+    if (GetProcessHandleCount(GetCurrentProcess(), &told) && told != 0) return told;
     return countHandles(mostKernelHandles, 4, [](UINT_PTR value) {
         DWORD flags = 0;
         return GetHandleInformation(asHandle<HANDLE>(value), &flags) != FALSE;

@@ -1,6 +1,7 @@
 #include "platform/windows/gdi_canvas.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/windows/wide_text.h"
 
@@ -44,7 +45,9 @@ Rect portableRect(const RECT& area) {
 }
 
 FontCache::~FontCache() {
-    for (const auto& entry : m_fonts) DeleteObject(entry.second);
+    for (const auto& entry : m_fonts) {
+        if (entry.second) DeleteObject(entry.second);
+    }
 }
 
 namespace {
@@ -70,15 +73,15 @@ bool isInstalled(HFONT font, const Text& face) {
 HFONT FontCache::get(const Font& font, bool upright) {
     const int escapement = upright ? 0 : font.escapement;
     const Key key(font.face, font.height, font.width, escapement, font.pitchAndFamily);
-    const auto found = m_fonts.find(key);
-    if (found != m_fonts.end()) return found->second;
-    HFONT made = makeFont(font, escapement, font.pitchAndFamily);
+    // Kept from the first moment on: whatever is thrown below, it is not lost.
+    HFONT& made = m_fonts[key];
+    if (made) return made;
+    made = makeFont(font, escapement, font.pitchAndFamily);
     if (made && !isInstalled(made, font.face)) {
         // The pitch and family asked for would bring a typewriter's face in place of a missing one.
-        DeleteObject(made);
+        DeleteObject(std::exchange(made, nullptr));
         made = makeFont(font, escapement, VARIABLE_PITCH | FF_SWISS);
     }
-    if (made) m_fonts.emplace(key, made);
     return made;
 }
 

@@ -38,19 +38,32 @@ private:
     std::uint32_t* m_pixels = nullptr;
 };
 
-bool paintOn(PixelBitmap& bitmap, const DrawingTools& tools, int number, Size size) {
-    const HDC dc = CreateCompatibleDC(nullptr);
-    if (!dc) return false;
-    const HGDIOBJ before = SelectObject(dc, bitmap.handle());
-    bool painted = false;
-    {
-        GdiCanvas canvas(dc, tools);
-        painted = tools.paintIcon(canvas, number, size);
+// A context that draws on a bitmap, and lets go of it however the drawing ends.
+class BitmapContext {
+public:
+    explicit BitmapContext(const PixelBitmap& bitmap) : m_dc(CreateCompatibleDC(nullptr)) {
+        if (m_dc) m_before = SelectObject(m_dc, bitmap.handle());
     }
-    GdiFlush();
-    SelectObject(dc, before);
-    DeleteDC(dc);
-    return painted;
+    BitmapContext(const BitmapContext&) = delete;
+    BitmapContext& operator=(const BitmapContext&) = delete;
+    ~BitmapContext() {
+        if (!m_dc) return;
+        GdiFlush();
+        SelectObject(m_dc, m_before);
+        DeleteDC(m_dc);
+    }
+    HDC get() const { return m_dc; }
+
+private:
+    HDC m_dc;
+    HGDIOBJ m_before = nullptr;
+};
+
+bool paintOn(const PixelBitmap& bitmap, const DrawingTools& tools, int number, Size size) {
+    const BitmapContext dc(bitmap);
+    if (!dc.get()) return false;
+    GdiCanvas canvas(dc.get(), tools);
+    return tools.paintIcon(canvas, number, size);
 }
 
 HICON assemble(PixelBitmap& color, const std::vector<std::uint8_t>& mask, Size size) {
@@ -77,8 +90,9 @@ HICON IconCache::get(int number, Size size) {
     const auto key = std::make_tuple(number, size.width, size.height);
     const auto found = m_icons.find(key);
     if (found != m_icons.end()) return found->second;
-    const HICON icon = make(number, size);
-    m_icons.emplace(key, icon);
+    // The place first: an icon for which there is none would be lost.
+    HICON& icon = m_icons[key];
+    icon = make(number, size);
     return icon;
 }
 

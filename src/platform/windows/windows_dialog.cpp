@@ -113,13 +113,23 @@ WindowsDialog::WindowsDialog(WindowsPlatform& platform, const DialogTemplate& la
       m_style(layout.style),
       m_owner(owner),
       m_unitScale{0, 0, scaleWidth * 6 / 4, scaleHeight * 13 / 8} {
+    try {
+        make(layout, owner);
+    } catch (...) {
+        // No destructor will: the window must not outlive what its messages go to.
+        takeBack();
+        throw;
+    }
+}
+
+void WindowsDialog::make(const DialogTemplate& layout, const Owner& owner) {
     if (isPage()) {
         m_parent = static_cast<WindowsDialog*>(owner.dialog);
         if (m_parent) m_parent->m_pages.push_back(this);
         createWindow(layout, m_parent ? m_parent->m_window : nullptr);
     } else {
         createWindow(layout, ownerWindow(owner));
-        platform.enlist(*this);
+        m_platform.enlist(*this);
     }
     createControls(layout.controls);
     m_clientSize = clientArea().size();
@@ -128,6 +138,10 @@ WindowsDialog::WindowsDialog(WindowsPlatform& platform, const DialogTemplate& la
 
 WindowsDialog::~WindowsDialog() {
     onDestroy = nullptr;  // who set it may be gone already
+    takeBack();
+}
+
+void WindowsDialog::takeBack() {
     closeWindow();
     if (m_parent) {
         auto& pages = m_parent->m_pages;

@@ -94,6 +94,8 @@ private:
     static INT_PTR CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
     // ---- making and ending the window (windows_dialog.cpp)
+    void make(const DialogTemplate& layout, const Owner& owner);
+    void takeBack();
     void createWindow(const DialogTemplate& layout, HWND parent);
     void createControls(std::span<const ControlTemplate> controls);
     void firstShow();
