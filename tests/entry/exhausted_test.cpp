@@ -96,7 +96,7 @@ struct Exhausted : testing::Test {
 
 // So many different moments of each call: real windows take a second for one.
 #if defined(_WIN32)
-constexpr int moments = 25;
+constexpr int moments = 16;
 #else
 constexpr int moments = 150;
 #endif
