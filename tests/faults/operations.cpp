@@ -1,4 +1,4 @@
-#include "tests/faults/operations_posix.h"
+#include "tests/faults/operations.h"
 
 #include <lxdata6dlg.h>
 
@@ -14,6 +14,7 @@
 #include "composition/projects.h"
 #include "composition/section_scale.h"
 #include "design/annotation_style.h"
+#include "design/confirmation.h"
 #include "entry/erase_choice.h"
 #include "entry/merge_call.h"
 #include "settings/keys.h"
@@ -228,6 +229,11 @@ void addLibraryOperations(std::vector<Operation>& all) {
     all.push_back({"store behind torn length", library({b, a, b}, 3), store, "A  ", true});
     all.push_back({"delete", library(few), deleteLabel, "A  "});
     all.push_back({"delete many", library(many), deleteLabel, "A  "});
+    all.push_back({"delete project's designs", library(few), [](const Path& folder) {
+                       deleteEntries(folder + Path(libraryFileName), libraryProject, std::nullopt,
+                                     systemFiles());
+                       return Answer::untold;
+                   }});
     all.push_back({"delete in damaged", library({b, a, b}, 100), deleteLabel, "A  "});
     Bytes supplied;
     for (int i = 0; i < 3; ++i) supplied += designBytes(sampleDesign("S").head());
@@ -238,6 +244,38 @@ void addLibraryOperations(std::vector<Operation>& all) {
     all.push_back({"first project list", [](const Path&) {}, saveProjectList});
     all.push_back({"project list", projectFile(0), saveProjectList});
     all.push_back({"damaged project list", projectFile(30), saveProjectList});
+}
+
+// ---- a design confirmed: library, project list, hand-over and both settings files
+
+Answer confirm(const Path& folder) {
+    setTemporaryFolder(folder);
+    FakeHost host;
+    host.library = folder;
+    ModuleValues values;
+    values.openingWidth = 1200;
+    values.sectionSize = {370, 300};
+    DesignModel model(values);
+    model.adoptHandOver(sampleDesign("A", 500));
+    LibrarySession library(host, systemFiles());
+    DialogSettings settings(systemFiles(), folder);
+    library.LoadProjects();
+    library.LoadLibrary(model);
+    CallResult result;
+    confirmDesign({"A", "D", {true, true, false, true}, false, 1, 2, 3}, model, library, settings,
+                  systemFiles(), result);
+    return Answer::untold;
+}
+
+Operation confirmation() {
+    static constexpr std::int32_t project = 0;
+    const auto prepare = [](const Path& folder) {
+        library({{project, "B"}, {otherProject, "A"}})(folder);
+        put(folder + Path(projectFileName), projectBytes({{{project, "DEFAULT"}, {1, "Dum"}}}));
+        put(folder + Path(settings::userFile), "[SETTINGS]\r\nSTYLE=Old\r\n");
+        put(folder + Path(settings::dialogFile), "[DLG_SET]\r\nnum_bub=A\r\n");
+    };
+    return {"design confirmed", prepare, confirm, "A  ", true, project, true};
 }
 
 // ---- hand-over
@@ -349,7 +387,11 @@ const std::vector<Operation>& operations() {
     static const std::vector<Operation> all = [] {
         std::vector<Operation> made;
         addCatalogueOperations(made);
+#if !defined(_WIN32)
+        addBrowserSession(made);
+#endif
         addLibraryOperations(made);
+        made.push_back(confirmation());
         addHandOverOperations(made);
         addSettingsOperations(made);
         return made;

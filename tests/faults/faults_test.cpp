@@ -5,18 +5,19 @@
 // LX_FAULTS=full tries pairs of failing calls and every place where a write can be cut as well;
 // tools/faults prints the table of it.
 #include <gtest/gtest.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <map>
 #include <set>
+#include <sstream>
 
 #include "composition/library.h"
-#include "tests/faults/operations_posix.h"
-#include "tests/faults/system_calls_posix.h"
+#include "settings/keys.h"
+#include "tests/faults/operations.h"
+#include "tests/faults/system_calls.h"
 #include "tests/support/bench.h"
 #include "tests/support/designs.h"
 
@@ -28,6 +29,21 @@ namespace fs = std::filesystem;
 bool tryingAll() {
     const char* wanted = std::getenv("LX_FAULTS");
     return wanted != nullptr && std::string_view(wanted) == "full";
+}
+
+// Where a process takes long to start a part of the kills is tried: in the short form one of so
+// many over all acts, else in each write at so many hundredths less.
+#if defined(_WIN32)
+constexpr int killStride = 8;
+constexpr std::size_t killCutStep = 10;
+#else
+constexpr int killStride = 1;
+constexpr std::size_t killCutStep = 1;
+#endif
+
+bool killing() {
+    static int asked = 0;
+    return tryingAll() || asked++ % killStride == 0;
 }
 
 // ---- the table
@@ -49,7 +65,6 @@ public:
         return all;
     }
     void TearDown() override {
-        if (!tryingAll()) return;
         std::printf("\n%-26s", "");
         for (const auto& [fault, heading] : columns) std::printf(" %9s", heading);
         std::printf(" %9s\n", "losses");
@@ -92,7 +107,8 @@ Text labelKey(std::int32_t project, const Text& label) {
 State stateOf(const Path& folder) {
     State state;
     for (const auto& entry : fs::directory_iterator(folder)) {
-        state.files[entry.path().filename()] = systemFiles().read(entry.path()).bytes;
+        const std::string name = entry.path().filename().string();
+        state.files[name] = systemFiles().read(folder + name).bytes;
     }
     const auto library = state.files.find(std::string(libraryFileName));
     if (library == state.files.end()) return state;
@@ -116,6 +132,33 @@ bool equal(const Bytes* a, const Bytes* b) {
     return (a == nullptr) == (b == nullptr) && (a == nullptr || *a == *b);
 }
 
+// A name that the file layer writes beside the file that is to be replaced.
+bool isWorkFile(const std::string& name) {
+    return name.find(".new") != std::string::npos ||
+           (name.starts_with("lx") && name.ends_with(".tmp"));
+}
+
+bool isSettings(const std::string& name) {
+    return name == settings::userFile || name == settings::dialogFile;
+}
+
+std::set<std::string> linesOf(const Bytes* file) {
+    std::set<std::string> lines;
+    std::istringstream text(file ? *file : Bytes());
+    for (std::string line; std::getline(text, line);) lines.insert(line);
+    return lines;
+}
+
+// Acts of several values only add lines.
+bool settingsBetween(const Bytes* before, const Bytes* here, const Bytes* after, bool done) {
+    const auto first = linesOf(before);
+    const auto now = linesOf(here);
+    const auto last = linesOf(after);
+    return std::includes(now.begin(), now.end(), first.begin(), first.end()) &&
+           std::includes(last.begin(), last.end(), now.begin(), now.end()) &&
+           (!done || now == last);
+}
+
 // ---- one operation and its trouble
 
 struct Outcome {
@@ -124,13 +167,44 @@ struct Outcome {
     Answer answer = Answer::untold;
 };
 
+void prepare(const Operation& operation, const Path& folder) {
+    fs::remove_all(folder);
+    fs::create_directories(folder);
+    operation.prepare(folder);
+}
+
+// In a process of its own, which may end in it. What was prepared in memory may be of no use to it.
+void act(const Operation& operation, const Path& folder, const Trouble& trouble) {
+    prepare(operation, folder);
+    begin(trouble);
+    operation.run(folder);
+    end();
+}
+
+constexpr std::string_view actArgument = "--act";
+
+std::vector<std::string> argumentsOf(const Operation& operation, const Path& folder,
+                                     const Trouble& trouble) {
+    // A separator before the closing quotation mark would take it into the argument.
+    return {std::string(actArgument),
+            operation.name,
+            folder.substr(0, folder.size() - 1),
+            std::to_string(static_cast<int>(trouble.fault)),
+            std::to_string(trouble.call),
+            std::to_string(trouble.cut)};
+}
+
+void actOn(char** arguments) {
+    const Path folder = arguments[1] + std::string(separator);
+    const Trouble trouble{static_cast<Fault>(std::atoi(arguments[2])), std::atoi(arguments[3]), 0,
+                          static_cast<std::size_t>(std::atoi(arguments[4]))};
+    for (const Operation& operation : operations()) {
+        if (operation.name == arguments[0]) act(operation, folder, trouble);
+    }
+}
+
 class Faults : public testing::TestWithParam<Operation> {
 protected:
-    void prepare() {
-        fs::remove_all(m_folder);
-        fs::create_directories(m_folder);
-        GetParam().prepare(m_folder);
-    }
     Outcome runHere(const Trouble& trouble);
     Outcome runInOwnProcess(const Trouble& trouble);
     void tryOnce(const Trouble& trouble);
@@ -140,7 +214,7 @@ protected:
     std::string libraryLossIn(const State& now, const Outcome& outcome) const;
 
     Bench m_bench;
-    Path m_folder = m_bench.folder() + "faults/";
+    Path m_folder = m_bench.folder() + "faults" + std::string(separator);
     State m_before;
     State m_after;
     Course m_undisturbed;
@@ -157,23 +231,15 @@ Outcome Faults::runHere(const Trouble& trouble) {
 }
 
 Outcome Faults::runInOwnProcess(const Trouble& trouble) {
-    std::fflush(nullptr);
-    const pid_t child = ::fork();
-    if (child == 0) {
-        begin(trouble);
-        GetParam().run(m_folder);
-        ::_exit(0);
-    }
-    int status = 0;
-    ::waitpid(child, &status, 0);
-    const bool killed = WIFEXITED(status) && WEXITSTATUS(status) == killedStatus;
-    EXPECT_TRUE(killed || (WIFEXITED(status) && WEXITSTATUS(status) == 0)) << "another end";
-    return {killed, true, Answer::untold};
+    const int status = inOwnProcess([&] { act(GetParam(), m_folder, trouble); },
+                                    argumentsOf(GetParam(), m_folder, trouble));
+    EXPECT_TRUE(status == 0 || status == killedStatus) << "another end: " << status;
+    return {status == killedStatus, true, Answer::untold};
 }
 
 // Empty when every stored design is there as before or as after.
 std::string Faults::libraryLossIn(const State& now, const Outcome& outcome) const {
-    const Text own = labelKey(libraryProject, GetParam().label);
+    const Text own = labelKey(GetParam().project, GetParam().label);
     std::set<Entry> all = m_before.distinct();
     all.merge(m_after.distinct());
     for (const Entry& entry : now.distinct()) {
@@ -206,7 +272,12 @@ std::string Faults::lossIn(const State& now, const Outcome& outcome) const {
         const Bytes* before = find(m_before, name);
         const Bytes* after = find(m_after, name);
         const Bytes* here = find(now, name);
-        if (outcome.ended && !before && !after && name.find(".new") != std::string::npos) continue;
+        if (outcome.ended && !before && !after && isWorkFile(name)) continue;
+        if (GetParam().stepwise && isSettings(name)) {
+            const bool done = outcome.answer == Answer::done;
+            if (!settingsBetween(before, here, after, done)) return name + " has other values";
+            continue;
+        }
         if (!equal(here, before) && !equal(here, after)) return name + " reads as neither";
         if (name.ends_with(".bak")) continue;
         const bool failed = !outcome.ended && outcome.answer == Answer::failed;
@@ -222,8 +293,8 @@ std::string Faults::lossIn(const State& now, const Outcome& outcome) const {
 }
 
 void Faults::tryOnce(const Trouble& trouble) {
-    prepare();
     const bool kills = trouble.fault == Fault::killed || trouble.fault == Fault::killedInWrite;
+    prepare(GetParam(), m_folder);
     const Outcome outcome = kills ? runInOwnProcess(trouble) : runHere(trouble);
     if (!outcome.struck) return;
     Row& row = Table::rows()[GetParam().name];
@@ -235,8 +306,7 @@ void Faults::tryOnce(const Trouble& trouble) {
         State repeated = stateOf(m_folder);
         // Names that a dying process left, and the backup of a tail that it left.
         std::erase_if(repeated.files, [this](const auto& file) {
-            return !m_after.files.contains(file.first) &&
-                   file.first.find(".new") != std::string::npos;
+            return !m_after.files.contains(file.first) && isWorkFile(file.first);
         });
         const std::string backup = std::string(libraryFileName) + ".bak";
         const Bytes* kept = find(repeated, backup);
@@ -266,7 +336,7 @@ void Faults::tryTwoDenied(int first) {
 }
 
 TEST_P(Faults, LoseNothing) {
-    prepare();
+    prepare(GetParam(), m_folder);
     m_before = stateOf(m_folder);
     begin({});
     GetParam().run(m_folder);
@@ -282,13 +352,16 @@ TEST_P(Faults, LoseNothing) {
         if (tryingAll()) tryTwoDenied(call);
     }
     // Between two changes it is all the same when the process ends.
-    for (const int call : m_undisturbed.changes) tryOnce({Fault::killed, call});
+    for (const int call : m_undisturbed.changes) {
+        if (killing()) tryOnce({Fault::killed, call});
+    }
     const std::size_t step = tryingAll() ? 1 : 60;
     for (const int call : m_undisturbed.writes) {
         for (std::size_t cut = step; cut < 100; cut += step) {
-            for (const Fault fault : {Fault::shortWrite, Fault::gone, Fault::killedInWrite}) {
+            for (const Fault fault : {Fault::shortWrite, Fault::gone}) {
                 tryOnce({fault, call, 0, cut});
             }
+            if (cut % killCutStep == 0 && killing()) tryOnce({Fault::killedInWrite, call, 0, cut});
         }
     }
 }
@@ -310,3 +383,13 @@ const auto* const table = testing::AddGlobalTestEnvironment(new Table);
 
 }  // namespace
 }  // namespace lx::faults
+
+int main(int argc, char** argv) {
+    using namespace lx::faults;
+    if (argc == 7 && argv[1] == actArgument) {
+        actOn(argv + 2);
+        return 0;
+    }
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}

@@ -10,6 +10,9 @@
 
 namespace lx::faults {
 
+inline constexpr std::int32_t libraryProject = 1;
+inline constexpr std::int32_t otherProject = 2;
+
 enum class Answer { done, failed, untold };
 
 struct Operation {
@@ -21,15 +24,17 @@ struct Operation {
     // Of a library: the stored designs that the act adds, replaces or deletes. Others must stay.
     Text label = {};
     bool stores = false;
+    std::int32_t project = libraryProject;
+    // Several settings are written one after another: of each file of them every line is there as
+    // before or as after.
+    bool stepwise = false;
 };
 
 inline void PrintTo(const Operation& operation, std::ostream* stream) {
     *stream << operation.name;
 }
 
-inline constexpr std::int32_t libraryProject = 1;
-inline constexpr std::int32_t otherProject = 2;
-
 const std::vector<Operation>& operations();
+void addBrowserSession(std::vector<Operation>& all);
 
 }  // namespace lx::faults

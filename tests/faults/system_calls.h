@@ -3,6 +3,9 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
+#include <optional>
+#include <string>
 #include <vector>
 
 namespace lx::faults {
@@ -36,5 +39,31 @@ inline constexpr int killedStatus = 77;
 
 void begin(const Trouble& trouble);
 Course end();
+
+// Does the act in a process of its own and answers its exit status, 0 when the act came to its end;
+// -1 for any other end. Where processes cannot be copied a new one of this program is started with
+// the arguments, which must make it do the same.
+int inOwnProcess(const std::function<void()>& act, const std::vector<std::string>& arguments);
+
+// ---- for the calls of each platform
+
+enum class Refusal { noSpace, denied, broken };
+
+// Counts the call; how it is to fail, none when it is to be made. changing: it changes files, and
+// ends the process before it when that is the trouble; writing: it needs room on the disk.
+enum class Call { reading, changing, writing };
+std::optional<Refusal> refusal(Call call);
+// The same for a write of that many bytes, of which a part may be stored all the same.
+struct WritePlan {
+    std::optional<Refusal> refusal;  // told when the part is stored
+    std::size_t part = 0;            // bytes to be stored
+    bool cut = false;
+};
+WritePlan planWrite(std::size_t size);
+// Told when the part of a cut write is stored; ends the process when that is the trouble.
+void cutWriteDone();
+
+// Without cleaning up, with killedStatus.
+[[noreturn]] void endProcess();
 
 }  // namespace lx::faults
