@@ -1,0 +1,131 @@
+// Records as no user makes them: texts of all bytes and of the longest lengths, numbers at the ends
+// of their ranges. The same for a seed on every machine.
+#pragma once
+
+#include <bit>
+#include <limits>
+#include <random>
+
+#include "catalogue/catalogue_file.h"
+#include "composition/records.h"
+#include "composition/stored_form.h"
+
+namespace lx {
+
+class RandomRecords {
+public:
+    explicit RandomRecords(unsigned seed) : m_random(seed) {}
+
+    // 0 to count - 1
+    int below(int count) { return static_cast<int>(m_random() % static_cast<unsigned>(count)); }
+    bool oneIn(int count) { return below(count) == 0; }
+
+    std::int32_t number() {
+        constexpr std::int32_t lowest = std::numeric_limits<std::int32_t>::min();
+        constexpr std::int32_t highest = std::numeric_limits<std::int32_t>::max();
+        constexpr std::int32_t odd[] = {lowest, lowest + 1, -1, 0, 1, 255, highest - 1, highest};
+        if (oneIn(2)) return odd[below(std::size(odd))];
+        return static_cast<std::int32_t>(static_cast<std::uint32_t>(m_random()));
+    }
+    double real() {
+        using Limits = std::numeric_limits<double>;
+        const double odd[] = {0.0,
+                              -0.0,
+                              Limits::max(),
+                              Limits::lowest(),
+                              Limits::denorm_min(),
+                              0.1,
+                              Limits::infinity()};
+        if (oneIn(2)) return odd[below(std::size(odd))];
+        const std::uint64_t high = m_random();
+        return std::bit_cast<double>(high << 32U | m_random());
+    }
+    // Up to that many bytes, none of them zero.
+    Text text(std::size_t longest) {
+        const std::size_t sizes[] = {0, 1, longest - 1, longest, m_random() % (longest + 1)};
+        Text made(sizes[below(std::size(sizes))], '\0');
+        for (char& c : made) c = static_cast<char>(1 + below(255));
+        return made;
+    }
+    char letter() { return static_cast<char>(below(256)); }
+
+    Catalogue catalogue() {
+        Catalogue head;
+        Catalogue* end = &head;
+        for (int left = below(8); left > 0; --left) {
+            *end = std::make_unique<CPreklItem>();
+            CPreklItem& record = **end;
+            end = &record.next;
+            record.group = number();
+            record.length = number();
+            setItem(record);
+            // An empty text is stored as none.
+            record.designation = text(catalogueTextLimit);
+            if (record.designation->empty()) record.designation.reset();
+        }
+        return head;
+    }
+    // Few names, so that catalogues meet each other. Types in order, as the module numbers them, or
+    // any numbers.
+    Catalogue colliding(bool anyNumbers) {
+        constexpr std::int32_t lowest = std::numeric_limits<std::int32_t>::min();
+        constexpr std::int32_t highest = std::numeric_limits<std::int32_t>::max();
+        Catalogue head;
+        Catalogue* end = &head;
+        std::int32_t types = 0;
+        for (int left = below(25); left > 0; --left) {
+            *end = std::make_unique<CPreklItem>();
+            CPreklItem& record = **end;
+            end = &record.next;
+            record.group = oneIn(3) ? -++types : below(6);
+            if (anyNumbers) record.group = oneIn(8) ? (oneIn(2) ? lowest : highest) : below(8) - 4;
+            record.length = below(4);
+            setItem(record);
+            if (!oneIn(5)) record.designation = Text(1, "aAbB"[below(4)]);
+        }
+        return head;
+    }
+
+    // A head with bends and layers of any kind but a head's.
+    RezChain design() {
+        RezChain made;
+        for (int left = 1 + below(5); left > 0; --left) {
+            auto record = std::make_unique<CRez>();
+            for (std::int32_t* field :
+                 {&record->typeIndex, &record->itemIndex, &record->width, &record->height,
+                  &record->length, &record->weight, &record->maxOpening, &record->offset,
+                  &record->level, &record->kind, &record->bearing}) {
+                *field = number();
+            }
+            record->letter = letter();
+            if (made.empty()) {
+                record->kind = kind::head;
+                record->setLabel(text(3));
+                for (int bends = below(4); bends > 0; --bends) {
+                    record->addBend(number(), number(), oneIn(2));
+                }
+            } else {
+                if (record->kind == kind::head) record->kind = kind::space;
+                if (!oneIn(4)) record->name = text(storedNameLimit);
+            }
+            made.append(std::move(record));
+        }
+        return made;
+    }
+
+private:
+    void setItem(CPreklItem& record) {
+        record.width = number();
+        record.height = number();
+        record.maxOpening = number();
+        record.weight = real();
+        record.qu = real();
+        record.compositionMark = letter();
+        record.description = text(catalogueTextLimit);
+        if (record.description->empty()) record.description.reset();
+    }
+
+    std::mt19937 m_random;
+};
+
+}  // namespace lx

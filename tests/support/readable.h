@@ -1,0 +1,117 @@
+// Records as text with every field that is stored, so that what was read can be compared with what
+// was written, and with the text beside a file.
+#pragma once
+
+#include <bit>
+#include <cmath>
+#include <cstdio>
+
+#include "catalogue/records.h"
+#include "composition/library.h"
+#include "composition/projects.h"
+
+namespace lx {
+
+// UTF-8 between quotes; quotes, backslashes and control characters as \xHH.
+inline std::string readable(std::string_view text) {
+    std::string result = "\"";
+    for (const char c : text) {
+        const auto byte = static_cast<unsigned char>(c);
+        if (byte >= ' ' && c != '"' && c != '\\' && byte != 0x7F) {
+            result += toUtf8(std::string_view(&c, 1));
+            continue;
+        }
+        char escaped[8];
+        std::snprintf(escaped, sizeof escaped, "\\x%02X", static_cast<unsigned>(byte));
+        result += escaped;
+    }
+    return result + "\"";
+}
+
+inline std::string readableOrNone(const std::optional<Text>& text) {
+    return text ? readable(*text) : "none";
+}
+
+// Numbers that are none by their bits.
+inline std::string readable(double number) {
+    char text[40];
+    if (std::isnan(number)) {
+        std::snprintf(text, sizeof text, "nan:%016llX",
+                      static_cast<unsigned long long>(std::bit_cast<std::uint64_t>(number)));
+    } else {
+        std::snprintf(text, sizeof text, "%.17g", number);
+    }
+    return text;
+}
+
+inline std::string readableFields(
+    std::initializer_list<std::pair<const char*, std::int32_t>> fields) {
+    std::string text;
+    for (const auto& [name, value] : fields) {
+        text += std::string(text.empty() ? "" : " ") + name + "=" + std::to_string(value);
+    }
+    return text;
+}
+
+// A line for each record.
+inline std::string readable(const CPreklItem* chain) {
+    std::string text;
+    for (const CPreklItem* record = chain; record; record = record->next.get()) {
+        text += readableFields({{"group", record->group},
+                                {"length", record->length},
+                                {"width", record->width},
+                                {"height", record->height},
+                                {"maxOpening", record->maxOpening}});
+        text += " weight=" + readable(record->weight) + " qu=" + readable(record->qu) +
+                " mark=" + readable(std::string_view(&record->compositionMark, 1)) + " " +
+                readableOrNone(record->designation) + " " + readableOrNone(record->description) +
+                "\n";
+    }
+    return text;
+}
+
+// A line for each record and each bend. A missing name is stored as an empty one.
+inline std::string readable(const CRez* head) {
+    std::string text;
+    for (const CRez* record = head; record; record = record->next) {
+        text += readableFields({{"kind", record->kind},
+                                {"type", record->typeIndex},
+                                {"item", record->itemIndex},
+                                {"width", record->width},
+                                {"height", record->height},
+                                {"length", record->length},
+                                {"weight", record->weight},
+                                {"maxOpening", record->maxOpening},
+                                {"offset", record->offset},
+                                {"level", record->level},
+                                {"bearing", record->bearing}});
+        text += " letter=" + readable(std::string_view(&record->letter, 1)) + " " +
+                readable(record->isHead() ? record->label() : Text(record->nameOrEmpty())) + "\n";
+        for (const CZalom* bend = record->bends.get(); bend; bend = bend->next.get()) {
+            text +=
+                "  bend " +
+                readableFields({{"run", bend->run}, {"step", bend->step}, {"flag", bend->flag}}) +
+                "\n";
+        }
+    }
+    return text;
+}
+
+inline std::string readable(const LibraryRead& library) {
+    std::string text = library.damaged ? "damaged\n" : "";
+    for (const LibraryEntry& entry : library.entries) {
+        text += "design " + readable(entry.label) + "\n" + readable(entry.design.head());
+    }
+    return text;
+}
+
+inline std::string readable(const ProjectList& list) {
+    std::string text = list.damaged ? "damaged\n" : "";
+    text += "selected=" + std::to_string(list.selected) + "\n";
+    for (const Project& project : list.projects) {
+        text += std::to_string(project.id) + " " + readable(project.name) + "\n";
+    }
+    return text;
+}
+
+}  // namespace lx
