@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/failing_files.h"
 #include "tests/support/memory_files.h"
 
 namespace lx {
@@ -64,32 +63,6 @@ TEST(ColumnSettings, TakeThePrecastWidthForOneThatIsTooWide) {
               "WIDTH2=1000\r\nORD3=3\r\nWIDTH3=68\r\nORD4=5\r\nWIDTH4=10\r\nORD5=4\r\n"
               "WIDTH5=1000\r\nLIST1=0\r\nLIST2=0\r\n");
     EXPECT_EQ(widths.steel[0], 55);
-}
-
-TEST(ColumnSettings, AreWrittenTogetherOrNotAtAll) {
-    const ColumnSettings state{
-        {8, 7, 6, 5, 4, 3, 2, 1, 0}, {0, 20, 30, 40, 50, 60, 70, 80, 90}, 2, 11};
-    const Bytes old = "[SETTINGS]\r\nSTYLE=x\r\n[TAB_PREFA]\r\nORD0=0\r\n";
-    bool written = false;
-    for (int failAt = 1; !written && failAt < 50; ++failAt) {
-        MemoryFiles files;
-        files.content[file] = old;
-        FailingFiles failing(files, failAt);
-        Profile profile(failing, file);
-        ColumnWidths widths;
-        written = saveColumnSettings(profile, precast, state, widths);
-        if (!written) {
-            EXPECT_EQ(files.content[file], old) << failAt;
-            continue;
-        }
-        const ColumnSettings read = loadColumnSettings(Profile(files, file), precast, widths);
-        EXPECT_EQ(read.order, state.order);
-        EXPECT_EQ(read.widths, Numbers({10, 20, 30, 40, 50, 60, 70, 80, 90}));
-        EXPECT_EQ(read.type, 2);
-        EXPECT_EQ(read.row, 11);
-        EXPECT_EQ(Profile(files, file).read("SETTINGS", "STYLE", ""), "x");
-    }
-    EXPECT_TRUE(written);
 }
 
 }  // namespace

@@ -35,24 +35,6 @@ TEST(Merge, ItemsAreUpdatedInTheirPlaceOrFollow) {
               "-1:A:4 1:a1:30 1:a2:3 -2:B:5 2:b1:10 2:b2:21 2:B1:11 -3:a:6 3:a1:100 3:a1:101");
 }
 
-TEST(Merge, AnUpdateTakesEverythingButNameAndGroup) {
-    Catalogue installed = catalogueOf({{-4, "T"}, {4, "i", 1}});
-    installed->next->description = "old";
-    installed->next->compositionMark = 'A';
-    Catalogue supplied = catalogueOf({{-1, "T"}, {1, "i", -250}});
-    CPreklItem& item = *supplied->next;
-    item.width = 70;
-    item.height = 238;
-    item.maxOpening = 2750;
-    item.weight = 52.5;
-    item.qu = 12.25;
-    item.compositionMark = 'Z';
-    const Catalogue result = mergedCatalogue(std::move(installed), copyCatalogue(supplied.get()));
-    item.group = 4;
-    item.designation = "i";
-    EXPECT_EQ(catalogueBytes(result->next.get()), catalogueBytes(supplied->next.get()));
-}
-
 TEST(Merge, OnlyTheFirstOfEqualNamesIsMet) {
     EXPECT_EQ(merged({{-1, "A"}, {1, "i", 1}, {1, "i", 2}, {-2, "A"}, {2, "i", 3}},
                      {{-1, "A"}, {1, "i", 7}, {-2, "A"}, {2, "j", 8}}),

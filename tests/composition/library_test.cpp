@@ -3,12 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <limits>
-#include <random>
 
 #include "composition/layout.h"
 #include "composition/section_scale.h"
 #include "tests/support/designs.h"
-#include "tests/support/failing_files.h"
 #include "tests/support/memory_files.h"
 
 namespace lx {
@@ -199,63 +197,8 @@ TEST(Library, ImpossibleLengthsEndTheReading) {
     Bytes torn = files.content[path];
     torn.pop_back();
     files.content[path] = torn;
-    FailingFiles failing(files, 2);
-    EXPECT_FALSE(deleteEntries(path, 1, "A  ", failing));
-    EXPECT_EQ(files.content[path], torn);
     EXPECT_TRUE(deleteEntries(path, 1, "A  ", files));
     EXPECT_EQ(listed(files.content[path], 1), "B  310 C  320 ");
-}
-
-// Whatever fails at storing, and whenever the process dies, every design that was there is listed
-// afterwards, and storing once more completes it.
-TEST(Library, AFailedStoreLosesNothing) {
-    for (const bool tornBefore : {false, true}) {
-        for (const Fault fault : {Fault::refused, Fault::died}) {
-            for (int failAt = 1;; ++failAt) {
-                MemoryFiles files;
-                store(files, 1, "A", 300);
-                store(files, 1, "B", 310);
-                if (tornBefore) {
-                    store(files, 1, "T", 311);
-                    files.content[path].resize(files.content[path].size() - 5);
-                }
-                const Bytes before = files.content[path];
-                const RezChain design = sampleDesign("A", 300);
-                FailingFiles failing(files, failAt, fault);
-                const bool stored = appendDesign(path, 1, *design.head(), "A  ", failing);
-                if (failing.operations() < failAt) break;
-
-                const std::string now = listed(files.content[path], 1);
-                EXPECT_NE(now.find("A  300"), std::string::npos) << failAt;
-                EXPECT_NE(now.find("B  310"), std::string::npos) << failAt;
-                const bool backedUp = files.content[path + ".bak"] == before;
-                EXPECT_TRUE(!tornBefore || backedUp || files.content[path] == before);
-                EXPECT_TRUE(stored || fault == Fault::died || files.content[path] == before);
-                EXPECT_TRUE(appendDesign(path, 1, *design.head(), "A  ", files));
-                EXPECT_EQ(listed(files.content[path], 1),
-                          tornBefore ? "B  310 T  311 A  300 " : "B  310 A  300 ")
-                    << failAt;
-            }
-        }
-    }
-}
-
-TEST(Library, NoiseIsReadWithoutHarm) {
-    std::mt19937 random(5);
-    MemoryFiles files;
-    for (int i = 0; i < 5; ++i) store(files, i % 2, "A", 300 + i);
-    const RezChain design = sampleDesign("Z", 999);
-    for (int round = 0; round < 300; ++round) {
-        MemoryFiles noisy;
-        noisy.content[path] = files.content[path];
-        Bytes& bytes = noisy.content[path];
-        for (int i = 0; i < 8; ++i) bytes[random() % bytes.size()] = static_cast<char>(random());
-        findStoredSame(path, 0, "A  ", *design.head(), {}, noisy);
-        ASSERT_TRUE(appendDesign(path, 1, *design.head(), "A  ", noisy));
-        const LibraryRead read = loadLibrary(path, 1, noisy);
-        ASSERT_FALSE(read.entries.empty());
-        EXPECT_EQ(designBytes(read.entries.back().design.head()), designBytes(design.head()));
-    }
 }
 
 }  // namespace

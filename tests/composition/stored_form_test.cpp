@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <limits>
-#include <random>
 
 #include "composition/layout.h"
 #include "tests/support/designs.h"
@@ -115,23 +114,6 @@ TEST(StoredForm, EndlessBendsEndWithTheBytes) {
     }
     EXPECT_EQ(bends, 200'000);
     EXPECT_EQ(levelAbove(copy.bends.get(), 0, 100), high);
-}
-
-TEST(StoredForm, NoiseIsReadWithoutHarm) {
-    std::mt19937 random(11);
-    const Bytes start = designBytes(sampleDesign().head());
-    for (int round = 0; round < 300; ++round) {
-        Bytes noise = start;
-        noise.resize(start.size() + random() % 600);
-        for (std::size_t i = 4 + random() % noise.size(); i < noise.size(); ++i) {
-            noise[i] = static_cast<char>(random() % 2 == 0 ? 0 : random());
-        }
-        DesignRead read = readBytes(noise);
-        if (read.design.empty()) continue;
-        layOut(*read.design.head());
-        const Bytes written = designBytes(read.design.head());
-        EXPECT_EQ(designBytes(readBytes(written).design.head()), written);
-    }
 }
 
 }  // namespace

@@ -8,7 +8,6 @@
 #include "entry/merge_call.h"
 #include "tests/entry/fake_modules.h"
 #include "tests/support/catalogues.h"
-#include "tests/support/failing_files.h"
 #include "tests/support/memory_files.h"
 
 namespace lx {
@@ -168,12 +167,6 @@ TEST_F(MergeCall, FilesThatCannotBeReadOrWrittenStayAndEndIt) {
 TEST_F(MergeCall, ADamagedCatalogueIsKeptAside) {
     const Bytes damaged = old + "cut";
     files.content[precast] = damaged;
-    for (int failAt = 3; failAt <= 4; ++failAt) {
-        FailingFiles failing(files, failAt);
-        EXPECT_EQ(mergeCall(failing, host, {"new/LXDATA6.DAT", "", LX_MERGE_CATALOGUE}),
-                  LX_MERGE_NO_TARGET);
-        EXPECT_EQ(files.content[precast], damaged);
-    }
     EXPECT_EQ(call("new/LXDATA6.DAT", "", LX_MERGE_CATALOGUE), LX_MERGE_DONE);
     EXPECT_EQ(files.content[precast + ".bak"], damaged);
     EXPECT_EQ(files.content[precast], updated);
