@@ -56,8 +56,8 @@ Bytes madePrecast() {
 }
 
 Bytes madeSteel() {
-    Catalogue items =
-        catalogueOf({{-1, "IPE", 1}, {1, "IPE 100"}, {-2, "L", 2}, {2, "L 80/60"}, {-3, "UČ", 3}});
+    Catalogue items = catalogueOf(
+        {{-1, "IPE", 1}, {1, "IPE 100"}, {-2, "L", 2}, {2, "L 80/60", 2}, {-3, "UČ", 3}});
     items->next->length = 3;
     items->next->weight = 8.1;
     return catalogueBytes(items.get());
