@@ -115,14 +115,14 @@ TEST_F(DesignSession, TheLockIsGivenBackByItsState) {
         host.lockReleases.clear();
         host.lockAnswer[HostResource::library] = answer;
         { HostAccessLock lock(host, HostResource::library); }
-        return host.lockReleases.empty() ? 0 : host.lockReleases.at(0).code;
+        return host.lockReleases.empty() ? 0 : host.lockReleases.at(0).second;
     };
     EXPECT_EQ(released(1), 4);
     EXPECT_EQ(released(2), 2);
     EXPECT_EQ(released(-1), 2);
     host.lockAnswer[HostResource::library] = 1;
     { HostAccessLock even(host, HostResource::library, 8); }
-    EXPECT_EQ(host.lockReleases.back().code, 2);
+    EXPECT_EQ(host.lockReleases.back().second, 2);
     host.hasServices = false;
     EXPECT_EQ(released(1), 0);
     EXPECT_FALSE(HostAccessLock(host, HostResource::library).isGranted());

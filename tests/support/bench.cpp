@@ -9,42 +9,6 @@ namespace lx {
 
 namespace fs = std::filesystem;
 
-std::optional<Path> FakeHost::folderWithin(HostFolder id, int) {
-    if (!hasServices) return std::nullopt;
-    return id == HostFolder::library ? library : catalogue;
-}
-
-int FakeHost::requestLock(HostResource resource, int mode) {
-    lockRequests.push_back({resource, mode});
-    return lockAnswer[resource];
-}
-
-void FakeHost::releaseLock(HostResource resource, int code) {
-    lockReleases.push_back({resource, code});
-}
-
-Text FakeHost::hostTitle() {
-    return hasServices ? titleText : "ERROR";
-}
-
-Text FakeHost::variable(const char* name) {
-    const auto found = variables.find(name);
-    return hasServices && found != variables.end() ? found->second : Text();
-}
-
-int FakeHost::unitsPerMetre() {
-    return hasServices ? units : 0;
-}
-
-std::vector<Text> FakeHost::textStyles() {
-    return hasServices ? styles : std::vector<Text>();
-}
-
-int FakeHost::showHelp(int topic) {
-    helpTopics.push_back(topic);
-    return helpAnswer;
-}
-
 class Bench::OwnTemporaryFolder {
 public:
     explicit OwnTemporaryFolder(const Path& own) : m_before(systemFiles().temporaryFolder()) {
@@ -91,22 +55,6 @@ Bench::~Bench() {
     m_temporary.reset();
     std::error_code ignored;
     fs::remove_all(m_folder, ignored);
-}
-
-Path Bench::dataFolder() const {
-    return m_folder + "DAT" + std::string(separator);
-}
-
-Path Bench::libraryFolder() const {
-    return m_folder + "library" + std::string(separator);
-}
-
-Path Bench::catalogueFolder() const {
-    return m_folder + "catalogue" + std::string(separator);
-}
-
-Path Bench::temporaryFolder() const {
-    return m_folder + "temp" + std::string(separator);
 }
 
 void Bench::write(const Path& path, std::string_view bytes) {

@@ -2,11 +2,13 @@
 // folder of its own. The same source runs on the headless platform and on real windows.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "host/driver/driver.h"
@@ -23,19 +25,18 @@ using host::RowLook;
 using host::ScreenPoint;
 using host::ScreenSize;
 
+// With the system's own separators.
+inline constexpr std::string_view separator =
+#if defined(_WIN32)
+    "\\";
+#else
+    "/";
+#endif
+
 // A host of plain members: tests set what it answers and read what it was asked.
 class FakeHost : public Host {
 public:
-    struct LockRequest {
-        HostResource resource;
-        int mode;
-        bool operator==(const LockRequest&) const = default;
-    };
-    struct LockRelease {
-        HostResource resource;
-        int code;
-        bool operator==(const LockRelease&) const = default;
-    };
+    using Lock = std::pair<HostResource, int>;  // with the mode, or the code of a release
 
     // ---- answers
     bool hasServices = true;        // false: no service table, so nothing below but data is told
@@ -48,23 +49,35 @@ public:
     std::map<std::string, Text> variables;
     int units = 1000;
     std::vector<Text> styles;
-    int helpAnswer = 1;
+    std::function<void()> beforeLock = [] {};  // what happens until it is granted
 
     // ---- what it was asked, in order
-    std::vector<LockRequest> lockRequests;
-    std::vector<LockRelease> lockReleases;
+    std::vector<Lock> lockRequests;
+    std::vector<Lock> lockReleases;
     std::vector<int> helpTopics;
 
-    std::optional<Path> folderWithin(HostFolder id, int bufferSize) override;
+    std::optional<Path> folderWithin(HostFolder id, int) override {
+        if (!hasServices) return std::nullopt;
+        return id == HostFolder::library ? library : catalogue;
+    }
     const Path& dataFolder() const override { return data; }
     bool present() override { return hasServices; }
-    int requestLock(HostResource resource, int mode) override;
-    void releaseLock(HostResource resource, int code) override;
-    Text hostTitle() override;
-    Text variable(const char* name) override;
-    int unitsPerMetre() override;
-    std::vector<Text> textStyles() override;
-    int showHelp(int topic) override;
+    int requestLock(HostResource resource, int mode) override {
+        beforeLock();
+        lockRequests.emplace_back(resource, mode);
+        return lockAnswer[resource];
+    }
+    void releaseLock(HostResource resource, int code) override {
+        lockReleases.emplace_back(resource, code);
+    }
+    Text hostTitle() override { return hasServices ? titleText : "ERROR"; }
+    Text variable(const char* name) override { return hasServices ? variables[name] : Text(); }
+    int unitsPerMetre() override { return hasServices ? units : 0; }
+    std::vector<Text> textStyles() override { return hasServices ? styles : std::vector<Text>(); }
+    int showHelp(int topic) override {
+        helpTopics.push_back(topic);
+        return 1;
+    }
 };
 
 // Makes its folder, fresh and empty, with the subfolders below; makes temporary files of this
@@ -86,10 +99,10 @@ public:
 
     // Each ends in a separator.
     const Path& folder() const { return m_folder; }
-    Path dataFolder() const;
-    Path libraryFolder() const;
-    Path catalogueFolder() const;
-    Path temporaryFolder() const;
+    Path dataFolder() const { return subfolder("DAT"); }
+    Path libraryFolder() const { return subfolder("library"); }
+    Path catalogueFolder() const { return subfolder("catalogue"); }
+    Path temporaryFolder() const { return subfolder("temp"); }
 
     // Whole files; write creates or replaces. read gives none when there is no such file.
     void write(const Path& path, std::string_view bytes);
@@ -97,6 +110,7 @@ public:
 
 private:
     class OwnTemporaryFolder;
+    Path subfolder(const char* name) const { return m_folder + name + std::string(separator); }
 
     Path m_folder;
     std::unique_ptr<OwnTemporaryFolder> m_temporary;
@@ -106,6 +120,14 @@ private:
     std::unique_ptr<Session> m_user;
 };
 
+// Types over the whole text of a field.
+inline void retype(Driver& d, std::string_view field, std::string_view text) {
+    d.focus(field);
+    d.key("Ctrl+A");
+    d.key("Delete");
+    d.type(text);
+}
+
 // Of this platform.
 std::unique_ptr<Platform> makeTestPlatform();
 std::unique_ptr<Driver> makeTestDriver(Platform& platform);
@@ -113,12 +135,5 @@ std::unique_ptr<Driver> makeTestDriver(Platform& platform);
 void setTemporaryFolder(const std::optional<Path>& folder);
 // A number that no other process has now.
 unsigned long processNumber();
-// With the system's own separators.
-inline constexpr std::string_view separator =
-#if defined(_WIN32)
-    "\\";
-#else
-    "/";
-#endif
 
 }  // namespace lx

@@ -51,6 +51,8 @@ struct CatalogueLine {
     std::int32_t group;
     std::string name;
     std::int32_t length = 0;
+    std::int32_t width = 0;
+    std::int32_t maxOpening = 0;
 };
 
 inline Catalogue catalogueOf(const std::vector<CatalogueLine>& lines) {
@@ -60,6 +62,8 @@ inline Catalogue catalogueOf(const std::vector<CatalogueLine>& lines) {
         *end = std::make_unique<CPreklItem>();
         (*end)->group = line.group;
         (*end)->length = line.length;
+        (*end)->width = line.width;
+        (*end)->maxOpening = line.maxOpening;
         if (!line.name.empty()) (*end)->designation = fromUtf8(line.name);
         end = &(*end)->next;
     }

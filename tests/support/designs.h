@@ -6,6 +6,7 @@
 
 #include "composition/records.h"
 #include "composition/stored_form.h"
+#include "platform/text.h"
 
 namespace lx {
 
@@ -48,6 +49,25 @@ inline RezChain sampleDesign(std::string_view label = "A1", std::int32_t wall = 
     space->kind = kind::space;
     space->offset = 70;
     return design;
+}
+
+// "run,step " of each bend, with "!" behind a sloping one.
+inline std::string bendsOf(const CRez& head) {
+    std::string text;
+    for (const CZalom* bend = head.bends.get(); bend; bend = bend->next.get()) {
+        text += std::to_string(bend->run) + "," + std::to_string(bend->step);
+        text += bend->flag ? "! " : " ";
+    }
+    return text;
+}
+
+// "name width;" of each layer, in UTF-8.
+inline std::string namesOf(const RezChain& design) {
+    std::string names;
+    for (const CRez* one = design.empty() ? nullptr : design.head()->next; one; one = one->next) {
+        names += toUtf8(one->nameOrEmpty()) + " " + std::to_string(one->width) + ";";
+    }
+    return names;
 }
 
 // The stored form holds every field, so equal bytes are equal designs.

