@@ -34,8 +34,6 @@ TEST(CatalogueEdit, AppendsTypesUnderTheNextNumber) {
     appendItem(chain, *chain, texts);
     appendType(chain, "B", steel, 3);
     EXPECT_EQ(shown(chain), "-1:A 1:a -2:B:3");
-    ASSERT_EQ(typeRecords(chain.get()).size(), 2U);
-    EXPECT_EQ(typeRecords(chain.get())[1]->designation, "B");
 }
 
 TEST(CatalogueEdit, RefusesNamesThatAreTaken) {
@@ -56,16 +54,12 @@ TEST(CatalogueEdit, DeletesATypeAndClosesUpTheOthers) {
     ASSERT_TRUE(deleteType(chain, 1));
     EXPECT_EQ(shown(chain), "-1:A 1:a 2:c -2:C 1:aa 2:cc");
     ASSERT_TRUE(deleteType(chain, 1));
-    EXPECT_EQ(shown(chain), "-1:A 1:a 1:aa");
-    EXPECT_FALSE(deleteType(chain, 0));
-    EXPECT_FALSE(deleteType(chain, 1));
+    for (const int none : {0, 1, -1}) EXPECT_FALSE(deleteType(chain, none)) << none;
     EXPECT_EQ(shown(chain), "-1:A 1:a 1:aa");
 
     chain = threeTypes();
     ASSERT_TRUE(deleteType(chain, 0));
     EXPECT_EQ(shown(chain), "-1:A -2:B 2:b 3:c -3:C 3:cc 2:bb");
-    EXPECT_FALSE(deleteType(chain, 3));
-    EXPECT_FALSE(deleteType(chain, -1));
 
     // An item is closed up also where it stands before its type.
     chain = catalogueOf({{-1, "A"}, {3, "c"}, {-2, "B"}, {-3, "C"}});
@@ -151,13 +145,9 @@ TEST(CatalogueEdit, ReadsLeadingNumbersAndKeepsAnEmptyMarkAndDescription) {
 
 TEST(CatalogueEdit, UnlinksAnItemAnywhere) {
     Catalogue chain = catalogueOf({{1, "head"}, {-1, "A"}, {1, "a"}});
-    const CPreklItem stranger;
-    EXPECT_EQ(unlinkItem(chain, stranger), nullptr);
-    const std::unique_ptr<CPreklItem> last = unlinkItem(chain, *chain->next->next);
-    EXPECT_EQ(last->designation, "a");
-    EXPECT_EQ(shown(chain), "1:head -1:A");
-    const std::unique_ptr<CPreklItem> head = unlinkItem(chain, *chain);
-    EXPECT_EQ(head->next, nullptr);
+    EXPECT_EQ(unlinkItem(chain, CPreklItem()), nullptr);
+    EXPECT_EQ(unlinkItem(chain, *chain->next->next)->designation, "a");
+    EXPECT_EQ(unlinkItem(chain, *chain)->next, nullptr);
     EXPECT_EQ(shown(chain), "-1:A");
     EXPECT_TRUE(unlinkItem(chain, *chain));
     EXPECT_EQ(chain, nullptr);

@@ -23,12 +23,6 @@ struct ItemEditor : testing::Test {
         EXPECT_EQ(bench.user().failure(), "");
         return confirmed;
     }
-    static void retype(Driver& d, const char* field, std::string_view text) {
-        d.focus(field);
-        d.key("Ctrl+A");
-        d.key("Delete");
-        d.type(text);
-    }
     static std::string focusedNumber(Driver& d) {
         return d.focusedControl().substr(0, d.focusedControl().find(' '));
     }
@@ -59,16 +53,16 @@ struct ItemEditor : testing::Test {
 TEST_F(ItemEditor, OpensWithItsTextsAndKeepsThemOnCancel) {
     precast.texts.designation = "RZP 1/10"_cz;
     precast.texts.mark = "A"_cz;
-    for (const char* button : {"OK", "Zrušit"}) {
+    for (const bool ok : {true, false}) {
         EXPECT_EQ(run(precast, title,
-                      [button](Driver& d) {
+                      [ok](Driver& d) {
                           EXPECT_EQ(d.editSelection("Označení"), "0-8");
                           expectTabOrder(d, {std::begin(precastFields), std::end(precastFields)});
-                          if (button != std::string_view("OK")) retype(d, "Označení", "P1");
+                          if (!ok) retype(d, "Označení", "P1");
                           d.press("Nápověda");
-                          d.press(button);
+                          d.press(ok ? "OK" : "Zrušit");
                       }),
-                  button == std::string_view("OK"));
+                  ok);
         EXPECT_EQ(joined(precast.texts), "RZP 1/10|0|0|0||0.0|0.000||A|");
     }
     EXPECT_EQ(bench.host().helpTopics, (std::vector<int>{100, 100}));
@@ -91,24 +85,33 @@ TEST_F(ItemEditor, SteelHasNoLengthAndNoOpeningAndKeepsTheirValues) {
 }
 
 TEST_F(ItemEditor, EnterChecksEachFieldAndGoesOnToOk) {
-    bench.user().inDialog(title, [](Driver& d) {
-        for (const char* text : {"Žď 5-", "1500", "-5", "7.6", "", "12.25", "0.0005", "vně", "B"}) {
-            if (*text != '\0') d.type(text);
+    ASSERT_TRUE(run(precast, title, [](Driver& d) {
+        for (const char* text :
+             {"Žď 5-", "1500", "-5", "7.6", "8", "12.25", "0.0005", "vně", "B"}) {
+            d.type(text);
             d.key("Enter");
         }
-        // From the mark to OK.
         EXPECT_EQ(focusedNumber(d), "#1");
-        EXPECT_EQ(d.text(maxOpening), "0");
         d.key("Enter");
-    });
-    bench.user().then([](Driver& d) {
-        EXPECT_EQ(d.messageBox().text, "");
-        EXPECT_EQ(d.messageBox().caption, "Chybně zadané číslo");
-        d.answer("OK");
-    });
-    ASSERT_TRUE(precast.DoModal());
-    EXPECT_EQ(bench.user().failure(), "");
-    EXPECT_EQ(joined(precast.texts), "Žď 5-|1500|-5|8|0|12.3|0.001|vně|B|");
+    }));
+    EXPECT_EQ(joined(precast.texts), "Žď 5-|1500|-5|8|8|12.3|0.001|vně|B|");
+}
+
+TEST_F(ItemEditor, WhatIsNoNumberIsReportedAndBecomesZero) {
+    for (const std::string wrong : {"12,5", "", "5-", "1.2.3", "+1", " 1", "1e3"}) {
+        bench.user().inDialog(title, [=](Driver& d) {
+            retype(d, "Hmotnost [kg]", wrong);
+            d.key("Enter");
+            EXPECT_EQ(d.text("Hmotnost [kg]"), "0.0") << wrong;
+        });
+        bench.user().then([=](Driver& d) {
+            const host::MessageBoxLook box = d.messageBox();
+            EXPECT_EQ(box.text + "|" + box.caption + "|" + box.icon,
+                      wrong + "|Chybně zadané číslo|stop");
+            d.answer("OK");
+        });
+    }
+    run(precast, title, [](Driver& d) { d.key("Esc"); });
 }
 
 TEST_F(ItemEditor, TypingStopsAtEachFieldsLimit) {
@@ -118,6 +121,13 @@ TEST_F(ItemEditor, TypingStopsAtEachFieldsLimit) {
             retype(d, precastFields[i], std::string(limits[i] + 1, '1'));
             EXPECT_EQ(d.text(precastFields[i]).size(), limits[i]) << precastFields[i];
         }
+        // In a full field Delete is a character too many, Backspace is not.
+        d.key("Home");
+        d.key("Delete");
+        EXPECT_EQ(d.text(precastFields[8]), "1");
+        d.key("End");
+        d.key("Backspace");
+        EXPECT_EQ(d.text(precastFields[8]), "");
         d.key("Esc");
     });
 }
@@ -125,11 +135,9 @@ TEST_F(ItemEditor, TypingStopsAtEachFieldsLimit) {
 // Three of six shapes, of which the last click counts, and none is needed.
 TEST_F(ItemEditor, ANewSteelTypeHasANameAndAShape) {
     CTypPrurez type{bench.platform(), bench.host(), {}};
-    const auto asked = [&](std::function<void(Driver&)> steps) {
-        return run(type, "Přidání typu průřezu", std::move(steps));
-    };
     const auto shape = [](int number) { return "#" + std::to_string(1751 + number); };
-    EXPECT_TRUE(asked([shape](Driver& d) {
+    const char* const caption = "Přidání typu průřezu";
+    EXPECT_TRUE(run(type, caption, [shape](Driver& d) {
         for (int n = 1; n <= 14; ++n) {
             EXPECT_EQ(d.visible(shape(n)), n <= 6) << n;
             EXPECT_EQ(d.visible(shape(n)) && d.enabled(shape(n)), n <= 3) << n;
@@ -140,7 +148,7 @@ TEST_F(ItemEditor, ANewSteelTypeHasANameAndAShape) {
     }));
     EXPECT_EQ(type.name, std::string(50, 'x'));
     EXPECT_EQ(type.shape, 0);
-    EXPECT_TRUE(asked([shape](Driver& d) {
+    EXPECT_TRUE(run(type, caption, [shape](Driver& d) {
         EXPECT_EQ(d.editSelection("Název:"), "0-50");
         d.key("Enter");  // to the shapes
         EXPECT_NE(d.focusedControl().find("1752"), std::string::npos);
@@ -148,7 +156,7 @@ TEST_F(ItemEditor, ANewSteelTypeHasANameAndAShape) {
         d.press("I");
         d.press("OK");
     }));
-    EXPECT_FALSE(asked([](Driver& d) {
+    EXPECT_FALSE(run(type, caption, [](Driver& d) {
         d.type("jiné");
         d.press("Zrušit");
     }));

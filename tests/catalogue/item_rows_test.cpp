@@ -67,12 +67,11 @@ TEST(ItemRows, ListTheItemsOfOneType) {
     rows.refresh(chain.get(), 1);
     EXPECT_EQ(listed(rows), "b,a");
     EXPECT_EQ(rows.rowOf(*chain), -1);
-    EXPECT_EQ(rows.record(2), nullptr);
-    EXPECT_EQ(rows.record(-1), nullptr);
     const CPreklItem* before = rows.record(0);
     rows.refresh(chain.get(), 2);
     EXPECT_EQ(listed(rows), "other,other");
     EXPECT_EQ(rows.rowOf(*before), -1) << "though it still carries a number that is in use";
+    for (const int row : {-1, 2}) EXPECT_EQ(rows.record(row), nullptr);
     chain->next->group = 0;  // from a damaged file; no type is selected
     for (const int none : {0, -1, 3}) {
         rows.refresh(chain.get(), none);
@@ -110,13 +109,10 @@ TEST(ItemRows, SortByTheTextThatIsShown) {
     const Catalogue chain = chainOf({"none", "ten", "nine", "minus"});
     ItemRows rows(steel);
     rows.refresh(chain.get(), 1);
-    const auto item = [&rows](std::string_view name) -> CPreklItem& {
-        return *rows.record(rowNamed(rows, name));
-    };
-    item("ten").qu = 10.04;
-    item("nine").qu = 9.5;
-    item("minus").width = -3;
-    item("ten").width = 20;
+    rows.record(1)->qu = 10.04;
+    rows.record(1)->width = 20;
+    rows.record(2)->qu = 9.5;
+    rows.record(3)->width = -3;
     rows.onHeadingClick(4);
     EXPECT_EQ(listed(rows), "nine,ten,none,minus");  // "nezadáno" comes after numbers
     rows.onHeadingClick(1);
