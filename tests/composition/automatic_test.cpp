@@ -160,12 +160,11 @@ TEST_F(Automatic, ARuleMakesTheLayersAndNothingIsFilledIn) {
     EXPECT_EQ(compose(chosen), design.head());
     EXPECT_EQ(shown(), "P:115@0 IZOLACE:80@115 P:115@195 ");
     EXPECT_EQ(design.last()->level, 50);
-    ruleFor("P", "");
-    EXPECT_EQ(compose(chosen), design.head());
-    EXPECT_EQ(shown(), "");
-    ruleFor("P", std::string(25, 'X'));
-    compose(chosen);
-    EXPECT_EQ(layerCount(*design.head()), 25);
+    for (const int layers : {0, 25}) {
+        ruleFor("P", std::string(static_cast<std::size_t>(layers), 'X'));
+        EXPECT_EQ(compose(chosen), design.head());
+        EXPECT_EQ(layerCount(*design.head()), layers);
+    }
 }
 
 TEST_F(Automatic, XFollowsTheCatalogueAndTheOtherLettersTheList) {

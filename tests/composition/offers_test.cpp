@@ -5,25 +5,31 @@
 #include <limits>
 #include <string>
 
+#include "tests/support/catalogues.h"
 #include "tests/support/designs.h"
 
 namespace lx {
 namespace {
 
-class Builder {
-public:
-    CPreklItem* add(std::int32_t group, std::int32_t maxOpening, std::int32_t length = 1000) {
-        Catalogue* end = &head;
-        while (*end) end = &(*end)->next;
-        *end = std::make_unique<CPreklItem>();
-        (*end)->group = group;
-        (*end)->maxOpening = maxOpening;
-        (*end)->length = length;
-        (*end)->designation = "max " + std::to_string(maxOpening);
-        return end->get();
-    }
-    Catalogue head;
+// A catalogue of {group, maximum opening, length}; items are called after their opening.
+struct Item {
+    std::int32_t group, maxOpening;
+    std::int32_t length = 1000;
 };
+Catalogue itemsOf(const std::vector<Item>& items) {
+    std::vector<CatalogueLine> lines;
+    for (const Item& item : items) {
+        lines.push_back({item.group, "max " + std::to_string(item.maxOpening), item.length, 0,
+                         item.maxOpening});
+    }
+    return catalogueOf(lines);
+}
+
+CPreklItem* at(const Catalogue& chain, int place) {
+    CPreklItem* item = chain.get();
+    while (place-- > 0) item = item->next.get();
+    return item;
+}
 
 // "itemIndex:maxOpening " of each record.
 std::string shown(const RezChain& offer) {
@@ -35,14 +41,16 @@ std::string shown(const RezChain& offer) {
 }
 
 TEST(PrecastOffer, HoldsWhatSpansTheOpeningWithoutBeingOversized) {
-    Builder catalogue;
-    catalogue.add(-1, 0);
-    catalogue.add(-2, 0);
-    for (const int maxOpening : {1200, 1250, 1229, 1180}) catalogue.add(1, maxOpening);
-    catalogue.add(2, 1300);
-    catalogue.add(1, 1230);
-    CPreklItem* follows = catalogue.add(1, 1500, -250);
-    const CPreklItem* head = catalogue.head.get();
+    const Catalogue catalogue = itemsOf({{-1, 0},
+                                         {-2, 0},
+                                         {1, 1200},
+                                         {1, 1250},
+                                         {1, 1229},
+                                         {1, 1180},
+                                         {2, 1300},
+                                         {1, 1230},
+                                         {1, 1500, -250}});
+    const CPreklItem* head = catalogue.get();
     const RezChain offer = buildPrecastOffer(head, 0, 1200.0, 1201);
     EXPECT_EQ(shown(offer), "0:1200 2:1229 5:1500 ");
     EXPECT_EQ(offer.head()->bearing, 0);
@@ -52,22 +60,22 @@ TEST(PrecastOffer, HoldsWhatSpansTheOpeningWithoutBeingOversized) {
     EXPECT_EQ(shown(buildPrecastOffer(head, 1, 1200.0, 1200)), "0:1300 ");
 
     // The best fit counts all that are offered, also those that would stay anyway.
+    CPreklItem* follows = at(catalogue, 8);
     follows->maxOpening = 1190;
     EXPECT_EQ(shown(buildPrecastOffer(head, 0, 1185.0, 1185)), "0:1200 5:1190 ");
-    const CPreklItem* picked = head->next->next->next.get();
-    EXPECT_EQ(shown(buildPrecastOffer(head, 0, 1185.0, 1185, {follows, picked})),
+    EXPECT_EQ(shown(buildPrecastOffer(head, 0, 1185.0, 1185, {follows, at(catalogue, 3)})),
               "0:1200 1:1250 5:1190 ");
 }
 
 TEST(PrecastOffer, TheOpeningIsMetWithinAMillionthOfAMillimetre) {
-    Builder catalogue;
-    catalogue.add(1, 1200);
-    const CPreklItem* head = catalogue.head.get();
+    const Catalogue catalogue = itemsOf({{1, 1200}});
+    const CPreklItem* head = catalogue.get();
     EXPECT_EQ(shown(buildPrecastOffer(head, 0, 1200.0000005, 1200)), "0:1200 ");
     EXPECT_EQ(shown(buildPrecastOffer(head, 0, 1200.000002, 1200)), "");
     EXPECT_EQ(shown(buildPrecastOffer(head, 0, std::numeric_limits<double>::quiet_NaN(), 0)), "");
-    EXPECT_EQ(shown(buildPrecastOffer(head, -1, 1200.0, 1200)), "");
-    EXPECT_EQ(shown(buildPrecastOffer(head, std::numeric_limits<int>::max(), 1200.0, 1200)), "");
+    for (const int none : {-1, std::numeric_limits<int>::max()}) {
+        EXPECT_EQ(shown(buildPrecastOffer(head, none, 1200.0, 1200)), "");
+    }
     EXPECT_TRUE(buildPrecastOffer(nullptr, 0, 1200.0, 1200).empty());
 }
 
@@ -98,13 +106,9 @@ TEST(PrecastOffer, CatalogueFieldsBecomeThoseOfALayer) {
 }
 
 TEST(SteelOffer, TakesShapeAndLengthAndLeavesOutTheOversized) {
-    Builder catalogue;
-    catalogue.add(1, 2000)->designation.reset();
-    catalogue.add(-1, 0, 3);
-    catalogue.add(1, 3000);
-    catalogue.add(2, 10);
-    catalogue.add(1, 2020);
-    const CPreklItem* head = catalogue.head.get();
+    const Catalogue catalogue = itemsOf({{1, 2000}, {-1, 0, 3}, {1, 3000}, {2, 10}, {1, 2020}});
+    const CPreklItem* head = catalogue.get();
+    catalogue->designation.reset();
     const RezChain offer = buildSteelOffer(head, 0, 1500, 0);
     EXPECT_EQ(shown(offer), "0:2000 2:2020 ");
     EXPECT_EQ(offer.head()->kind, 0);
@@ -113,31 +117,28 @@ TEST(SteelOffer, TakesShapeAndLengthAndLeavesOutTheOversized) {
     EXPECT_EQ(offer.last()->length, 1800);
     EXPECT_EQ(offer.last()->bearing, 0);
     EXPECT_EQ(buildSteelOffer(head, 0, 1500, 60).last()->length, 1620);
-    catalogue.head->next->length = kind::head;
+    catalogue->next->length = kind::head;
     EXPECT_EQ(buildSteelOffer(head, 0, 1500, 0).last()->kind, 0);
 }
 
 TEST(PrecastOffer, PickedItemsJoinUnlessTheyAreOfferedAlready) {
-    Builder catalogue;
-    catalogue.add(-1, 0);
-    CPreklItem* plain = catalogue.add(1, 1200);
-    CPreklItem* oversized = catalogue.add(1, 3000);
-    CPreklItem* following = catalogue.add(1, 3500);
-    following->length = -250;
-    catalogue.add(-2, 0);
-    CPreklItem* same = catalogue.add(2, 1200);
-    same->designation = "MAX 1200";
-    CPreklItem* other = catalogue.add(2, 1200);
-    other->width = plain->width + 1;
-    CPreklItem* alike = catalogue.add(3, 3500);
-    alike->length = -250;
-    const std::vector<const CPreklItem*> picked{plain, oversized, following, same,
-                                                other, other,     alike};
-    RezChain offer = buildPrecastOffer(catalogue.head.get(), 0, 1200, 1200, picked);
+    const Catalogue catalogue = itemsOf({{-1, 0},
+                                         {1, 1200},
+                                         {1, 3000},
+                                         {1, 3500, -250},
+                                         {-2, 0},
+                                         {2, 1200},
+                                         {2, 1200},
+                                         {3, 3500, -250}});
+    at(catalogue, 5)->designation = "MAX 1200";
+    at(catalogue, 6)->width = 1;
+    std::vector<const CPreklItem*> picked;
+    for (const int place : {1, 2, 3, 5, 6, 6, 7}) picked.push_back(at(catalogue, place));
+    RezChain offer = buildPrecastOffer(catalogue.get(), 0, 1200, 1200, picked);
     EXPECT_EQ(shown(offer), "0:1200 1:3000 2:3500 ");
     addPicked(offer, picked);
     EXPECT_EQ(shown(offer), "0:1200 1:3000 2:3500 0:1200 ");
-    EXPECT_EQ(offer.last()->width, other->width);
+    EXPECT_EQ(offer.last()->width, 1);
     EXPECT_EQ(offer.last()->bearing, 0);
 }
 
@@ -160,11 +161,8 @@ TEST(OfferOrder, NumbersStandByValueAndCaseDoesNotCount) {
 }
 
 TEST(TypeNames, AreThoseOfTheTypeRecordsInTheirOrder) {
-    Builder catalogue;
-    catalogue.add(-1, 1);
-    catalogue.add(1, 2);
-    catalogue.add(-2, 3)->designation.reset();
-    EXPECT_EQ(typeNames(catalogue.head.get()), (std::vector<Text>{"max 1", ""}));
+    const Catalogue catalogue = catalogueOf({{-1, "one"}, {1, "item"}, {-2, ""}});
+    EXPECT_EQ(typeNames(catalogue.get()), (std::vector<Text>{"one", ""}));
 }
 
 }  // namespace

@@ -4,9 +4,10 @@
 #include <cmath>
 #include <limits>
 
-#include "composition/layout.h"
+#include "design/bend_presets.h"
 #include "design/bubble_name.h"
 #include "design/opening.h"
+#include "tests/support/designs.h"
 
 namespace lx {
 namespace {
@@ -33,15 +34,14 @@ TEST(BubbleName, OnlyItsFirstByteDecides) {
 }
 
 TEST(Opening, LengthsOfTheCallBecomeWholeMillimetres) {
-    const double infinity = std::numeric_limits<double>::infinity();
     const std::int32_t most = std::numeric_limits<std::int32_t>::max();
-    EXPECT_EQ(wholeMillimetres(300.05), 300);
-    EXPECT_EQ(wholeMillimetres(300.1), 301);
-    EXPECT_EQ(wholeMillimetres(1e300), most);
-    EXPECT_EQ(wholeMillimetres(std::nan("")), 0);
-    EXPECT_EQ(shownOpening(1200.5), 1200);
-    EXPECT_EQ(shownOpening(1200.51), 1201);
-    EXPECT_EQ(shownOpening(infinity), most);
+    for (const auto& [length, whole] :
+         {std::pair{300.05, 300}, {300.1, 301}, {1e300, most}, {std::nan(""), 0}}) {
+        EXPECT_EQ(wholeMillimetres(length), whole);
+    }
+    for (const auto& [width, shown] : {std::pair{1200.5, 1200}, {1200.51, 1201}, {1e300, most}}) {
+        EXPECT_EQ(shownOpening(width), shown);
+    }
     EXPECT_EQ(shownBearing(1450, 1200.6), 124);
     EXPECT_EQ(shownBearing(1450, 1200.5), 125);
     EXPECT_EQ(shownBearing(1199, 1200), 0);
@@ -70,28 +70,38 @@ OpeningBlock blockOf(std::int16_t shape, double step1, double run1, double step2
 }
 
 std::string bendsOf(const OpeningBlock& block) {
-    CRez head;
-    head.kind = kind::head;
-    head.addBend(1, 1, true);
-    bendsFromBlock(head, block);
-    std::string text;
-    for (const CZalom* bend = head.bends.get(); bend; bend = bend->next.get()) {
-        text += std::to_string(bend->run) + "," + std::to_string(bend->step) + "," +
-                std::to_string(bend->flag) + ";";
-    }
-    return text;
+    const auto head = headOf(300);
+    head->addBend(1, 1, true);
+    bendsFromBlock(*head, block);
+    return bendsOf(*head);
 }
 
 TEST(Opening, EachHeadShapeMakesItsBends) {
     const double none = 0;
-    EXPECT_EQ(bendsOf(blockOf(4, 100.9, 150.9, -50.9, 70, 9)), "150,100,0;70,-50,1;");
-    EXPECT_EQ(bendsOf(blockOf(4, none, none, none, none)), "0,0,0;0,0,1;");
-    EXPECT_EQ(bendsOf(blockOf(5, 100, 150, 50, 70, 9)), "150,100,0;70,50,0;50,9,1;");
-    EXPECT_EQ(bendsOf(blockOf(3, 100, 150, 50, 70)), "150,-100,0;70,50,0;");
-    EXPECT_EQ(bendsOf(blockOf(3, -100, 150, none, 70)), "150,-100,0;");
-    EXPECT_EQ(bendsOf(blockOf(-1, 100, 150, 50, 70)), "150,100,0;70,50,0;");
+    EXPECT_EQ(bendsOf(blockOf(4, 100.9, 150.9, -50.9, 70, 9)), "150,100 70,-50! ");
+    EXPECT_EQ(bendsOf(blockOf(4, none, none, none, none)), "0,0 0,0! ");
+    EXPECT_EQ(bendsOf(blockOf(5, 100, 150, 50, 70, 9)), "150,100 70,50 50,9! ");
+    EXPECT_EQ(bendsOf(blockOf(3, -100, 150, none, 70)), "150,-100 ");
     EXPECT_EQ(bendsOf(blockOf(1, none, 150, 50, 70)), "");
-    EXPECT_EQ(bendsOf(blockOf(0, std::nan(""), 1e300, none, 0)), "2147483647,0,0;");
+    EXPECT_EQ(bendsOf(blockOf(0, std::nan(""), 1e300, none, 0)), "2147483647,0 ");
+}
+
+std::string presetBends(std::int32_t wall, int shape) {
+    const auto head = headOf(wall);
+    head->addBend(1, 2, true);
+    setBends(*head, shape);
+    return bendsOf(*head);
+}
+
+TEST(BendPresets, RunsDivideTheWallAndTheLastBendOfTheLastTwoShapesSlopes) {
+    EXPECT_EQ(presetBends(365, 0), "");
+    EXPECT_EQ(presetBends(365, 1), "182,100 ");
+    EXPECT_EQ(presetBends(365, 2), "121,100 121,100 ");
+    EXPECT_EQ(presetBends(300, 3), "100,-100 100,200 ");
+    EXPECT_EQ(presetBends(365, 4), "182,100 182,100! ");
+    EXPECT_EQ(presetBends(299, 5), "99,100 99,100 99,100! ");
+    EXPECT_EQ(presetBends(-5, 2), "-1,100 -1,100 ");
+    for (const int unknown : {-1, 6}) EXPECT_EQ(presetBends(300, unknown), "");
 }
 
 TEST(Opening, DrawingUnitsScaleTheBendsAlone) {
@@ -100,11 +110,11 @@ TEST(Opening, DrawingUnitsScaleTheBendsAlone) {
     block.width2 = 1300;
     const auto metres = blockInMillimetres(block, 1);
     ASSERT_TRUE(metres);
-    EXPECT_EQ(bendsOf(*metres), "2000,1000,0;4000,3000,0;3000,5000,1;");
+    EXPECT_EQ(bendsOf(*metres), "2000,1000 4000,3000 3000,5000! ");
     EXPECT_EQ(metres->width2, 1300);
     // 1000 / 300 is 3, 1000 / 2000 is 0.
-    EXPECT_EQ(bendsOf(*blockInMillimetres(block, 300)), "6,3,0;12,9,0;9,15,1;");
-    EXPECT_EQ(bendsOf(*blockInMillimetres(block, 2000)), "0,0,0;0,0,0;0,0,1;");
+    EXPECT_EQ(bendsOf(*blockInMillimetres(block, 300)), "6,3 12,9 9,15! ");
+    EXPECT_EQ(bendsOf(*blockInMillimetres(block, 2000)), "0,0 0,0 0,0! ");
     EXPECT_FALSE(blockInMillimetres(block, 0));
 
     EXPECT_FALSE(widerOpening(block));

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "design/page_index.h"
+#include "tests/support/catalogues.h"
 #include "tests/support/designs.h"
 
 namespace lx {
@@ -18,14 +19,7 @@ struct CatalogueOpening : testing::Test {
         values.openingWidth = 1200;
         values.wallThickness = 300;
         model.startDesign();
-        Catalogue* end = &values.precast;
-        for (const std::int32_t group : {-1, 1, 1}) {
-            *end = std::make_unique<CPreklItem>();
-            (*end)->group = group;
-            (*end)->maxOpening = 1200;
-            (*end)->designation = group < 0 ? "T" : "K";
-            end = &(*end)->next;
-        }
+        values.precast = catalogueOf({{-1, "T"}, {1, "K", 0, 0, 1200}, {1, "K", 0, 0, 1200}});
         model.rebuildPrecastOffer(0);
     }
     CRez* add(std::int32_t kind, std::int32_t type, std::int32_t item) {

@@ -3,6 +3,7 @@
 
 #include "design/design_model.h"
 #include "design/page_index.h"
+#include "tests/support/catalogues.h"
 #include "tests/support/designs.h"
 #include "tests/support/memory_files.h"
 
@@ -16,23 +17,13 @@ struct DesignModelTest : testing::Test {
     void SetUp() override {
         values.openingWidth = 1200;
         values.wallThickness = 300;
-        addItem(-1, "typ 1", 0);
-        for (const char* name : {"KP 1000", "kp 750", "KP 9"}) addItem(1, name, 1200);
-        addItem(-2, "typ 2", 0);
-        addItem(2, "KV 7/?", 1500, -150);
+        values.precast = catalogueOf({{-1, "typ 1"},
+                                      {1, "KP 1000", 1500, 70, 1200},
+                                      {1, "kp 750", 1500, 70, 1200},
+                                      {1, "KP 9", 1500, 70, 1200},
+                                      {-2, "typ 2"},
+                                      {2, "KV 7/?", -150, 70, 1500}});
         model.startDesign();
-    }
-    void addItem(std::int32_t group, const char* name, std::int32_t maxOpening,
-                 std::int32_t length = 1500) {
-        auto item = std::make_unique<CPreklItem>();
-        item->group = group;
-        item->designation = name;
-        item->maxOpening = maxOpening;
-        item->length = length;
-        item->width = 70;
-        Catalogue* end = &values.precast;
-        while (*end) end = &(*end)->next;
-        *end = std::move(item);
     }
     std::string listed() {
         std::string text;
@@ -64,29 +55,17 @@ TEST_F(DesignModelTest, ACompositionStartsFromTheSelectedElement) {
         item->compositionMark = 'A';
     }
     EXPECT_FALSE(model.ComposePrecast(rules));
+    EXPECT_FALSE(model.ComposeSteel());
     model.rebuildPrecastOffer(0);
     model.precastOffer().select(1);
     EXPECT_TRUE(model.ComposePrecast(rules));
     EXPECT_EQ(model.current(), model.head());
-    std::string made;
-    for (const CRez* one = model.head()->next; one; one = one->next) made += *one->name + ";";
-    EXPECT_EQ(made, "KP 9;kp 750;KP 1000;MEZERA;KP 9;kp 750;KP 1000;");
+    EXPECT_EQ(namesOf(model.chain()),
+              "KP 9 70;kp 750 70;KP 1000 70;MEZERA 10;KP 9 70;kp 750 70;KP 1000 70;");
     model.select(model.head()->next);
     model.precastOffer().select(-1);
     EXPECT_FALSE(model.ComposePrecast(rules));
     EXPECT_EQ(model.current(), model.head()->next);
-
-    EXPECT_FALSE(model.ComposeSteel());
-}
-
-TEST_F(DesignModelTest, PropertiesFollowTheSourceAndThePage) {
-    model.rebuildPrecastOffer(1);
-    EXPECT_EQ(model.properties(PropertiesSource::preview, page::library), "<Stěna>"_cz);
-    ASSERT_TRUE(model.properties(PropertiesSource::offer, page::precast));
-    EXPECT_NE(model.properties(PropertiesSource::offer, page::precast)->find("KV 7/?"), Text::npos);
-    for (const int other : {page::geometry, page::steel, page::monolith, page::library}) {
-        EXPECT_FALSE(model.properties(PropertiesSource::offer, other)) << other;
-    }
 }
 
 TEST_F(DesignModelTest, AHandedOverDesignReplacesTheHeadOfTheCall) {
@@ -103,19 +82,6 @@ TEST_F(DesignModelTest, AHandedOverDesignReplacesTheHeadOfTheCall) {
 
     model.adoptHandOver(RezChain());
     EXPECT_EQ(model.head()->label(), "Z");
-}
-
-TEST_F(DesignModelTest, TheDefaultEntryComesFirstWhateverTheLabelsAre) {
-    std::vector<LibraryEntry> stored;
-    for (const char* label : {"B  ", "!  ", "A10", "A2 "}) {
-        stored.push_back({label, sampleDesign(label)});
-    }
-    model.setStoredDesigns(std::move(stored));
-    EXPECT_EQ(model.storedLabels(),
-              (std::vector<Text>{Text("<výchozí>"_cz), "!  ", "A2 ", "A10", "B  "}));
-    EXPECT_TRUE(model.listsLabel("A2 "));
-    EXPECT_FALSE(model.listsLabel("a2 "));
-    EXPECT_FALSE(model.listsLabel("<výchozí>"_cz));
 }
 
 TEST_F(DesignModelTest, WithoutADesignEverythingAnswers) {

@@ -1,8 +1,7 @@
-// What the dialog writes about a design: description, properties, the form for programs.
+// What the dialog writes about a design: description and properties.
 #include <gtest/gtest.h>
 
 #include "composition/layout.h"
-#include "design/describe.h"
 #include "design/description.h"
 #include "design/properties_text.h"
 #include "tests/support/designs.h"
@@ -78,19 +77,6 @@ TEST(Properties, DescribeTheCurrentRecordAndTheOfferedElement) {
     lintel->name.reset();
     EXPECT_EQ(propertiesOfOffer(*lintel, 1200, true), "<NULL>");
     EXPECT_EQ(propertiesOfRecord(lintel.get(), 1200).substr(0, 12), "Označení: \r\n"_cz);
-}
-
-TEST(Describe, TellsEveryFieldAndWhichRecordIsCurrent) {
-    const RezChain design = sampleDesign("A1");
-    const Text text = describeDesign(design.head(), design.head()->next);
-    for (const char* line :
-         {"record 0 kind -1\n", "record 0 label A1\n", "record 0 width 300\n",
-          "record 1 name KPV 7/145\n", "record 1 bearing 125\n", "record 1 weight 52200\n",
-          "record 1 letter X\n", "record 2 offset 70\n", "record 2 name \n", "bend 0 run 100\n",
-          "bend 1 step -30\n", "bend 1 flag 1\n", "current 1\n"}) {
-        EXPECT_NE(text.find(line), Text::npos) << line;
-    }
-    EXPECT_EQ(describeDesign(nullptr, nullptr), "current -1\n");
 }
 
 }  // namespace
