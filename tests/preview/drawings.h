@@ -26,6 +26,10 @@ struct DrawnDesign {
         input.client = client;
         input.openingWidth = opening;
     }
+    Scene& opening(double width) {
+        input.openingWidth = width;
+        return self();
+    }
     Scene& bend(std::int32_t run, std::int32_t step, bool flagged = false) {
         design.head()->addBend(run, step, flagged);
         return self();
@@ -95,16 +99,20 @@ inline void compareWithFile(const std::string& name, const std::string& drawn) {
     EXPECT_EQ(drawn, content.str()) << name;
 }
 
+// What is added to a scene of that wall and size, and the file that shows it.
 template <class Scene>
 struct NamedScene {
     const char* name;
-    Scene (*make)();
+    std::int32_t wall;
+    Size client;
+    void (*build)(Scene&);
 };
 
 template <class Scene, std::size_t count>
 void compareWithFiles(const NamedScene<Scene> (&drawings)[count]) {
     for (const NamedScene<Scene>& drawing : drawings) {
-        Scene scene = drawing.make();
+        Scene scene(drawing.wall, drawing.client);
+        drawing.build(scene);
         RecordingCanvas canvas;
         const HitRegions regions = scene.draw(canvas);
         compareWithFile(drawing.name, recorded(canvas, regions, scene.design.head()));
@@ -120,7 +128,7 @@ void expectBlackWithoutADesign(Input input, const Draw& draw) {
 }
 
 template <class Scene>
-void expectNothingWithoutRoom(Scene scene) {
+void expectNothingWithoutRoom(Scene& scene) {
     for (const Size none : {Size{0, 130}, Size{370, 0}, Size{-1, -1}}) {
         scene.input.client = none;
         RecordingCanvas canvas;

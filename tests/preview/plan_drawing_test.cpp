@@ -11,8 +11,7 @@ namespace {
 
 // Layers are 1200 long and follow the opening.
 struct Scene : DrawnDesign<Scene, PlanInput> {
-    explicit Scene(std::int32_t wall, double opening = 900, Size client = {370, 130})
-        : DrawnDesign(wall, opening, client) {}
+    explicit Scene(std::int32_t wall, Size client = {370, 130}) : DrawnDesign(wall, 900, client) {}
     Scene& add(std::int32_t kind, std::int32_t width, std::int32_t height,
                std::int32_t length = 1200) {
         DrawnDesign::add(kind, width, height);
@@ -34,69 +33,46 @@ struct Scene : DrawnDesign<Scene, PlanInput> {
     }
 };
 
-Scene emptyDesign() {
-    Scene scene(300);
-    scene.folded(1250).here();
-    return scene;
+void bentFolded(Scene& s) {
+    s.bend(101, 75).bend(99, -150).add(kind::precast, 70, 238).add(kind::insulation, 80, 203);
+    s.add(kind::monolith, 150, 250).here().folded(2100);
 }
 
-// The section is not folded: insulation and spaces do not show.
-Scene stripsOnly() {
-    Scene scene(365, 1200.6, {417, 152});
-    scene.add(kind::precast, 70, 238, 1450).add(kind::insulation, 80, 200, 1450);
-    scene.add(kind::beam, 55, 100, 1450).add(kind::space, 20, 238, 1450);
-    scene.add(kind::monolith, 140, 250, 1450).here();
-    return scene;
-}
-
-Scene fixedLintel() {
-    Scene scene(300);
-    scene.add(kind::beam, 100, 100, 1199).add(kind::precast, 71, 238, 1490).folded(-30);
-    scene.design.last()->bearing = 0;
-    return scene;
-}
-
-Scene bentFolded() {
-    Scene scene(300, 900, {417, 260});
-    scene.bend(101, 75).bend(99, -150).add(kind::precast, 70, 238).add(kind::insulation, 80, 203);
-    scene.add(kind::monolith, 150, 250).here();
-    scene.folded(2100);
-    return scene;
-}
-
-// The head slopes from its second bend on.
-Scene slopingFolded() {
-    Scene scene(300, 900, {417, 260});
-    scene.bend(100, 50).bend(100, 60, true).add(kind::beam, 91, 161).here();
-    scene.add(kind::insulation, 150, 300).folded();
-    return scene;
-}
-
-Scene shorterThanTheOpening() {
-    Scene scene(400, 900, {417, 260});
-    scene.add(kind::angle, 45, 61, 799).add(kind::angleMirrored, 45, 61).here();
-    scene.add(kind::channel, 45, 81).add(kind::channelMirrored, 45, 81);
-    scene.folded(-1005);
-    return scene;
-}
-
-Scene thinWallPlan() {
-    Scene scene(199, 600);
-    scene.add(5, 81, 100, 601).here();
-    return scene;
-}
-
-Scene narrowOpening() {
-    Scene scene(300, -199.9, {190, 300});
-    scene.add(104, 71, 238, 450).add(60, 21, 31, 450).folded();
-    return scene;
-}
-
+constexpr Size usual{370, 130};
+constexpr Size large{417, 260};
 constexpr NamedScene<Scene> drawings[] = {
-    {"plan-empty", emptyDesign},        {"plan-strips", stripsOnly},
-    {"plan-fixed-lintel", fixedLintel}, {"plan-bent", bentFolded},
-    {"plan-sloping", slopingFolded},    {"plan-short-layer", shorterThanTheOpening},
-    {"plan-thin-wall", thinWallPlan},   {"plan-narrow-opening", narrowOpening},
+    {"plan-empty", 300, usual, [](Scene& s) { s.folded(1250).here(); }},
+    // The section is not folded: insulation and spaces do not show.
+    {"plan-strips",
+     365,
+     {417, 152},
+     [](Scene& s) {
+         s.opening(1200.6).add(kind::precast, 70, 238, 1450).add(kind::insulation, 80, 200, 1450);
+         s.add(kind::beam, 55, 100, 1450).add(kind::space, 20, 238, 1450);
+         s.add(kind::monolith, 140, 250, 1450).here();
+     }},
+    {"plan-fixed-lintel", 300, usual,
+     [](Scene& s) {
+         s.add(kind::beam, 100, 100, 1199).add(kind::precast, 71, 238, 1490).folded(-30);
+         s.design.last()->bearing = 0;
+     }},
+    {"plan-bent", 300, large, bentFolded},
+    // The head slopes from its second bend on.
+    {"plan-sloping", 300, large,
+     [](Scene& s) {
+         s.bend(100, 50).bend(100, 60, true).add(kind::beam, 91, 161).here();
+         s.add(kind::insulation, 150, 300).folded();
+     }},
+    {"plan-short-layer", 400, large,
+     [](Scene& s) {
+         s.add(kind::angle, 45, 61, 799).add(kind::angleMirrored, 45, 61).here();
+         s.add(kind::channel, 45, 81).add(kind::channelMirrored, 45, 81).folded(-1005);
+     }},
+    {"plan-thin-wall", 199, usual, [](Scene& s) { s.opening(600).add(5, 81, 100, 601).here(); }},
+    {"plan-narrow-opening",
+     300,
+     {190, 300},
+     [](Scene& s) { s.opening(-199.9).add(104, 71, 238, 450).add(60, 21, 31, 450).folded(); }},
 };
 
 TEST(PlanDrawing, DrawsWhatTheFilesSay) {
@@ -109,7 +85,9 @@ TEST(PlanDrawing, IsBlackWithoutADesignAndNothingWithoutRoom) {
     PlanInput input;
     input.foldedSection = true;
     expectBlackWithoutADesign(input, drawPlan);
-    expectNothingWithoutRoom(bentFolded());
+    Scene bent(300);
+    bentFolded(bent);
+    expectNothingWithoutRoom(bent);
 }
 
 TEST(PlanDrawing, TheCurrentRecordLiesOverAllOthersWithoutRegionsOfItsOwn) {

@@ -18,111 +18,62 @@ struct Scene : DrawnDesign<Scene, SectionInput> {
     }
 };
 
-// ---- drawings compared with files
-
-Scene thinWall() {
-    Scene scene(150);
-    scene.input.openingWidth = 1200.5;
-    scene.input.current = scene.design.head();
-    return scene;
+void beamsAndInsulation(Scene& s) {
+    s.bend(151, -30).add(kind::beam, 101, 161, "I 160").add(kind::insulation, 81, 203).here();
+    s.add(kind::beam, 101, 161, "I 160");
 }
 
-Scene oneBend() {
-    Scene scene(300);
-    scene.bend(100, 50).add(kind::precast, 71, 238, "KPV 7/145").add(kind::precast, 71, 238);
-    scene.input.current = scene.design.head();
-    scene.input.exteriorLeft = false;
-    scene.input.openingWidth = 1200.6;
-    return scene;
-}
-
-Scene beamsAndInsulation() {
-    Scene scene(300);
-    scene.bend(151, -30).add(kind::beam, 101, 161, "I 160").add(kind::insulation, 81, 203).here();
-    scene.add(kind::beam, 101, 161, "I 160");
-    return scene;
-}
-
-Scene slopingHead() {
-    Scene scene(301);
-    scene.bend(101, 75).bend(7, 53, true);
-    scene.add(kind::precast, 71, 239, "KV ?/1 ?").here();
-    scene.design.last()->bearing = 125;
-    scene.design.last()->length = 1500;
-    scene.add(kind::precast, 71, 239, "KP").add(kind::space, 33, 100);
-    return scene;
-}
-
-// The flagged bend is not the last one, and goes down.
-Scene slopingMiddle() {
-    Scene scene(300);
-    scene.bend(90, 60).bend(0, -45, true).bend(20, 10);
-    return scene;
-}
-
-Scene angles() {
-    Scene scene(200);
-    scene.add(kind::angle, 45, 61, "L").here();
-    scene.add(kind::insulation, 15, 61).add(kind::angleMirrored, 45, 61, "L");
-    return scene;
-}
-
-Scene channels() {
-    Scene scene(200);
-    scene.add(kind::channel, 45, 81, "U").add(kind::space, 51, 81, "MEZERA");
-    scene.add(kind::channelMirrored, 45, 81, "U").here();
-    scene.input.dropMarker = 96;
-    return scene;
-}
-
-Scene currentSpace() {
-    Scene scene(365, {417, 339});
-    scene.add(kind::space, 123, 77, "MEZERA").here();
-    scene.input.dropMarker = 0;
-    return scene;
-}
-
-// A cast layer wider than the wall.
-Scene currentMonolith() {
-    Scene scene(250, {417, 339});
-    scene.bend(125, 50).bend(60, 25).add(kind::monolith, 333, 251, "MONOLIT").here();
-    return scene;
-}
-
-Scene otherShapes() {
-    Scene scene(400);
-    scene.add(5, 81, 100, "?").here();
-    scene.add(kind::precast, 70, 100).add(104, 33, 55).add(60, 21, 31);
-    scene.design.head()->next->next->name.reset();
-    return scene;
-}
-
-// Elements without a value of their own to be typed over.
-Scene currentBeam() {
-    Scene scene(200);
-    scene.add(kind::beam, 99, 100, "I 100").here();
-    return scene;
-}
-
-Scene currentOfNoKind() {
-    Scene scene(200);
-    scene.add(105, 99, 100).here();
-    return scene;
-}
-
+constexpr Size usual{480, 400};
+constexpr Size other{417, 339};
 constexpr NamedScene<Scene> drawings[] = {
-    {"thin_wall", thinWall},
-    {"one_bend", oneBend},
-    {"beams_and_insulation", beamsAndInsulation},
-    {"sloping_head", slopingHead},
-    {"sloping_middle", slopingMiddle},
-    {"angles", angles},
-    {"channels", channels},
-    {"current_space", currentSpace},
-    {"current_monolith", currentMonolith},
-    {"other_shapes", otherShapes},
-    {"current_beam", currentBeam},
-    {"current_of_no_kind", currentOfNoKind},
+    {"thin_wall", 150, usual, [](Scene& s) { s.opening(1200.5).here(); }},
+    {"one_bend", 300, usual,
+     [](Scene& s) {
+         s.opening(1200.6).here().bend(100, 50);
+         s.add(kind::precast, 71, 238, "KPV 7/145").add(kind::precast, 71, 238);
+         s.input.exteriorLeft = false;
+     }},
+    {"beams_and_insulation", 300, usual, beamsAndInsulation},
+    {"sloping_head", 301, usual,
+     [](Scene& s) {
+         s.bend(101, 75).bend(7, 53, true).add(kind::precast, 71, 239, "KV ?/1 ?").here();
+         s.design.last()->bearing = 125;
+         s.design.last()->length = 1500;
+         s.add(kind::precast, 71, 239, "KP").add(kind::space, 33, 100);
+     }},
+    // The flagged bend is not the last one, and goes down.
+    {"sloping_middle", 300, usual,
+     [](Scene& s) { s.bend(90, 60).bend(0, -45, true).bend(20, 10); }},
+    {"angles", 200, usual,
+     [](Scene& s) {
+         s.add(kind::angle, 45, 61, "L").here();
+         s.add(kind::insulation, 15, 61).add(kind::angleMirrored, 45, 61, "L");
+     }},
+    {"channels", 200, usual,
+     [](Scene& s) {
+         s.add(kind::channel, 45, 81, "U").add(kind::space, 51, 81, "MEZERA");
+         s.add(kind::channelMirrored, 45, 81, "U").here();
+         s.input.dropMarker = 96;
+     }},
+    {"current_space", 365, other,
+     [](Scene& s) {
+         s.add(kind::space, 123, 77, "MEZERA").here();
+         s.input.dropMarker = 0;
+     }},
+    // A cast layer wider than the wall.
+    {"current_monolith", 250, other,
+     [](Scene& s) {
+         s.bend(125, 50).bend(60, 25).add(kind::monolith, 333, 251, "MONOLIT").here();
+     }},
+    {"other_shapes", 400, usual,
+     [](Scene& s) {
+         s.add(5, 81, 100, "?").here();
+         s.add(kind::precast, 70, 100).add(104, 33, 55).add(60, 21, 31);
+         s.design.head()->next->next->name.reset();
+     }},
+    // Elements without a value of their own to be typed over.
+    {"current_beam", 200, usual, [](Scene& s) { s.add(kind::beam, 99, 100, "I 100").here(); }},
+    {"current_of_no_kind", 200, usual, [](Scene& s) { s.add(105, 99, 100).here(); }},
 };
 
 TEST(SectionDrawing, DrawsWhatTheFilesSay) {
@@ -135,7 +86,9 @@ TEST(SectionDrawing, IsBlackWithoutADesignAndNothingWithoutRoom) {
     SectionInput input;
     input.dropMarker = 10;
     expectBlackWithoutADesign(input, drawSection);
-    expectNothingWithoutRoom(beamsAndInsulation());
+    Scene beams(300);
+    beamsAndInsulation(beams);
+    expectNothingWithoutRoom(beams);
 }
 
 TEST(SectionDrawing, NoNumberMakesItLong) {
@@ -174,18 +127,13 @@ TEST(SectionDrawing, TheZigzagIsCutWhereItCannotBeSeen) {
 }
 
 TEST(SectionDrawing, RegionsAreNamedInTheOrderOfTheirMaking) {
-    Scene scene = beamsAndInsulation();
+    Scene scene(300);
+    beamsAndInsulation(scene);
     RecordingCanvas canvas;
-    const HitRegions regions = scene.draw(canvas);
     std::string names;
-    for (const PictureRegion& region : pictureRegions(regions)) names += region.name + "; ";
-    EXPECT_EQ(names, "run 1; step 1; width; height; layer 1; layer 2; layer 3; ");
-    const PictureRegion width = pictureRegions(regions).at(2);
-    EXPECT_EQ(width.area, (Rect{66, 80, 78, 93}));
-
-    Scene steel = angles();
-    RecordingCanvas other;
-    EXPECT_EQ(pictureRegions(steel.draw(other)).front().name, "mirror");
+    for (const PictureRegion& region : pictureRegions(scene.draw(canvas)))
+        names += region.name + ";";
+    EXPECT_EQ(names, "run 1;step 1;width;height;layer 1;layer 2;layer 3;");
 }
 
 TEST(HitRegions, BelongToTheirEdgesAndTheNewestOneWins) {

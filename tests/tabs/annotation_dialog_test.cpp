@@ -14,7 +14,6 @@ constexpr const char* auxiliaryLine = "#1603";
 constexpr const char* textStyle = "#1607";
 constexpr const char* bubbleColor = "#1609";
 constexpr const char* hasEdges = "#1614";
-constexpr const char* edges = "#1615";
 constexpr const char* followsOpening = "#1617";
 
 std::string shown(Driver& d) {
@@ -75,13 +74,11 @@ TEST_F(AnnotationDialog, ControlsFollowWhatIsInsertedAndTheirBoxes) {
     inSettings("2", [](Driver& d) {
         EXPECT_EQ(enabledAmong(d, inputs), "00010000000111");
         EXPECT_FALSE(d.enabled("Bublina"));
-        EXPECT_NE(d.focusedControl().find(textStyle), std::string::npos);
         d.closeDialog();
     });
     inSettings("13", [](Driver& d) {
         EXPECT_EQ(enabledAmong(d, inputs), "11111111011000");
         d.check(auxiliaryLine, false);
-        EXPECT_EQ(enabledAmong(d, inputs), "11011111011000");
         d.check(hasEdges, true);
         d.focus(followsOpening);
         d.key("Space");
@@ -89,30 +86,6 @@ TEST_F(AnnotationDialog, ControlsFollowWhatIsInsertedAndTheirBoxes) {
         d.press("Zrušit");
     });
     EXPECT_EQ(setting("IF_ANGLE1"), "none");
-}
-
-// Although the edges are not used.
-TEST_F(AnnotationDialog, TooFewEdgesAreRefusedAndNothingIsWritten) {
-    set(userFile, "SETTINGS", "EDGES", "2");
-    set(userFile, "SETTINGS", "COLOR1", "8");
-    set(userFile, "SETTINGS", "DESCRIPTION", "4");
-    const Bytes before = *bench.read(path(userFile));
-    bench.user().inDialog("Návrh překladu", [](Driver& d) { d.press(open); });
-    bench.user().inDialog(open, [](Driver& d) {
-        EXPECT_EQ(d.text(bubbleColor), "");
-        d.press("OK");
-    });
-    bench.user().then([](Driver& d) { d.answer("OK"); });
-    bench.user().inDialog(open, [&](Driver& d) {
-        EXPECT_EQ(bench.read(path(userFile)), before);
-        d.check(hasEdges, true);
-        retype(d, edges, "6 hran");
-        d.press("OK");
-    });
-    bench.user().inDialog("Návrh překladu", [](Driver& d) { d.press("Zrušit"); });
-    run();
-    EXPECT_EQ(setting("EDGES"), "6 hran");
-    EXPECT_EQ(setting("COLOR1"), "-1");
 }
 
 TEST_F(AnnotationDialog, TheBubbleFieldIsCutToTheLabelAtTheNextChangeOfTheDesign) {
