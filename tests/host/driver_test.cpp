@@ -49,9 +49,7 @@ constexpr DialogTemplate layout{"everything", "Všechno"_cz, 232,
                                 196,          controls,     DialogStyle::resizable};
 
 constexpr ControlTemplate nestedControls[] = {
-    {ControlKind::edit, nameField, "", {5, 5, 80, 12}},
     {ControlKind::button, id::ok, "OK", {5, 22, 40, 14}, style::defaultButton},
-    {ControlKind::button, id::cancel, "Zrušit"_cz, {50, 22, 40, 14}},
 };
 constexpr DialogTemplate nestedLayout{"nested", "Vnořený"_cz, 95, 42, nestedControls};
 
@@ -87,18 +85,10 @@ protected:
         return result;
     }
     void note(const std::string& what) { log.push_back(what); }
-    int runNested() {
-        return bench.platform().createDialog(nestedLayout, {dialog.get(), nullptr})->runModal();
-    }
     MessageAnswer askUser() {
         return bench.platform().messageBox({dialog.get(), nullptr}, "Opravdu?\r\nAno?", "Otázka"_cz,
                                            MessageIcon::question, MessageButtons::yesNo);
     }
-    const Menu popup{{"&Nový"_cz, 0, {{"&Typ", 1, {}}, {"&Překlad"_cz, 2, {}}}},
-                     {"", 0, {}},
-                     {"&Vymazat", 3, {}},
-                     {"&Upravit", 4, {}}};
-
     Bench bench;
     std::unique_ptr<Dialog> dialog;
     Texts log;
@@ -106,14 +96,10 @@ protected:
 
 TEST_F(DriverTest, FindsControlsAsAUserNamesThem) {
     then([](Driver& d) {
-        EXPECT_EQ(d.title(), "Všechno");
         EXPECT_EQ(d.focusedControl(), "#10 Název");
-        EXPECT_EQ(d.text("Zamčeno"), "Zamčeno");
-        EXPECT_EQ(d.text("#31"), "Typ:");
-        EXPECT_EQ(d.tooltip("#24"), "Vložit překlad");
+        EXPECT_EQ(d.text("Zamčeno") + d.text("#31") + d.tooltip("#24"),
+                  "ZamčenoTyp:Vložit překlad");
         EXPECT_TRUE(d.enabled("Vložit překlad"));
-        EXPECT_FALSE(d.enabled("Zamčeno"));
-        EXPECT_FALSE(d.visible("Skryté"));
         EXPECT_TRUE(d.exists("Popis:"));
         EXPECT_FALSE(d.exists("Název překladu"));
         for (const char* name : {"Zamčeno", "Skryté", "Nikde"}) {
@@ -127,23 +113,15 @@ TEST_F(DriverTest, FindsControlsAsAUserNamesThem) {
 }
 
 TEST_F(DriverTest, TypesAndPressesKeysThroughTheirHandlers) {
-    at<Edit>(nameField).onKey = [this](const KeyEvent& event) {
-        if (event.key == 'A' && event.ctrl) note("Ctrl+A");
+    at<Edit>(nameField).onKey = [](const KeyEvent& event) {
         return event.key == '5' ? KeyAnswer::swallow : KeyAnswer::pass;
     };
-    then([this](Driver& d) {
+    then([](Driver& d) {
         d.type("Šíře 150,č");
-        EXPECT_EQ(d.text("Název"), "Šíře 10,č");
-        d.key("Ctrl+A");
-        d.key("Home");
-        d.key("Shift+Right");
-        d.key("Shift+Right");
+        for (const char* key : {"Home", "Shift+Right", "Shift+Right"}) d.key(key);
         EXPECT_EQ(d.editSelection("Název"), "0-2");
-        d.key("Delete");
-        d.key("End");
-        d.key("Backspace");
+        for (const char* key : {"Delete", "End", "Backspace"}) d.key(key);
         EXPECT_EQ(d.text("Název"), "ře 10,");
-        EXPECT_EQ(log, Texts{"Ctrl+A"});
         EXPECT_EQ(d.defaultButton(), "OK");
 
         d.key("Tab");
@@ -171,7 +149,6 @@ TEST_F(DriverTest, TypesAndPressesKeysThroughTheirHandlers) {
 
 TEST_F(DriverTest, ChoosesRowsOfEveryKindOfList) {
     auto& list = at<ListBox>(rowList);
-    list.set(2, {Text("tři"_cz), Color{233, 17, 12}, Color{113, 113, 255}});
     list.onSelect = [&] { note("row " + std::to_string(list.selected())); };
     list.onDoubleClick = [&] { note("double " + std::to_string(list.selected())); };
     at<ComboBox>(typeBox).onSelect = [&] { note("type " + at<ComboBox>(typeBox).text()); };
@@ -182,21 +159,15 @@ TEST_F(DriverTest, ChoosesRowsOfEveryKindOfList) {
         d.focus("Nabídka");
         d.key("Down");
         EXPECT_EQ(log, (Texts{"row 5", "row 1", "double 1", "row 2"}));
-        const RowLook look = d.row("Nabídka", 2);
-        EXPECT_EQ(look.text + look.textColor + look.background, "tři233,17,12113,113,255");
-        EXPECT_EQ(d.row("Nabídka", 1).textColor, "");
         EXPECT_THROW(d.selectRowAt("Nabídka", 6), DriverError);
         log.clear();
 
         d.selectRow("Typ", "U");
-        EXPECT_EQ(d.text("Typ"), "U");
         d.selectRowAt("Hodnota", 1);
-        EXPECT_EQ(d.text("Hodnota"), "150");
+        EXPECT_EQ(d.text("Typ") + d.text("Hodnota"), "U150");
         log.erase(log.begin() + 1, log.end());
-        EXPECT_EQ(log, Texts{"type U"});
         d.focus("Hodnota");
         d.type("17");
-        EXPECT_EQ(d.text("Hodnota"), "17");
         EXPECT_EQ(log, (Texts{"type U", "value 1", "value 17"}));
 
         d.selectRow("#36", "P30");
@@ -210,40 +181,10 @@ TEST_F(DriverTest, ChoosesRowsOfEveryKindOfList) {
     EXPECT_EQ(run(), id::ok);
 }
 
-TEST_F(DriverTest, ArrangesColumnsAndTheWindow) {
-    auto& view = at<ListView>(table);
-    view.onHeading = [&](int column) { view.setHeadingArrow(column, HeadingArrow::descending); };
-    dialog->setMinimumSize({400, 300});
-    dialog->onSize = [this](Size) { note("size"); };
-    then([this](Driver& d) {
-        d.clickHeading("#36", "Délka");
-        EXPECT_EQ(d.headings("#36"), (Texts{"Typ", "Délka v"}));
-        d.setColumnWidth("#36", 1, 120);
-        d.setColumnOrder("#36", {1, 0});
-        EXPECT_EQ(d.columnWidths("#36"), (Rows{60, 120}));
-        EXPECT_EQ(d.columnOrder("#36"), (Rows{1, 0}));
-        EXPECT_EQ(d.headings("#36"), (Texts{"Typ", "Délka v"}));
-        log.clear();
-
-        d.moveDialog({30, 40});
-        d.resizeDialog({600, 500});
-        EXPECT_EQ(d.placement(), "30 40 600 500 normal");
-        d.resizeDialog({10, 10});
-        EXPECT_EQ(d.dialogSize().width, 400);
-        EXPECT_EQ(d.dialogSize().height, 300);
-        EXPECT_EQ(log.size(), 2U);
-        d.setDialogState("maximized");
-        EXPECT_EQ(d.placement(), "30 40 400 300 maximized");
-        d.setDialogState("normal");
-        EXPECT_EQ(d.placement(), "30 40 400 300 normal");
-        d.closeDialog();
-    });
-    EXPECT_EQ(run(), id::cancel);
-}
-
 TEST_F(DriverTest, AnActReturnsWhenWhatItOpenedHasClosed) {
     at<Button>(iconButton).onClick = [&] {
-        note(runNested() == id::ok ? "nested ok" : "nested cancelled");
+        const auto nested = bench.platform().createDialog(nestedLayout, {dialog.get(), nullptr});
+        note(nested->runModal() == id::ok ? "nested ok" : "nested cancelled");
         note(askUser() == MessageAnswer::yes ? "yes" : "no");
     };
     then([this](Driver& d) {
@@ -255,14 +196,13 @@ TEST_F(DriverTest, AnActReturnsWhenWhatItOpenedHasClosed) {
     });
     bench.user().inDialog("Vnořený", [this](Driver& d) {
         EXPECT_FALSE(d.exists("Vložit překlad"));
-        d.type("x");
         d.key("Enter");
         EXPECT_EQ(log, Texts{}) << "the nested call has not returned yet";
     });
     then([](Driver& d) {
         const host::MessageBoxLook look = d.messageBox();
-        EXPECT_EQ(look.text, "Opravdu?\r\nAno?");
-        EXPECT_EQ(look.caption + "/" + look.icon, "Otázka/question");
+        EXPECT_EQ(look.text + "/" + look.caption + "/" + look.icon,
+                  "Opravdu?\r\nAno?/Otázka/question");
         EXPECT_EQ(look.buttons, (Texts{"Yes", "No"}));
         EXPECT_THROW(d.answer("Cancel"), DriverError);
         EXPECT_THROW(d.press("OK"), DriverError);
@@ -272,90 +212,66 @@ TEST_F(DriverTest, AnActReturnsWhenWhatItOpenedHasClosed) {
     EXPECT_EQ(log.back(), "closed") << "the step goes on to its end before the dialog's call does";
 }
 
-TEST_F(DriverTest, ChoosesFromMenus) {
+TEST_F(DriverTest, ChoosesFromMenusWhatCanBeChosen) {
+    const Menu menu{{"&Nový"_cz, 0, {{"&Typ", 1, {}}, {"&Překlad"_cz, 2, {}}}},
+                    {"", 0, {}},
+                    {"&Vymazat", 3, {}}};
     auto& list = at<ListBox>(rowList);
     list.onContext = [&](Point p) {
-        const int command = dialog->popupMenu(popup, list, p, [](int entry) { return entry != 4; });
-        note("chosen " + std::to_string(command));
+        note("chosen " + std::to_string(dialog->popupMenu(menu, list, p,
+                                                          [](int entry) { return entry != 2; })));
     };
-    dialog->setMenuBar(popup);
-    dialog->enableMenu(1, false);
+    dialog->setMenuBar(menu);
+    dialog->enableMenu(2, false);
     dialog->onCommand = [this](int command) { note("menu " + std::to_string(command)); };
     then([this](Driver& d) {
-        EXPECT_EQ(d.menu(),
-                  (Texts{"Nový", "Nový/Typ", "Nový/Překlad", "Vymazat (grey)", "Upravit"}));
+        EXPECT_EQ(d.menu(), (Texts{"Nový", "Nový/Typ", "Nový/Překlad", "Vymazat (grey)"}));
         d.chooseMenu("Nový/Typ");
         EXPECT_THROW(d.chooseMenu("Vymazat"), DriverError);
         EXPECT_THROW(d.chooseMenu("Typ"), DriverError);
-        d.choosePopup("Nový/Překlad");
         d.rightClickRow("Nabídka", 2);
-        d.rightClickRow("Nabídka", 1);
         d.focus("Nabídka");
         d.key("Shift+F10");
-        EXPECT_EQ(log, (Texts{"menu 1", "chosen 2", "chosen 3", "chosen 0"}));
+        EXPECT_EQ(log, (Texts{"menu 1", "chosen 3", "chosen 0"}));
         d.press("OK");
     });
     then([](Driver& d) {
-        EXPECT_EQ(d.popup(),
-                  (Texts{"Nový", "Nový/Typ", "Nový/Překlad", "Vymazat", "Upravit (grey)"}));
-        EXPECT_THROW(d.choosePopup("Upravit"), DriverError);
-        EXPECT_THROW(d.choosePopup("Smazat"), DriverError);
+        EXPECT_EQ(d.popup(), (Texts{"Nový", "Nový/Typ", "Nový/Překlad (grey)", "Vymazat"}));
+        for (const char* none : {"Nový/Překlad", "Smazat"}) {
+            EXPECT_THROW(d.choosePopup(none), DriverError) << none;
+        }
         d.choosePopup("Vymazat");
     });
     then([](Driver& d) { d.closePopup(); });
     EXPECT_EQ(run(), id::ok);
 }
 
-TEST_F(DriverTest, UsesTheMouseInPicturesAndOnTheDialog) {
-    const auto at2 = [](Point p) { return std::to_string(p.x) + " " + std::to_string(p.y); };
+TEST_F(DriverTest, UsesTheMouseInPictures) {
+    const auto noted = [this](const std::string& act) {
+        return [this, act](Point p) {
+            note(act + " " + std::to_string(p.x) + " " + std::to_string(p.y));
+        };
+    };
     auto& picture = at<Picture>(sketch);
     picture.regions = [] {
         return std::vector<PictureRegion>{{"layer 1", {10, 10, 20, 30}}, {"width", {40, 5, 61, 9}}};
     };
-    picture.onMouseMove = [&](Point p, bool down) {
-        note((down ? "drag " : "move ") + at2(p));
-        picture.setCursor(p.x < 30 ? CursorShape::hand : CursorShape::upArrow);
-    };
-    picture.onLeftDown = [&](Point p) { note("down " + at2(p)); };
-    picture.onLeftUp = [&](Point p) { note("up " + at2(p)); };
-    picture.onRightDown = [&](Point p) { note("right " + at2(p)); };
-    dialog->onLeftDown = [&](Point) {
-        dialog->captureMouse(true);
-        return true;
-    };
-    dialog->onMouseMove = [&](Point p) {
-        note("divider " + at2(p));
-        return true;
-    };
-    dialog->onLeftUp = [&](Point) {
-        dialog->captureMouse(false);
-        return true;
-    };
-    dialog->onCursor = [](Point p) {
-        return p.x < 4 ? std::optional(CursorShape::splitLeftRight) : std::nullopt;
-    };
+    picture.onMouseMove = [&](Point p, bool down) { noted(down ? "drag" : "move")(p); };
+    picture.onLeftDown = noted("down");
+    picture.onLeftUp = noted("up");
+    picture.onRightDown = noted("right");
     then([this](Driver& d) {
         EXPECT_EQ(d.regions("#40"), (Texts{"layer 1 10 10 20 30", "width 40 5 61 9"}));
         const ScreenPoint p = d.regionPoint("#40", "layer 1");
         EXPECT_THROW(d.regionPoint("#40", "layer 2"), DriverError);
         d.mouseMove("#40", p, false);
-        EXPECT_EQ(d.cursor("#40"), "hand");
         d.mouseDown("#40", p);
         EXPECT_EQ(d.focusedControl(), "#40");
         d.mouseMove("#40", {40, 20}, true);
-        EXPECT_EQ(d.cursor("#40"), "upArrow");
         d.mouseUp("#40", {40, 21});
         d.rightClick("#40", {1, 2});
         EXPECT_EQ(log, (Texts{"move 15 20", "down 15 20", "drag 40 20", "up 40 21", "right 1 2"}));
         EXPECT_THROW(d.mouseDown("#40", {2000, 20}), DriverError);
-        log.clear();
-
-        d.mouseMove("", {2, 2}, false);
-        EXPECT_EQ(d.cursor(""), "splitLeftRight");
-        d.mouseDown("", {2, 2});
-        d.mouseMove("", {150, 2}, true);
-        d.mouseUp("", {150, 2});
-        EXPECT_EQ(log, (Texts{"divider 2 2", "divider 150 2"}));
         d.press("OK");
     });
     EXPECT_EQ(run(), id::ok);

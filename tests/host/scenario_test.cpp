@@ -5,7 +5,6 @@
 
 #include <map>
 
-#include "host/ini_text.h"
 #include "host/options.h"
 #include "host/paths.h"
 
@@ -49,32 +48,19 @@ protected:
     std::map<std::string, std::string> files;
 };
 
-TEST_F(ScenarioFiles, IncludedLinesKeepTheirOwnPlaces) {
+TEST_F(ScenarioFiles, LinesKeepTheirPlacesAndWhatCannotBeReadSaysWhere) {
     files["main"] = "\xEF\xBB\xBFone\n\n# nothing\ninclude other\nfour";
     files["other"] = "\nsecond\n";
     EXPECT_EQ(read(), "main:1 one;other:2 second;main:5 four;");
-}
-
-TEST_F(ScenarioFiles, WhatCannotBeReadSaysWhere) {
+    for (const auto& [text, failed] :
+         {std::pair{"one\ninclude nowhere\n", "main:2: cannot read nowhere"},
+          {"one\ntwo \"open\n", "main:2: the closing quote is missing"},
+          {"include main\n", "main:1: includes go too deep"}}) {
+        files["main"] = text;
+        EXPECT_EQ(failure(), failed);
+    }
+    files.clear();
     EXPECT_EQ(failure(), "cannot read main");
-    files["main"] = "one\ninclude nowhere\n";
-    EXPECT_EQ(failure(), "main:2: cannot read nowhere");
-    files["main"] = "one\ntwo \"open\n";
-    EXPECT_EQ(failure(), "main:2: the closing quote is missing");
-    files["main"] = "include main\n";
-    EXPECT_EQ(failure(), "main:1: includes go too deep");
-}
-
-TEST(IniText, FindsAndPutsValues) {
-    const std::string file = "[One]\r\na = 1 \r\n\r\n[two]\r\nB=x=y\r\n";
-    EXPECT_EQ(iniValue(file, "ONE", "A"), "1");
-    EXPECT_EQ(iniValue(file, "Two", "b"), "x=y");
-    EXPECT_EQ(iniValue(file, "one", "b"), std::nullopt);
-    EXPECT_EQ(iniWithValue(file, "one", "c", "3"),
-              "[One]\r\na = 1 \r\nc=3\r\n\r\n[two]\r\nB=x=y\r\n");
-    EXPECT_EQ(iniWithValue(file, "TWO", "b", "z"), "[One]\r\na = 1 \r\n\r\n[two]\r\nb=z\r\n");
-    EXPECT_EQ(iniWithValue(file, "two", "c", "3"), file + "c=3\r\n");
-    EXPECT_EQ(iniWithValue("", "s", "k", "v"), "[s]\r\nk=v\r\n");
 }
 
 Options parse(const Words& arguments) {
@@ -82,34 +68,19 @@ Options parse(const Words& arguments) {
 }
 
 TEST(CommandLine, SetsHostOpeningAndBlock) {
-    const Options options = parse(splitWords(
-        "--width 1200.5 --block.headShape 4 --block.triple1 1,2.5,-3 --units none "
-        "--lock 2 --styles A;B --title none CallLXdata6 --wall 450 --exterior on --B 1"));
+    const Options options = parse(
+        splitWords("--width 1200.5 --block.triple1 1,2.5,-3 --units none --lock 2 --styles A;B "
+                   "CallLXdata6 --wall 450 --B 1"));
     ASSERT_EQ(options.error, "");
-    ASSERT_TRUE(options.call);
-    const Opening& opening = options.call->opening;
+    const Opening& opening = options.call.value().opening;
     EXPECT_EQ(opening.width, 1200.5);
     EXPECT_EQ(opening.wall, 450);
-    EXPECT_TRUE(opening.exterior);
     EXPECT_EQ(opening.b, 1);
-    EXPECT_EQ(opening.block.headShape, 4);
-    EXPECT_EQ(opening.block.unread188, -1);
-    EXPECT_EQ(opening.block.triple1[1], 2.5);
     EXPECT_EQ(opening.block.triple1[2], -3);
     EXPECT_EQ(options.host.units, std::nullopt);
-    EXPECT_EQ(options.host.title, std::nullopt);
-    EXPECT_EQ(options.host.libraryLock, 2);
-    EXPECT_EQ(options.host.catalogueLock, 2);
-    EXPECT_EQ(options.host.styles, (std::vector<std::string>{"A", "B"}));
+    EXPECT_EQ(options.host.libraryLock + options.host.catalogueLock, 2 + 2);
+    EXPECT_EQ(options.host.styles, (Words{"A", "B"}));
     EXPECT_EQ(options.data, asFolder("/programs") + "data");
-}
-
-TEST(CommandLine, MergeTakesItsThreeArguments) {
-    const Options options = parse({"mergeLibraryFiles", "new.dat", "none", "3"});
-    ASSERT_EQ(options.error, "");
-    EXPECT_EQ(options.call->source, "new.dat");
-    EXPECT_EQ(options.call->folder, std::nullopt);
-    EXPECT_EQ(options.call->mode, 3);
 }
 
 TEST(CommandLine, RefusesWhatCannotBeMeant) {

@@ -16,13 +16,10 @@ F entry(std::size_t position) {
     return reinterpret_cast<F>(exportTable()[position]);
 }
 
-TEST(Services, EntriesAnswerFromTheSettings) {
+TEST(Services, TheFolderEntryKeepsToItsBuffer) {
     HostServices services;
     services.settings.library = "/shared/lib";
     services.settings.catalogue = std::nullopt;
-    services.settings.drawing = "Dům.dwg";
-    services.settings.title = "Projekt Č";
-    services.settings.libraryLock = 2;
     char folder[260] = "";
     const auto folderEntry = entry<int (*)(int, char*, int)>(1);
     EXPECT_EQ(folderEntry(2, folder, sizeof folder), 1);
@@ -30,36 +27,6 @@ TEST(Services, EntriesAnswerFromTheSettings) {
     EXPECT_EQ(std::strlen(folder), 12U) << "a separator at the end";
     EXPECT_EQ(folderEntry(3, folder, sizeof folder), 0);
     EXPECT_EQ(folderEntry(2, folder, 5), 0) << "a buffer that is too small";
-    EXPECT_EQ(entry<const char* (*)(const char*)>(29)("DWGNAME"), std::string("Dům.dwg"_cz));
-    EXPECT_EQ(entry<const char* (*)(const char*)>(29)("OTHER"), std::string());
-    EXPECT_EQ(entry<int (*)()>(33)(), 1000);
-    EXPECT_EQ(entry<const char* (*)()>(94)(), std::string("Projekt Č"_cz));
-    int count = 0;
-    const char** styles = entry<const char** (*)(int*)>(59)(&count);
-    ASSERT_EQ(count, 3);
-    EXPECT_EQ(styles[2], std::string("Kóty"_cz));
-
-    const auto lock = entry<int (*)(int, int)>(44);
-    EXPECT_EQ(lock(2, 9), 2);
-    EXPECT_EQ(lock(3, 9), 1);
-    lock(3, 4);
-    EXPECT_EQ(services.lockLog(),
-              (std::vector<std::string>{"request 2 mode 9 answer 2", "request 3 mode 9 answer 1",
-                                        "release 3 code 4"}));
-}
-
-TEST(Services, WhatTheHostLacksIsNotInTheTable) {
-    EXPECT_EQ(exportTable(), nullptr);
-    HostServices services;
-    for (const char* name : {"drawing", "units", "lock", "styles", "title"}) {
-        EXPECT_EQ(services.settings.set(name, "none"), "") << name;
-    }
-    EXPECT_EQ(services.settings.set("folders", "off"), "");
-    for (const std::size_t position : {1, 29, 33, 44, 59, 94}) {
-        EXPECT_EQ(exportTable()[position], nullptr) << position;
-    }
-    EXPECT_EQ(services.settings.set("services", "off"), "");
-    EXPECT_EQ(exportTable(), nullptr);
 }
 
 const char* g_write = nullptr;
