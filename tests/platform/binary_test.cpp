@@ -7,25 +7,6 @@
 namespace lx {
 namespace {
 
-TEST(Binary, ReadsBackWhatItWrote) {
-    BinaryWriter writer;
-    writer.int32(-14300);
-    writer.float64(1.5);
-    writer.byte(0xC8);
-    writer.zeroTerminated("KP 7/?");
-    writer.raw("AB");
-    ASSERT_EQ(writer.bytes().substr(0, 4), std::string("\x24\xC8\xFF\xFF", 4));
-
-    BinaryReader reader(writer.bytes());
-    EXPECT_EQ(reader.int32(), -14300);
-    EXPECT_EQ(reader.float64(), 1.5);
-    EXPECT_EQ(reader.byte(), 0xC8);
-    EXPECT_EQ(reader.zeroTerminated(), "KP 7/?");
-    EXPECT_EQ(reader.raw(2), "AB");
-    EXPECT_TRUE(reader.atEnd());
-    EXPECT_FALSE(reader.cutShort());
-}
-
 TEST(Binary, NeverRunsPastTheEnd) {
     BinaryReader number("\x01\x02\x03");
     EXPECT_EQ(number.int32(), 0);

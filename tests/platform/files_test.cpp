@@ -140,12 +140,5 @@ TEST_F(FilesTest, LeavesFilesAloneThatItMayNotWrite) {
     EXPECT_EQ(names(), Names{"f"});
 }
 
-TEST_F(FilesTest, TemporaryFolderEndsInASeparator) {
-    const Path folder = files.temporaryFolder();
-    ASSERT_FALSE(folder.empty());
-    EXPECT_TRUE(folder.back() == '/' || folder.back() == '\\');
-    EXPECT_TRUE(fs::is_directory(folder));
-}
-
 }  // namespace
 }  // namespace lx
