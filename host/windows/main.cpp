@@ -67,6 +67,8 @@ std::string programFolder() {
 }  // namespace
 
 int main() {
+    // As CAD programs are: without it the system would tell the dialogs of 96 dpi and stretch them.
+    SetProcessDPIAware();
     SetConsoleOutputCP(CP_UTF8);
     // Line ends as on every platform.
     _setmode(_fileno(stdout), _O_BINARY);

@@ -309,5 +309,37 @@ TEST_F(DriverTest, FindsFaultsOfALayout) {
     EXPECT_EQ(run(), id::cancel);
 }
 
+#if defined(_WIN32)
+// Only real windows have fonts: what is a pixel too small for its text, at any dpi.
+TEST_F(DriverTest, FindsTextsThatAreCut) {
+    constexpr ControlTemplate bad[] = {
+        {ControlKind::label, 1, "Označení bubliny:"_cz, {5, 5, 40, 8}},
+        {ControlKind::label, 2, "Popis:"_cz, {60, 5, 40, 6}},
+        {ControlKind::checkBox, 3, "Sklopený řez"_cz, {5, 20, 40, 10}},
+        {ControlKind::radioButton, 4, "z náhledu"_cz, {60, 20, 30, 10}},
+        {ControlKind::edit, 5, "", {5, 35, 40, 8}},
+        {ControlKind::dropDownList, 6, "", {60, 35, 40, 12}},
+        {ControlKind::groupBox, 7, "Prvky překladu k vymazání:"_cz, {5, 55, 60, 20}},
+        {ControlKind::edit, 8, "", {100, 5, 40, 12}},
+        {ControlKind::button, 9, "Nápověda"_cz, {100, 20, 44, 10}},
+    };
+    const DialogTemplate faulty{"faulty", "Chybný"_cz, 150, 80, bad};
+    dialog = bench.platform().createDialog(faulty, {});
+    at<ComboBox>(6).add("Keramické překlady"_cz);
+    at<ComboBox>(6).select(0);
+    then([](Driver& d) {
+        const Texts faults = d.layoutFaults();
+        std::string all;
+        for (const std::string& fault : faults) all += fault + "\n";
+        EXPECT_EQ(faults.size(), 7U) << all;
+        for (const char* what : {"#1 ", "#2 ", "#3 ", "#4 ", "#5 ", "#6 ", "#7 "}) {
+            EXPECT_NE(all.find(what), std::string::npos) << what << "in " << all;
+        }
+        d.closeDialog();
+    });
+    EXPECT_EQ(run(), id::cancel);
+}
+#endif
+
 }  // namespace
 }  // namespace lx

@@ -71,6 +71,14 @@ private:
     HGDIOBJ m_before;
 };
 
+// A combo box sees to its own height.
+bool tooLowForItsFont(HWND window) {
+    RECT client{};
+    GetClientRect(window, &client);
+    return kindOf(window) == Kind::edit &&
+           client.bottom < TextMeasure(window).size("Á", client.right, DT_SINGLELINE).cy;
+}
+
 bool cutsItsText(HWND window) {
     const Kind kind = kindOf(window);
     const LONG_PTR windowStyle = GetWindowLongPtrW(window, GWL_STYLE);
@@ -91,6 +99,11 @@ bool cutsItsText(HWND window) {
         const LONG_PTR type = windowStyle & SS_TYPEMASK;
         if (type == SS_LEFT || type == SS_RIGHT || type == SS_CENTER) flags = DT_WORDBREAK;
         if ((windowStyle & SS_NOPREFIX) != 0) flags |= DT_NOPREFIX;
+    } else if (kind == Kind::comboBox) {
+        // A text that may be edited scrolls; here there is the button that opens the list.
+        if ((windowStyle & CBS_DROPDOWNLIST) != CBS_DROPDOWNLIST) return false;
+        width -= GetSystemMetrics(SM_CXVSCROLL) + buttonEdges;
+        flags |= DT_NOPREFIX;
     } else if (kind != Kind::groupBox) {
         return false;
     }
@@ -117,6 +130,9 @@ std::vector<std::string> layoutFaultsOf(HWND dialog) {
         }
         if (cutsItsText(seen[i])) {
             faults.push_back(named(seen[i]) + " cuts its text \"" + windowText(seen[i]) + "\"");
+        }
+        if (tooLowForItsFont(seen[i])) {
+            faults.push_back(named(seen[i]) + " is too low for its font");
         }
         for (std::size_t k = i + 1; k < seen.size(); ++k) {
             const RECT other = screenArea(seen[k]);

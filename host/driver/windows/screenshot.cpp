@@ -11,11 +11,13 @@ namespace {
 
 constexpr int margin = 12;  // pixels of what stands around
 
-// Dialogs, message boxes, menus and tooltips pop up; the host program's own window does not.
+// Dialogs, message boxes, menus and tooltips pop up; the host program's own window does not. A
+// dialog behind another one is disabled.
 BOOL CALLBACK addArea(HWND window, LPARAM parameter) {
     auto& all = *reinterpret_cast<RECT*>(parameter);
     RECT area{};
-    const bool popsUp = (GetWindowLongPtrW(window, GWL_STYLE) & WS_POPUP) != 0;
+    const LONG_PTR bits = GetWindowLongPtrW(window, GWL_STYLE);
+    const bool popsUp = (bits & WS_POPUP) != 0 && (bits & WS_DISABLED) == 0;
     if (popsUp && IsWindowVisible(window) && GetWindowRect(window, &area)) {
         UnionRect(&all, &all, &area);
     }
