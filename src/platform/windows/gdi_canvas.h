@@ -69,6 +69,20 @@ private:
     Font m_font;
 };
 
+// Ends the paint also when the painter throws; else the system would ask for it forever.
+class PaintScope {
+public:
+    explicit PaintScope(HWND window) : m_window(window) { BeginPaint(window, &m_paint); }
+    PaintScope(const PaintScope&) = delete;
+    PaintScope& operator=(const PaintScope&) = delete;
+    ~PaintScope() { EndPaint(m_window, &m_paint); }
+    HDC dc() const { return m_paint.hdc; }
+
+private:
+    HWND m_window;
+    PAINTSTRUCT m_paint = {};
+};
+
 // A bitmap in memory that is painted on and then copied, so that nothing flickers.
 class OffScreen {
 public:

@@ -1,6 +1,7 @@
 #include "platform/windows/list_box_control.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/windows/gdi_canvas.h"
 #include "platform/windows/wide_text.h"
@@ -18,7 +19,20 @@ Text colorText(const std::optional<Color>& color) {
            std::to_string(color->blue);
 }
 
+// The same face in rows that are too low for it. height: of a whole line, in pixels.
+HFONT lowerFont(HFONT font, int height) {
+    LOGFONTW look = {};
+    if (!GetObjectW(font, sizeof look, &look)) return nullptr;
+    look.lfHeight = height;
+    look.lfWidth = 0;
+    return CreateFontIndirectW(&look);
+}
+
 }  // namespace
+
+WindowsListBox::~WindowsListBox() {
+    if (m_smallFont) DeleteObject(m_smallFont);
+}
 
 WindowClass WindowsListBox::windowClass() const {
     DWORD bits =
@@ -37,8 +51,11 @@ void WindowsListBox::attached() {
 
 void WindowsListBox::setRowHeight(int pixels) {
     m_rowHeight = pixels;
-    if (pixels <= 0 && window()) {
-        pixels = dialog().textHeight() + 2;
+    if (window()) {
+        const int textHeight = dialog().textHeight();
+        if (pixels <= 0) pixels = textHeight + 2;
+        if (m_smallFont) DeleteObject(std::exchange(m_smallFont, nullptr));
+        if (textHeight > pixels) m_smallFont = lowerFont(dialog().font(), pixels);
     }
     send(LB_SETITEMHEIGHT, 0, pixels);
     redraw();
@@ -130,7 +147,20 @@ void WindowsListBox::command(WORD code) {
     if (code == LBN_DBLCLK) fire(onDoubleClick);
 }
 
+// Rows paint their own ground: only what is left below them.
+void WindowsListBox::eraseBelowRows(HDC dc) const {
+    RECT area = {};
+    GetClientRect(window(), &area);
+    const LRESULT rows = count() - send(LB_GETTOPINDEX);
+    area.top = static_cast<LONG>(std::min<LRESULT>(rows * send(LB_GETITEMHEIGHT), area.bottom));
+    FillRect(dc, &area, GetSysColorBrush(COLOR_WINDOW));
+}
+
 LRESULT WindowsListBox::message(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_ERASEBKGND) {
+        eraseBelowRows(reinterpret_cast<HDC>(wParam));
+        return 1;
+    }
     if (message == WM_CONTEXTMENU && onContext) {
         fire(onContext, contextPoint(lParam));
         return 0;
@@ -176,18 +206,9 @@ void WindowsListBox::drawRow(HDC dc, const RECT& area, const ListRow& row, bool 
     if (row.textColor) text = nativeColor(*row.textColor);
     if (!isEnabled()) text = GetSysColor(COLOR_GRAYTEXT);
 
-    SetDCBrushColor(dc, background);
-    FillRect(dc, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
-    if (row.icon) {
-        GdiCanvas canvas(dc, dialog().drawingTools());
-        canvas.drawIcon(
-            row.icon,
-            {static_cast<int>(area.left) + rowIconAt.x, static_cast<int>(area.top) + rowIconAt.y},
-            rowIcon);
-    }
     const std::wstring shown = wide(row.text);
     const int saved = SaveDC(dc);
-    SelectObject(dc, dialog().font());
+    SelectObject(dc, m_smallFont ? m_smallFont : dialog().font());
     SetTextColor(dc, text);
     SetBkColor(dc, background);
     SIZE size = {};
@@ -195,9 +216,17 @@ void WindowsListBox::drawRow(HDC dc, const RECT& area, const ListRow& row, bool 
     const int y =
         static_cast<int>(area.top) +
         std::max(0, (static_cast<int>(area.bottom - area.top) - static_cast<int>(size.cy)) / 2);
-    ExtTextOutW(dc, static_cast<int>(area.left) + row.indent, y, ETO_CLIPPED, &area, shown.c_str(),
-                static_cast<UINT>(shown.size()), nullptr);
+    // Ground and text at once.
+    ExtTextOutW(dc, static_cast<int>(area.left) + row.indent, y, ETO_CLIPPED | ETO_OPAQUE, &area,
+                shown.c_str(), static_cast<UINT>(shown.size()), nullptr);
     RestoreDC(dc, saved);
+    if (row.icon) {
+        GdiCanvas canvas(dc, dialog().drawingTools());
+        canvas.drawIcon(
+            row.icon,
+            {static_cast<int>(area.left) + rowIconAt.x, static_cast<int>(area.top) + rowIconAt.y},
+            rowIcon);
+    }
 }
 
 Text WindowsListBox::describe(DescribeQuestion question, const DescribeRequest& request) {

@@ -8,6 +8,7 @@ namespace lx {
 class WindowsListBox final : public WindowsControl<ListBox> {
 public:
     using WindowsControl::WindowsControl;
+    ~WindowsListBox() override;
     void clear() override;
     void insert(int index, const ListRow& row) override;
     void set(int index, const ListRow& row) override;
@@ -30,12 +31,14 @@ protected:
     Text windowText() const override { return m_text; }
 
 private:
+    void eraseBelowRows(HDC dc) const;
     void drawRow(HDC dc, const RECT& area, const ListRow& row, bool marked);
     Point contextPoint(LPARAM lParam) const;
 
     std::vector<ListRow> m_rows;
-    int m_selected = -1;  // as last told or set
-    int m_rowHeight = 0;  // 0 = what the font needs
+    int m_selected = -1;          // as last told or set
+    int m_rowHeight = 0;          // 0 = what the font needs
+    HFONT m_smallFont = nullptr;  // of rows that are too low for the dialog's font
 };
 
 }  // namespace lx

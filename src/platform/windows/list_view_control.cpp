@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <numeric>
 
+#include "platform/windows/gdi_canvas.h"
 #include "platform/windows/platform_windows.h"
 #include "platform/windows/wide_text.h"
 #include "platform/windows/windows_dialog.h"
@@ -33,7 +34,7 @@ WindowsListView::~WindowsListView() {
 }
 
 WindowClass WindowsListView::windowClass() const {
-    DWORD bits = LVS_REPORT | LVS_OWNERDATA | LVS_SHOWSELALWAYS;
+    DWORD bits = LVS_REPORT | LVS_OWNERDATA | LVS_SHOWSELALWAYS | WS_CLIPCHILDREN;
     if (!hasStyle(style::multipleSelection)) bits |= LVS_SINGLESEL;
     return {WC_LISTVIEWW, bits, WS_EX_CLIENTEDGE};
 }
@@ -274,7 +275,24 @@ void WindowsListView::openContext(Point p) {
     fire(onContext, p);
 }
 
+// The ground and the rows in one go; the system would show the bare ground first.
+void WindowsListView::paint() {
+    const PaintScope scope(window());
+    RECT client = {};
+    GetClientRect(window(), &client);
+    const OffScreen bitmap(scope.dc(), portableRect(client).size());
+    if (!bitmap.dc()) return;
+    FillRect(bitmap.dc(), &client, GetSysColorBrush(COLOR_WINDOW));
+    inherited(WM_PAINT, reinterpret_cast<WPARAM>(bitmap.dc()), 0);
+    bitmap.copyTo(scope.dc());
+}
+
 LRESULT WindowsListView::message(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_ERASEBKGND) return 1;
+    if (message == WM_PAINT) {
+        paint();
+        return 0;
+    }
     // The right button's menu comes as a notification with the point clicked.
     if (message == WM_CONTEXTMENU && lParam == -1 && onContext) {
         openContext(keyboardContextPoint());

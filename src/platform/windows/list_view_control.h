@@ -48,6 +48,7 @@ private:
     void showArrow(int column);
     void makeArrows();
     void setState(int row, UINT state, UINT mask);
+    void paint();
     void giveText(NMLVDISPINFOW& request);
     void selectionMayHaveChanged();
     void reportSelection();

@@ -36,20 +36,6 @@ private:
     Canvas& m_kept;
 };
 
-// Ends the paint also when the painter throws; else the system would ask for it forever.
-class PaintScope {
-public:
-    explicit PaintScope(HWND window) : m_window(window) { BeginPaint(window, &m_paint); }
-    PaintScope(const PaintScope&) = delete;
-    PaintScope& operator=(const PaintScope&) = delete;
-    ~PaintScope() { EndPaint(m_window, &m_paint); }
-    HDC dc() const { return m_paint.hdc; }
-
-private:
-    HWND m_window;
-    PAINTSTRUCT m_paint = {};
-};
-
 Point pointOf(LPARAM lParam) {
     return {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
 }

@@ -12,7 +12,8 @@ WindowClass WindowsLabel::windowClass() const {
 }
 
 WindowClass WindowsGroupBox::windowClass() const {
-    return {L"BUTTON", BS_GROUPBOX};
+    // It paints its frame alone: the dialog's ground leaves out all controls but this kind.
+    return {L"BUTTON", BS_GROUPBOX, WS_EX_TRANSPARENT};
 }
 
 // ---- push buttons
@@ -36,7 +37,8 @@ void WindowsButton::applyIcon() {
     if (!window() || kind() != ControlKind::iconButton) return;
     constexpr int margin = 3;  // edge and focus frame
     const Size size = doArea().size();
-    const int side = std::min({size.width - 2 * margin, size.height - 2 * margin, 32});
+    const int side =
+        std::min({size.width - 2 * margin, size.height - 2 * margin, GetSystemMetrics(SM_CXICON)});
     const HICON icon = side > 0 ? dialog().icons().get(m_icon, {side, side}) : nullptr;
     send(BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(icon));
 }

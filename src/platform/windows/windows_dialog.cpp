@@ -27,10 +27,12 @@ constexpr int scaleWidth = 400;
 constexpr int scaleHeight = 800;
 
 DWORD windowStyle(DialogStyle style) {
-    constexpr DWORD framed = WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_SETFONT;
+    // The ground is never painted over the controls, which would flicker.
+    constexpr DWORD all = DS_SETFONT | WS_CLIPCHILDREN;
+    constexpr DWORD framed = all | WS_POPUP | WS_CAPTION | WS_SYSMENU;
     switch (style) {
         case DialogStyle::page:
-            return WS_CHILD | DS_CONTROL | DS_SETFONT;
+            return all | WS_CHILD | DS_CONTROL;
         case DialogStyle::resizable:
             return framed | WS_THICKFRAME | WS_MAXIMIZEBOX;
         case DialogStyle::modal:
@@ -161,6 +163,26 @@ void WindowsDialog::createWindow(const DialogTemplate& layout, HWND parent) {
     m_font = reinterpret_cast<HFONT>(SendMessageW(m_window, WM_GETFONT, 0, 0));
     RECT scale = {0, 0, scaleWidth, scaleHeight};
     if (MapDialogRect(m_window, &scale)) m_unitScale = portableRect(scale);
+    if (isPage()) blendIntoTabs();
+}
+
+// A page on a tab control that the host has the system's theme draw gets the ground of the tabs.
+// Where there is such a tab control, the library of themes is loaded.
+void WindowsDialog::blendIntoTabs() {
+    const HMODULE themes = GetModuleHandleW(L"uxtheme.dll");
+    const auto& around = m_parent->m_controls;
+    const auto tabs = std::find_if(around.begin(), around.end(), [](const auto& control) {
+        return control->kind() == ControlKind::tabControl;
+    });
+    if (!themes || tabs == around.end()) return;
+    const auto find = [themes](const char* name) {
+        return reinterpret_cast<void (*)()>(GetProcAddress(themes, name));
+    };
+    const auto themeOf = reinterpret_cast<HANDLE(WINAPI*)(HWND)>(find("GetWindowTheme"));
+    const auto blend =
+        reinterpret_cast<HRESULT(WINAPI*)(HWND, DWORD)>(find("EnableThemeDialogTexture"));
+    constexpr DWORD groundOfTabs = 6;  // ETDT_ENABLETAB
+    if (themeOf && blend && themeOf((*tabs)->window())) blend(m_window, groundOfTabs);
 }
 
 void WindowsDialog::createControls(std::span<const ControlTemplate> controls) {

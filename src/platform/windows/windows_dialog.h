@@ -97,6 +97,7 @@ private:
     void make(const DialogTemplate& layout, const Owner& owner);
     void takeBack();
     void createWindow(const DialogTemplate& layout, HWND parent);
+    void blendIntoTabs();
     void createControls(std::span<const ControlTemplate> controls);
     void firstShow();
     void closeWindow();
