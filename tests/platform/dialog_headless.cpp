@@ -169,6 +169,19 @@ TEST_F(SampleDialog, TheFocusLeavesWhatGoesAway) {
     });
 }
 
+TEST_F(SampleDialog, EscClosesAListAloneAndGivesTheChoiceBack) {
+    run([this] {
+        auto& combo = at<HeadlessComboBox>(colours);
+        for (const char* item : {"red", "green"}) combo.add(item);
+        combo.select(0);
+        combo.userDropDown(true);
+        dialog.userKey(plain(key::down));
+        dialog.userKey(plain(key::escape));
+        EXPECT_EQ(combo.text(), "red");
+        EXPECT_TRUE(dialog.running());
+    });
+}
+
 TEST_F(SampleDialog, PicturesPaintWhenAskedAndKnowTheirGuests) {
     int paints = 0;
     auto& picture = at<HeadlessPicture>(field);
