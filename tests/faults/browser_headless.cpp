@@ -18,7 +18,7 @@ bool holdsAdded(const CPreklItem* items) {
     return false;
 }
 
-void addInBrowser(host::Session& user) {
+void addInBrowser(Session& user) {
     user.inDialog(browser, [](Driver& d) { d.chooseMenu("Nový/Překlad"); });
     user.inDialog("Nový překlad", [](Driver& d) {
         d.focus("Označení");
@@ -39,7 +39,7 @@ Answer addAndConfirm(const Path& folder) {
     if (!loaded.opened) return Answer::untold;
     const std::unique_ptr<Platform> platform = makeTestPlatform();
     const std::unique_ptr<Driver> driver = makeTestDriver(*platform);
-    host::Session user(*driver);
+    Session user(*driver);
     if (!holdsAdded(loaded.head.get())) addInBrowser(user);
     user.inDialog(browser, [](Driver& d) {
         d.selectRowAt("items", 0);

@@ -137,16 +137,16 @@ TEST_F(SampleDialog, EditsKeepLineEndsAndTheirText) {
     });
 }
 
-TEST_F(HeadlessTest, ReadOnlyEditsKeepTheirText) {
-    HeadlessDialog& dialog = make({"fixed", "", 50, 50, fixedControls});
+TEST_F(SampleDialog, ReadOnlyEditsKeepTheirText) {
+    HeadlessDialog& window = make({"fixed", "", 50, 50, fixedControls});
     then([&] {
-        auto& fixed = dynamic_cast<HeadlessEdit&>(dialog.item(nameField));
+        auto& fixed = dynamic_cast<HeadlessEdit&>(window.item(nameField));
         fixed.userType(U'z');
-        dialog.userKey(plain(key::del));
+        window.userKey(plain(key::del));
         EXPECT_EQ(fixed.text(), "as it is");
-        dialog.end(1);
+        window.end(1);
     });
-    EXPECT_EQ(dialog.runModal(), 1);
+    EXPECT_EQ(window.runModal(), 1);
 }
 
 TEST_F(SampleDialog, TheFocusLeavesWhatGoesAway) {
