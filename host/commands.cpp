@@ -1,6 +1,7 @@
 // The lines of a scenario that set something up or act as the user.
 #include <charconv>
 #include <chrono>
+#include <fstream>
 #include <stdexcept>
 #include <thread>
 
@@ -94,6 +95,19 @@ void cutFile(PlayContext& context, const Words& words) {
     }
     bytes->resize(static_cast<std::size_t>(size));
     writeFile(file, *bytes);
+}
+
+void extendFile(PlayContext& context, const Words& words) {
+    const fs::path file = context.folders.path(words[0]);
+    const int size = wholeNumber(words[1]);
+    if (size < 0 || static_cast<std::uintmax_t>(size) <= fs::file_size(file)) {
+        throw std::runtime_error("the file is as long already");
+    }
+    // Systems that can keep such files with holes do, which resize_file does not on all of them.
+    std::fstream stream(file, std::ios::in | std::ios::out | std::ios::binary);
+    if (!stream.seekp(size - 1).put('\0').flush()) {
+        throw std::runtime_error("cannot write " + utf8FromPath(file));
+    }
 }
 
 void setSetting(PlayContext& context, const Words& words) {
@@ -209,6 +223,7 @@ const std::vector<Command>& commands() {
         {"file", 1, anyNumber, Where::anywhere, writeText},
         {"bytes", 1, anyNumber, Where::anywhere, writeBytes},
         {"cut", 2, 2, Where::anywhere, cutFile},
+        {"extend", 2, 2, Where::anywhere, extendFile},
         {"copy", 2, 2, Where::anywhere,
          [](C& c, const W& w) { copyFile(c.folders.path(w[0]), c.folders.path(w[1])); }},
         {"remove", 1, 1, Where::anywhere,

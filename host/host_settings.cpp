@@ -105,6 +105,8 @@ const std::vector<Setting>& settings() {
          [](S& s, V v) { return setSwitch(s.host, v); }},
         {"vdhelp", "on|off", "off: there is no vdhelp.dll",
          [](S& s, V v) { return setSwitch(s.helpLibrary, v); }},
+        {"load", "FILE|none", "a library beside the program that is loaded before the module",
+         [](S& s, V v) { return setText(s.otherLibrary, v); }},
         {"drawing", "TEXT|none", "the drawing's file name; none: the table cannot tell variables",
          [](S& s, V v) { return setText(s.drawing, v); }},
         {"units", "N|none", "drawing units per metre; none: the table cannot tell",

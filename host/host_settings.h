@@ -24,6 +24,8 @@ struct HostSettings {
     bool arx = false;         // VORDAN2D.ARX is loaded beside the program itself
     bool host = true;         // false: no module of the host is loaded (headless only)
     bool helpLibrary = true;  // vdhelp.dll can be loaded
+    // A library beside the program that the process has loaded before the module (Windows only).
+    std::optional<std::string> otherLibrary;
     std::optional<std::string> drawing = "C:\\Stavba\\Dum.dwg";  // "DWGNAME"; none: no entry 29
     std::optional<int> units = 1000;                             // none: no entry 33
     bool lockEntry = true;                                       // entry 44

@@ -31,6 +31,7 @@ public:
             throw std::runtime_error("this program is the host itself: \"host off\" is for lxhost");
         }
         g_helpLibrary = settings.helpLibrary;
+        if (settings.otherLibrary) m_other = open(*settings.otherLibrary);
         if (settings.arx) m_arx = open("VORDAN2D.ARX");
         m_module = open(moduleName);
         ModuleCalls calls;
@@ -44,6 +45,7 @@ public:
     void unload() {
         close(m_module);
         close(m_arx);
+        close(m_other);
         // The module leaves it loaded; the next one is to find the process as this one did.
         while (const HMODULE help = GetModuleHandleW(helpName)) {
             if (!FreeLibrary(help)) break;
@@ -51,7 +53,7 @@ public:
     }
 
 private:
-    HMODULE open(const char* name) const {
+    HMODULE open(const std::string& name) const {
         const std::wstring file = pathFromUtf8(m_folder + name).wstring();
         const HMODULE module = LoadLibraryExW(file.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
         if (module == nullptr) {
@@ -79,6 +81,7 @@ private:
     std::string m_folder;
     HMODULE m_module = nullptr;
     HMODULE m_arx = nullptr;
+    HMODULE m_other = nullptr;
 };
 
 }  // namespace

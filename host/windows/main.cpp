@@ -83,6 +83,7 @@ int main() {
         std::cerr << options.error << "\nVORDANLT.EXE --help tells what there is." << std::endl;
         return 2;
     }
+    if (!options.scenarios.empty()) std::cout << "code page " << GetACP() << std::endl;
     HostWindow window;
     HostServices services;
     WindowsDriver driver;
