@@ -126,7 +126,7 @@ void CObr1::RefreshAvailability() {
 
 void CObr1::RebuildPrecastOffer() {
     m_model.rebuildPrecastOffer(m_precast->selectedType());
-    m_precast->showOffer();
+    if (!m_opening) m_precast->showOffer();
     EndEdit();
     RefreshAvailability();
     RefreshProperties();
@@ -134,7 +134,7 @@ void CObr1::RebuildPrecastOffer() {
 
 void CObr1::RebuildSteelOffer() {
     m_model.rebuildSteelOffer(m_steel->selectedType());
-    m_steel->showOffer();
+    if (!m_opening) m_steel->showOffer();
     RefreshAvailability();
     RefreshProperties();
 }
@@ -185,8 +185,8 @@ void CObr1::chooseSource(PropertiesSource source) {
     RefreshProperties();
 }
 
-// Turning a section leaves the layers where they are, and a description that the user has not
-// touched follows what is stored.
+// Commands that do not lay out, such as turning a section, leave old offsets and levels; what is
+// stored is what is shown. A description that the user has not touched follows it.
 void CObr1::layOutToConfirm() {
     const CRez* head = m_model.head();
     if (head == nullptr) return;

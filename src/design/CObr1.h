@@ -111,6 +111,8 @@ private:
     std::unique_ptr<MonolithPage> m_monolith;
     std::unique_ptr<LibraryPage> m_libraryPage;
     std::optional<CatalogueElement> m_browserElement;  // that the last browser showed first
+    // The offers are made several times while the dialog opens; their lists are filled at its end.
+    bool m_opening = false;
     int m_tab = page::geometry;
     PropertiesSource m_source = PropertiesSource::offer;
     int m_helpTopic = 0;

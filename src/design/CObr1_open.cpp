@@ -48,6 +48,7 @@ void CObr1::connect() {
 void CObr1::open() {
     connect();
     if (!loadCatalogues()) return m_window->end(id::cancel);
+    m_opening = true;
     m_model.startDesign();
     makePages();
     fillTypeBoxes();
@@ -146,6 +147,7 @@ void CObr1::showStoredTab() {
     const int index = stored >= 0 && stored < page::count ? stored : page::geometry;
     m_window->get<TabControl>(id::tabs).select(index);
     ShowTab(index);
+    m_opening = false;
     RebuildPrecastOffer();
     RebuildSteelOffer();
     pages()[static_cast<std::size_t>(index)]->window().focusFirst();

@@ -21,8 +21,6 @@ ConfirmationAnswer confirmDesign(const ConfirmationInput& input, DesignModel& mo
     result.foldedSection = foldedSectionResult(input.annotation);
     result.insert = insertSet(input.annotation);
 
-    // Commands that do not lay out leave old offsets and levels; what is stored is what is shown.
-    model.Relayout();
     if (CRez* head = model.head()) {
         head->setLabel(input.bubbleName);
         head->level = library.projects().selected;

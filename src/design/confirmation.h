@@ -31,6 +31,7 @@ enum class ConfirmationAnswer {
     storeFailed     // the library could not be written; the results are set
 };
 
+// The design must be laid out: it is stored as it is.
 ConfirmationAnswer confirmDesign(const ConfirmationInput& input, DesignModel& model,
                                  LibrarySession& library, DialogSettings& settings, Files& files,
                                  CallResult& result);
