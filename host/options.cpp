@@ -40,9 +40,7 @@ private:
     int number(const std::string& name) {
         const std::string text = value(name);
         int parsed = 0;
-        const char* end = text.data() + text.size();
-        const auto [stop, error] = std::from_chars(text.data(), end, parsed);
-        if (error != std::errc() || stop != end || parsed < 0) {
+        if (!parseNumber(text, parsed) || parsed < 0) {
             fail("--" + name + " is a number, not \"" + text + "\"");
         }
         return parsed;
@@ -63,6 +61,10 @@ private:
             m_options.data = value(name);
         } else if (name == "temp") {
             m_options.temporary = value(name);
+        } else if (name == "first-paint") {
+            m_options.firstPaint = number(name);
+            if (m_options.firstPaint <= 0) fail("--first-paint needs at least one call");
+            function("CallLXdata6");
         } else if (HostSettings::known(name)) {
             fail(m_options.host.set(name, value(name)));
             m_options.profileGiven |= name == "profile";
@@ -136,7 +138,12 @@ std::string optionsHelp(const std::string& programName) {
            "  --out DIR                             where folders and pictures are made (out)\n"
            "  --data DIR                            LXDATA6.DAT, LXDATA6S.DAT, VDLINTEL.TXT "
            "(data beside the program)\n"
-           "  --temp DIR                            the folder for temporary files\n\n"
+           "  --temp DIR                            the folder for temporary files\n"
+           "  --first-paint N                       calls CallLXdata6 N times, cancels and tells "
+           "how "
+           "long\n"
+           "                                        its dialog took to be painted "
+           "(VORDANLT.EXE)\n\n"
            "The host (a scenario sets the folders and may set the rest):\n" +
            HostSettings::help() + "\nThe opening of CallLXdata6:\n" + Opening::help();
 }

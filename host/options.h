@@ -21,6 +21,7 @@ struct Options {
     std::string temporary;               // "" = the system's
     std::optional<CallRequest> call;     // a function to call
     Chance chance;                       // in the scenarios
+    int firstPaint = 0;                  // times to call CallLXdata6 and measure; 0 = no measuring
     std::vector<std::string> scenarios;  // files to play, in order
     std::string out = "out";             // folder for everything that is made
     std::string data;  // folder of LXDATA6.DAT, LXDATA6S.DAT and VDLINTEL.TXT; "" = beside the

@@ -23,6 +23,10 @@ int main(int argc, char** argv) {
         std::cerr << options.error << "\nlxhost --help tells what there is." << std::endl;
         return 2;
     }
+    if (options.firstPaint > 0) {
+        std::cerr << "--first-paint is for VORDANLT.EXE: nothing is painted here" << std::endl;
+        return 2;
+    }
     lx::HeadlessPlatform platform;
     HeadlessDriver driver(platform);
     HostServices services;

@@ -12,6 +12,7 @@
 #include "host/driver/windows/windows_driver.h"
 #include "host/options.h"
 #include "host/paths.h"
+#include "host/windows/first_paint.h"
 #include "host/windows/host_window.h"
 #include "host/windows/loaded_module.h"
 
@@ -92,5 +93,7 @@ int main() {
         window.call(settings, call);
     };
     module.windows = [&window] { return window.look(); };
-    return runStandIn(options, services, module, driver, std::cout, std::cerr);
+    return options.firstPaint > 0
+               ? tellFirstPaint(options, services, module, std::cout, std::cerr)
+               : runStandIn(options, services, module, driver, std::cout, std::cerr);
 }
