@@ -261,6 +261,7 @@ Answer confirm(const Path& folder) {
     DialogSettings settings(systemFiles(), folder);
     library.LoadProjects();
     library.LoadLibrary(model);
+    model.Relayout();
     CallResult result;
     confirmDesign({"A", "D", {true, true, false, true}, false, 1, 2, 3}, model, library, settings,
                   systemFiles(), result);

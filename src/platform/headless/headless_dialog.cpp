@@ -75,13 +75,19 @@ HeadlessDialog::~HeadlessDialog() {
     HeadlessDialog& top = root();
     if (&top != this) {
         if (top.m_focus && &top.m_focus->dialog() == this) top.m_focus = nullptr;
-        for (HeadlessControl* guest : top.allControls()) {
-            const HeadlessControl* host = guest->m_container;
-            if (host && &host->dialog() == this) guest->m_container = nullptr;
-        }
+        top.sendGuestsHome(*this);
     }
     if (isPage() && m_owner) std::erase(m_owner->m_pages, this);
     for (HeadlessDialog* page : m_pages) page->m_owner = nullptr;
+}
+
+// Without memory of its own: windows go away when there is none left, too.
+void HeadlessDialog::sendGuestsHome(const HeadlessDialog& gone) {
+    for (const auto& control : m_controls) {
+        const HeadlessControl* host = control->m_container;
+        if (host && &host->dialog() == &gone) control->m_container = nullptr;
+    }
+    for (HeadlessDialog* page : m_pages) page->sendGuestsHome(gone);
 }
 
 void HeadlessDialog::makeControl(const ControlTemplate& layout) {

@@ -116,6 +116,8 @@ private:
     void checkOnTop(const char* act) const;
     void settle() const;
     void makeControl(const ControlTemplate& layout);
+    // Takes controls out of those of a dialog that goes away.
+    void sendGuestsHome(const HeadlessDialog& gone);
     void centre();
     void closeWindow();
     void loseCapture();
