@@ -118,6 +118,7 @@ RezChain buildPrecastOffer(const CPreklItem* catalogue, std::int32_t type, doubl
 }
 
 void addPicked(RezChain& offer, const std::vector<const CPreklItem*>& picked) {
+    if (picked.empty()) return;
     std::unordered_set<Text> known;
     for (const CRez* record = offer.head(); record; record = record->next) {
         known.insert(identity(*record));
