@@ -1,5 +1,7 @@
 #include "catalogue/CList1.h"
 
+#include <utility>
+
 #include "catalogue/popup_key.h"
 #include "resources/icons.h"
 #include "resources/ids.h"
@@ -30,8 +32,9 @@ CList1::CList1(Dialog& window, ListBox& list, CatalogueKind kind)
 }
 
 void CList1::fill(std::span<CPreklItem* const> types) {
-    m_list.clear();
-    for (const CPreklItem* type : types) add(*type);
+    std::vector<ListRow> rows;
+    for (const CPreklItem* type : types) rows.push_back(rowOf(*type));
+    m_list.fill(std::move(rows));
     m_list.select(0);
 }
 

@@ -113,7 +113,8 @@ struct ListRow {
 // Single selection. The list never sorts: the model does.
 class ListBox : public Control {
 public:
-    virtual void clear() = 0;
+    // These rows instead of those that there are; none is selected.
+    virtual void fill(std::vector<ListRow> rows) = 0;
     // index from 0 to count(); rows behind move down. The selection stays on its row.
     virtual void insert(int index, const ListRow& row) = 0;
     void append(const ListRow& row) { insert(count(), row); }

@@ -1,15 +1,18 @@
 #include "tabs/CBookList.h"
 
+#include <utility>
+
 #include "tabs/CNabidka.h"
 
 namespace lx {
 
 void CBookList::fill() {
-    m_list.clear();
+    std::vector<ListRow> rows;
     int entry = 0;
     for (const Text& label : m_model.storedLabels()) {
-        m_list.append(listRow(label, m_model.storedSuits(entry++)));
+        rows.push_back(listRow(label, m_model.storedSuits(entry++)));
     }
+    m_list.fill(std::move(rows));
     m_list.select(m_model.shownStored());
 }
 

@@ -1,5 +1,7 @@
 #include "tabs/CNabidka.h"
 
+#include <utility>
+
 namespace lx {
 
 namespace {
@@ -19,8 +21,9 @@ ListRow listRow(std::string_view text, bool suitable) {
 }
 
 void CNabidka::fill(const Offer& offer, std::int32_t freeSpace) {
-    m_list.clear();
-    for (int i = 0; i < offer.count(); ++i) m_list.append(rowOf(offer.row(i), freeSpace));
+    std::vector<ListRow> rows;
+    for (const CRez* element : offer.rows()) rows.push_back(rowOf(*element, freeSpace));
+    m_list.fill(std::move(rows));
     m_list.select(offer.selected());
 }
 

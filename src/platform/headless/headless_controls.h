@@ -223,7 +223,7 @@ private:
 class HeadlessListBox final : public HeadlessBase<ListBox> {
 public:
     using HeadlessBase::HeadlessBase;
-    void clear() override;
+    void fill(std::vector<ListRow> rows) override;
     void insert(int index, const ListRow& row) override;
     void set(int index, const ListRow& row) override;
     void remove(int index) override;

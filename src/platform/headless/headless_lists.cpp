@@ -1,6 +1,7 @@
 // List boxes and list views.
 #include <algorithm>
 #include <numeric>
+#include <utility>
 
 #include "platform/headless/headless_platform.h"
 #include "platform/numbers.h"
@@ -45,8 +46,8 @@ int scrolled(int top, int row, int shown) {
 
 }  // namespace
 
-void HeadlessListBox::clear() {
-    m_rows.clear();
+void HeadlessListBox::fill(std::vector<ListRow> rows) {
+    m_rows = std::move(rows);
     m_selected = -1;
     m_top = 0;
 }

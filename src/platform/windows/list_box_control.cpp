@@ -43,9 +43,7 @@ WindowClass WindowsListBox::windowClass() const {
 
 void WindowsListBox::attached() {
     setRowHeight(m_rowHeight);
-    for (std::size_t i = 0; i < m_rows.size(); ++i) {
-        send(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(wide(m_rows[i].text).c_str()));
-    }
+    addRows();
     send(LB_SETCURSEL, static_cast<WPARAM>(m_selected));
 }
 
@@ -61,10 +59,25 @@ void WindowsListBox::setRowHeight(int pixels) {
     redraw();
 }
 
-void WindowsListBox::clear() {
-    m_rows.clear();
+// The list settles its scroll bar and what is to be painted at every row unless it is told to wait.
+void WindowsListBox::fill(std::vector<ListRow> rows) {
+    m_rows = std::move(rows);
     m_selected = -1;
+    if (!window()) return;
+    send(WM_SETREDRAW, FALSE);
     send(LB_RESETCONTENT);
+    addRows();
+    send(WM_SETREDRAW, TRUE);
+    redraw();
+}
+
+void WindowsListBox::addRows() {
+    std::size_t bytes = 0;
+    for (const ListRow& row : m_rows) bytes += (row.text.size() + 1) * sizeof(wchar_t);
+    send(LB_INITSTORAGE, m_rows.size(), static_cast<LPARAM>(bytes));
+    for (const ListRow& row : m_rows) {
+        send(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(wide(row.text).c_str()));
+    }
 }
 
 void WindowsListBox::insert(int index, const ListRow& row) {

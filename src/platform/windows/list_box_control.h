@@ -9,7 +9,7 @@ class WindowsListBox final : public WindowsControl<ListBox> {
 public:
     using WindowsControl::WindowsControl;
     ~WindowsListBox() override;
-    void clear() override;
+    void fill(std::vector<ListRow> rows) override;
     void insert(int index, const ListRow& row) override;
     void set(int index, const ListRow& row) override;
     void remove(int index) override;
@@ -31,6 +31,7 @@ protected:
     Text windowText() const override { return m_text; }
 
 private:
+    void addRows();
     void eraseBelowRows(HDC dc) const;
     void drawRow(HDC dc, const RECT& area, const ListRow& row, bool marked);
     Point contextPoint(LPARAM lParam) const;
