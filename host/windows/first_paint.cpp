@@ -31,8 +31,8 @@ BOOL CALLBACK cancelDialog(HWND window, LPARAM) {
     return FALSE;
 }
 
-// Listens in the module's message loop. A message posted when a paint is retrieved comes back right
-// after that paint is done; a timer's comes only when there is nothing left to paint.
+// Listens in the module's message loop. Paints are sent, or retrieved: a message posted then comes
+// back right after the paint is done. A timer's comes only when there is nothing left to paint.
 class Watcher {
 public:
     Watcher() {
@@ -45,11 +45,13 @@ public:
                                    look.hInstance, nullptr);
         s_window = m_window;
         s_painted = 0;
-        m_hook = SetWindowsHookExW(WH_GETMESSAGE, retrieved, nullptr, GetCurrentThreadId());
+        m_retrieved = SetWindowsHookExW(WH_GETMESSAGE, retrieved, nullptr, GetCurrentThreadId());
+        m_sent = SetWindowsHookExW(WH_CALLWNDPROCRET, sent, nullptr, GetCurrentThreadId());
         SetTimer(m_window, 1, tickMilliseconds, nullptr);
     }
     ~Watcher() {
-        UnhookWindowsHookEx(m_hook);
+        UnhookWindowsHookEx(m_sent);
+        UnhookWindowsHookEx(m_retrieved);
         DestroyWindow(m_window);
     }
     Watcher(const Watcher&) = delete;
@@ -61,10 +63,16 @@ public:
 private:
     static LRESULT CALLBACK retrieved(int code, WPARAM removed, LPARAM lParam) {
         const auto& message = *reinterpret_cast<const MSG*>(lParam);
-        if (code == HC_ACTION && removed == PM_REMOVE && message.message == WM_PAINT) {
+        if (code == HC_ACTION && (removed & PM_REMOVE) != 0 && message.message == WM_PAINT) {
             PostMessageW(s_window, painted, 0, 0);
         }
         return CallNextHookEx(nullptr, code, removed, lParam);
+    }
+
+    static LRESULT CALLBACK sent(int code, WPARAM wParam, LPARAM lParam) {
+        const auto& message = *reinterpret_cast<const CWPRETSTRUCT*>(lParam);
+        if (code == HC_ACTION && message.message == WM_PAINT) s_painted = milliseconds();
+        return CallNextHookEx(nullptr, code, wParam, lParam);
     }
 
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -79,7 +87,8 @@ private:
     static HWND s_window;
     static double s_painted;
     HWND m_window = nullptr;
-    HHOOK m_hook = nullptr;
+    HHOOK m_retrieved = nullptr;
+    HHOOK m_sent = nullptr;
 };
 
 HWND Watcher::s_window = nullptr;
