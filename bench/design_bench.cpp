@@ -15,7 +15,7 @@ using namespace lx;
 
 constexpr Size preview{480, 400};
 
-// A bend over every second layer, each fifth layer insulation.
+// A bend over every second layer, each fifth layer insulation, the end of the head sloping.
 RezChain designOf(std::int64_t layers) {
     constexpr std::int32_t width = 70;
     RezChain design;
@@ -28,6 +28,7 @@ RezChain designOf(std::int64_t layers) {
         added.height = 238;
         added.length = 1450;
     }
+    head.addBend(0, 60, true);
     layOut(head);
     settleSection(head, preview);
     return design;
@@ -51,6 +52,7 @@ void layout(benchmark::State& state) {
     CRez& head = *design.head();
     for (auto _ : state) {
         layOut(head);
+        settleSection(head, preview);
         benchmark::DoNotOptimize(availability(&head, design.last(), design.last(), design.last()));
         benchmark::ClobberMemory();
     }
