@@ -18,7 +18,6 @@
 #include "entry/erase_choice.h"
 #include "entry/merge_call.h"
 #include "settings/keys.h"
-#include "settings/store.h"
 #include "settings/value_history.h"
 #include "tests/support/bench.h"
 #include "tests/support/catalogues.h"
@@ -331,19 +330,6 @@ Answer saveColumns(const Path& file) {
     return answer(saveColumnSettings(profile, CatalogueKind::steel, state, ColumnWidths()));
 }
 
-Answer saveWindow(const Path& file) {
-    prf_store settings(systemFiles());
-    settings.open(file, section);
-    const std::int32_t place[] = {10, 20, 640, 480, 96, 1};
-    return answer(settings.set_int_array(settings::windowPositionKey, place));
-}
-
-Answer saveBlock(const Path& file) {
-    prf_store settings(systemFiles());
-    settings.open(file, section);
-    return answer(settings.write_binary("block", Bytes("\x00\x7F\xFF", 3)));
-}
-
 Answer saveStyle(const Path& file) {
     Profile profile(systemFiles(), file);
     AnnotationStyle style;
@@ -363,9 +349,6 @@ void addSettingsOperations(std::vector<Operation>& all) {
     all.push_back(setting("setting", [](const Path& file) {
         return answer(Profile(systemFiles(), file).write(section, "STYLE", "Standard"));
     }));
-    all.push_back(setting("setting erased", [](const Path& file) {
-        return answer(Profile(systemFiles(), file).erase(section, "KEY"));
-    }));
     all.push_back(setting("erase choice", [](const Path& file) {
         Profile profile(systemFiles(), file);
         storeChoice(profile, {LX_ERASE_BUBBLE, true});
@@ -373,8 +356,6 @@ void addSettingsOperations(std::vector<Operation>& all) {
     }));
     all.push_back(setting("annotation style", saveStyle));
     all.push_back(setting("columns", saveColumns));
-    all.push_back(setting("window position", saveWindow));
-    all.push_back(setting("binary block", saveBlock));
     all.push_back(setting("remembered value added", addValue));
     all.push_back(setting("remembered value removed", [](const Path& file) {
         Profile profile(systemFiles(), file);

@@ -45,11 +45,17 @@ std::optional<Refusal> refusal(Call kind) {
             return refuse(from, Refusal::broken);
         case Fault::killed:
             if (call == trouble.call) endProcess();
-            return std::nullopt;
+            break;
         case Fault::killedInWrite:
-            return std::nullopt;
+            break;
     }
     return std::nullopt;
+}
+
+bool fails(Call call) {
+    const auto refused = refusal(call);
+    if (refused) refuseWith(*refused);
+    return refused.has_value();
 }
 
 WritePlan planWrite(std::size_t size) {

@@ -53,6 +53,9 @@ enum class Refusal { noSpace, denied, broken };
 // ends the process before it when that is the trouble; writing: it needs room on the disk.
 enum class Call { reading, changing, writing };
 std::optional<Refusal> refusal(Call call);
+// The same, with the platform's code of the refusal set.
+bool fails(Call call);
+void refuseWith(Refusal refused);
 // The same for a write of that many bytes, of which a part may be stored all the same.
 struct WritePlan {
     std::optional<Refusal> refusal;  // told when the part is stored

@@ -12,29 +12,10 @@
 
 namespace lx::faults {
 
-namespace {
-
 void refuseWith(Refusal refused) {
-    switch (refused) {
-        case Refusal::noSpace:
-            errno = ENOSPC;
-            return;
-        case Refusal::denied:
-            errno = EACCES;
-            return;
-        case Refusal::broken:
-            errno = EIO;
-            return;
-    }
+    constexpr int codes[] = {ENOSPC, EACCES, EIO};
+    errno = codes[static_cast<int>(refused)];
 }
-
-bool fails(Call call) {
-    const auto refused = refusal(call);
-    if (refused) refuseWith(*refused);
-    return refused.has_value();
-}
-
-}  // namespace
 
 int inOwnProcess(const std::function<void()>& act, const std::vector<std::string>&) {
     std::fflush(nullptr);
@@ -54,17 +35,25 @@ void endProcess() {
 
 extern "C" {
 
+// A call that fails or is made as it is.
+#define LX_CALL(kind, result, name, parameters, arguments)       \
+    result __real_##name parameters;                             \
+    result __wrap_##name parameters {                            \
+        return fails(Call::kind) ? -1 : __real_##name arguments; \
+    }
+
+LX_CALL(reading, ssize_t, read, (int file, void* buffer, size_t size), (file, buffer, size))
+LX_CALL(reading, off_t, lseek, (int file, off_t offset, int from), (file, offset, from))
+LX_CALL(reading, int, stat, (const char* path, struct stat* about), (path, about))
+LX_CALL(reading, int, fstat, (int file, struct stat* about), (file, about))
+LX_CALL(changing, int, ftruncate, (int file, off_t length), (file, length))
+LX_CALL(changing, int, rename, (const char* from, const char* to), (from, to))
+LX_CALL(changing, int, unlink, (const char* path), (path))
+LX_CALL(changing, int, fchmod, (int file, mode_t mode), (file, mode))
+
 int __real_open(const char* path, int flags, ...);
-ssize_t __real_read(int file, void* buffer, size_t size);
 ssize_t __real_write(int file, const void* bytes, size_t size);
 int __real_close(int file);
-int __real_ftruncate(int file, off_t length);
-off_t __real_lseek(int file, off_t offset, int from);
-int __real_rename(const char* from, const char* to);
-int __real_unlink(const char* path);
-int __real_stat(const char* path, struct stat* about);
-int __real_fstat(int file, struct stat* about);
-int __real_fchmod(int file, mode_t mode);
 
 int __wrap_open(const char* path, int flags, ...) {
     va_list arguments;
@@ -73,10 +62,6 @@ int __wrap_open(const char* path, int flags, ...) {
     va_end(arguments);
     const Call call = (flags & O_CREAT) != 0 ? Call::writing : Call::reading;
     return fails(call) ? -1 : __real_open(path, flags, mode);
-}
-
-ssize_t __wrap_read(int file, void* buffer, size_t size) {
-    return fails(Call::reading) ? -1 : __real_read(file, buffer, size);
 }
 
 ssize_t __wrap_write(int file, const void* bytes, size_t size) {
@@ -98,34 +83,6 @@ int __wrap_close(int file) {
     const bool failing = fails(Call::reading);
     const int result = __real_close(file);
     return failing ? -1 : result;
-}
-
-int __wrap_ftruncate(int file, off_t length) {
-    return fails(Call::changing) ? -1 : __real_ftruncate(file, length);
-}
-
-off_t __wrap_lseek(int file, off_t offset, int from) {
-    return fails(Call::reading) ? -1 : __real_lseek(file, offset, from);
-}
-
-int __wrap_rename(const char* from, const char* to) {
-    return fails(Call::changing) ? -1 : __real_rename(from, to);
-}
-
-int __wrap_unlink(const char* path) {
-    return fails(Call::changing) ? -1 : __real_unlink(path);
-}
-
-int __wrap_stat(const char* path, struct stat* about) {
-    return fails(Call::reading) ? -1 : __real_stat(path, about);
-}
-
-int __wrap_fstat(int file, struct stat* about) {
-    return fails(Call::reading) ? -1 : __real_fstat(file, about);
-}
-
-int __wrap_fchmod(int file, mode_t mode) {
-    return fails(Call::changing) ? -1 : __real_fchmod(file, mode);
 }
 
 }  // extern "C"

@@ -4,26 +4,10 @@
 
 namespace lx::faults {
 
-namespace {
-
 void refuseWith(Refusal refused) {
-    switch (refused) {
-        case Refusal::noSpace:
-            return SetLastError(ERROR_DISK_FULL);
-        case Refusal::denied:
-            return SetLastError(ERROR_ACCESS_DENIED);
-        case Refusal::broken:
-            return SetLastError(ERROR_IO_DEVICE);
-    }
+    constexpr DWORD codes[] = {ERROR_DISK_FULL, ERROR_ACCESS_DENIED, ERROR_IO_DEVICE};
+    SetLastError(codes[static_cast<int>(refused)]);
 }
-
-bool fails(Call call) {
-    const auto refused = refusal(call);
-    if (refused) refuseWith(*refused);
-    return refused.has_value();
-}
-
-}  // namespace
 
 int inOwnProcess(const std::function<void()>&, const std::vector<std::string>& arguments) {
     char program[MAX_PATH];
@@ -58,17 +42,31 @@ void endProcess() {
     extern "C" const decltype(&::call) __wrap___imp_##call; \
     const decltype(&::call) __wrap___imp_##call = function
 
+// One that fails or is made as it is.
+#define LX_CALL(kind, call, parameters, arguments)                        \
+    LX_REAL(call);                                                        \
+    static BOOL WINAPI tried##call parameters {                           \
+        return fails(Call::kind) ? FALSE : __real___imp_##call arguments; \
+    }                                                                     \
+    LX_WRAPPED(call, tried##call)
+
+LX_CALL(reading, GetFileInformationByHandle, (HANDLE file, LPBY_HANDLE_FILE_INFORMATION about),
+        (file, about));
+LX_CALL(reading, GetFileSizeEx, (HANDLE file, PLARGE_INTEGER size), (file, size));
+LX_CALL(reading, SetFilePointerEx,
+        (HANDLE file, LARGE_INTEGER distance, PLARGE_INTEGER now, DWORD from),
+        (file, distance, now, from));
+LX_CALL(reading, ReadFile,
+        (HANDLE file, LPVOID buffer, DWORD size, LPDWORD got, LPOVERLAPPED overlapped),
+        (file, buffer, size, got, overlapped));
+LX_CALL(changing, SetEndOfFile, (HANDLE file), (file));
+LX_CALL(changing, MoveFileExA, (LPCSTR from, LPCSTR to, DWORD flags), (from, to, flags));
+LX_CALL(changing, DeleteFileA, (LPCSTR path), (path));
+
 LX_REAL(CreateFileA);
 LX_REAL(CloseHandle);
-LX_REAL(GetFileInformationByHandle);
-LX_REAL(GetFileSizeEx);
-LX_REAL(SetFilePointerEx);
-LX_REAL(ReadFile);
 LX_REAL(WriteFile);
-LX_REAL(SetEndOfFile);
 LX_REAL(GetFileAttributesA);
-LX_REAL(MoveFileExA);
-LX_REAL(DeleteFileA);
 
 namespace {
 
@@ -85,23 +83,6 @@ BOOL WINAPI closeHandle(HANDLE handle) {
     if (!refused) return closed;
     refuseWith(*refused);
     return FALSE;
-}
-
-BOOL WINAPI aboutFile(HANDLE file, LPBY_HANDLE_FILE_INFORMATION about) {
-    return fails(Call::reading) ? FALSE : __real___imp_GetFileInformationByHandle(file, about);
-}
-
-BOOL WINAPI fileSize(HANDLE file, PLARGE_INTEGER size) {
-    return fails(Call::reading) ? FALSE : __real___imp_GetFileSizeEx(file, size);
-}
-
-BOOL WINAPI setPointer(HANDLE file, LARGE_INTEGER distance, PLARGE_INTEGER now, DWORD from) {
-    return fails(Call::reading) ? FALSE : __real___imp_SetFilePointerEx(file, distance, now, from);
-}
-
-BOOL WINAPI readFile(HANDLE file, LPVOID buffer, DWORD size, LPDWORD got, LPOVERLAPPED overlapped) {
-    return fails(Call::reading) ? FALSE
-                                : __real___imp_ReadFile(file, buffer, size, got, overlapped);
 }
 
 BOOL WINAPI writeFile(HANDLE file, LPCVOID bytes, DWORD size, LPDWORD written,
@@ -121,35 +102,16 @@ BOOL WINAPI flushFile(HANDLE) {
     return fails(Call::reading) ? FALSE : TRUE;
 }
 
-BOOL WINAPI setEnd(HANDLE file) {
-    return fails(Call::changing) ? FALSE : __real___imp_SetEndOfFile(file);
-}
-
 DWORD WINAPI attributesOf(LPCSTR path) {
     return fails(Call::reading) ? INVALID_FILE_ATTRIBUTES : __real___imp_GetFileAttributesA(path);
-}
-
-BOOL WINAPI moveFile(LPCSTR from, LPCSTR to, DWORD flags) {
-    return fails(Call::changing) ? FALSE : __real___imp_MoveFileExA(from, to, flags);
-}
-
-BOOL WINAPI deleteFile(LPCSTR path) {
-    return fails(Call::changing) ? FALSE : __real___imp_DeleteFileA(path);
 }
 
 }  // namespace
 
 LX_WRAPPED(CreateFileA, createFile);
 LX_WRAPPED(CloseHandle, closeHandle);
-LX_WRAPPED(GetFileInformationByHandle, aboutFile);
-LX_WRAPPED(GetFileSizeEx, fileSize);
-LX_WRAPPED(SetFilePointerEx, setPointer);
-LX_WRAPPED(ReadFile, readFile);
 LX_WRAPPED(WriteFile, writeFile);
 LX_WRAPPED(FlushFileBuffers, flushFile);
-LX_WRAPPED(SetEndOfFile, setEnd);
 LX_WRAPPED(GetFileAttributesA, attributesOf);
-LX_WRAPPED(MoveFileExA, moveFile);
-LX_WRAPPED(DeleteFileA, deleteFile);
 
 }  // namespace lx::faults
