@@ -23,28 +23,12 @@ constexpr std::array headings = {"[A]"sv,       "[a]"sv,    " [ A ] "sv,
                                  "[Data"sv,     "[[A]"sv,   "[A]]"sv};
 constexpr std::array names = {"a"sv,        " A"sv, "b"sv,  "B \t"sv, "key one"sv,
                               "KEY ONE "sv, "nr"sv, ";a"sv, ""sv,     "\"a\""sv};
-constexpr std::array values = {"1"sv,
-                               " two words "sv,
-                               "\"quoted\""sv,
-                               "'q'"sv,
-                               "\"half"sv,
-                               "\"mixed'"sv,
-                               "\""sv,
-                               "\"\""sv,
-                               "\" in \""sv,
-                               "\"\"twice\"\""sv,
-                               ""sv,
-                               "  "sv,
-                               "-12abc"sv,
-                               "0x1F"sv,
-                               "4294967297"sv,
-                               "+ 5"sv,
-                               "a=b;c"sv,
-                               "[x]"sv,
-                               "\t7\t"sv,
-                               "5\x1A"sv,
-                               "\xC8\x9A\xFD"sv,
-                               "00000000000000000000000000000000000000009"sv};
+constexpr std::string_view longNumber = "00000000000000000000000000000000000000009";
+constexpr std::array values = {
+    "1"sv,      " two words "sv, "\"quoted\""sv,   "'q'"sv,           "\"half"sv, "\"mixed'"sv,
+    "\""sv,     "\"\""sv,        "\" in \""sv,     "\"\"twice\"\""sv, ""sv,       "  "sv,
+    "-12abc"sv, "0x1F"sv,        "4294967297"sv,   "+ 5"sv,           "a=b;c"sv,  "[x]"sv,
+    "\t7\t"sv,  "5\x1A"sv,       "\xC8\x9A\xFD"sv, longNumber};
 constexpr std::array others = {"; comment"sv, " ;c=1"sv, ""sv, "  \t"sv, "noeq"sv, "a"sv, "\x1A"sv};
 
 class Generator {
