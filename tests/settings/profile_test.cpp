@@ -39,38 +39,36 @@ TEST_F(ProfileTest, ReadsValuesAsThePlatformDoes) {
         "\r\nq=\"quoted\"\r\ns='sq'\r\nm=\"mixed'\r\nqq=\"\"twice\"\"\r\n"
         "q1=\"\r\nq2=\"\"\r\nqb=\" in \"\r\nnoeq\r\nnoeq=5\r\ne=\r\n;c=5\r\nA=9\r\nt=5 ; c = d\r\n"
         "[D\r\n[ B ]\ra=2\r[C]x\na=3\n\n[a]\nnew=1\n[E]]\na=5\n\t[F];c\na=6\x1A"s);
-    const struct {
-        const char* section;
-        const char* key;
-        const char* value;
-    } cases[] = {
-        {"A", "a", "1"},
-        {"a", "A", "1"},
-        {"A", " b ", "two words"},
-        {" A ", "b", "two words"},
-        {"A", "q", "quoted"},
-        {"A", "s", "sq"},
-        {"A", "m", "\"mixed'"},
-        {"A", "qq", "\"twice\""},
-        {"A", "q1", "\""},
-        {"A", "q2", ""},
-        {"A", "qb", " in "},
-        {"A", "noeq", "def"},
-        {"A", "e", ""},
-        {"A", "c", "def"},
-        {"A", "t", "5 ; c = d"},
-        {"B", "a", "2"},
-        {"C", "a", "3"},
-        {"D", "a", "def"},
-        {"E]", "a", "5"},
-        {"F", "a", "6"},
-        {"", "first", "0"},
-        // Only the first of doubled sections is looked at.
-        {"A", "new", "def"},
-    };
-    for (const auto& c : cases) {
-        EXPECT_EQ(read(c.section, c.key), c.value) << '[' << c.section << "] " << c.key;
+    using Row = std::pair<const char*, const char*>;
+    for (const auto& [key, value] : {Row{"a", "1"},
+                                     {"A", "1"},
+                                     {" b ", "two words"},
+                                     {"b", "two words"},
+                                     {"q", "quoted"},
+                                     {"s", "sq"},
+                                     {"m", "\"mixed'"},
+                                     {"qq", "\"twice\""},
+                                     {"q1", "\""},
+                                     {"q2", ""},
+                                     {"qb", " in "},
+                                     {"noeq", "def"},
+                                     {"e", ""},
+                                     {"c", "def"},
+                                     {"t", "5 ; c = d"},
+                                     // Only the first of doubled sections is looked at.
+                                     {"new", "def"}}) {
+        EXPECT_EQ(read("A", key), value) << key;
     }
+    for (const auto& [section, value] : {Row{"a", "1"},
+                                         {" A ", "1"},
+                                         {"B", "2"},
+                                         {"C", "3"},
+                                         {"D", "def"},
+                                         {"E]", "5"},
+                                         {"F", "6"}}) {
+        EXPECT_EQ(read(section, "a"), value) << section;
+    }
+    EXPECT_EQ(read("", "first"), "0");
     std::vector<Text> keys;
     for (const ProfileEntry& entry : profile.entries("A")) keys.push_back(entry.key);
     EXPECT_EQ(keys, (std::vector<Text>{"a", "b", "q", "s", "m", "qq", "q1", "q2", "qb", "noeq", "e",
