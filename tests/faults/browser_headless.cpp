@@ -21,10 +21,7 @@ bool holdsAdded(const CPreklItem* items) {
 void addInBrowser(Session& user) {
     user.inDialog(browser, [](Driver& d) { d.chooseMenu("Nový/Překlad"); });
     user.inDialog("Nový překlad", [](Driver& d) {
-        d.focus("Označení");
-        d.key("Ctrl+A");
-        d.key("Delete");
-        d.type("added");
+        retype(d, "Označení", "added");
         d.press("OK");
     });
 }

@@ -11,6 +11,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <map>
+#include <optional>
 #include <set>
 #include <sstream>
 
@@ -58,32 +59,11 @@ constexpr std::pair<Fault, const char*> columns[] = {
     {Fault::shortWrite, "short"},      {Fault::gone, "gone"},     {Fault::killed, "killed"},
     {Fault::killedInWrite, "in write"}};
 
-class Table : public testing::Environment {
-public:
-    static std::map<std::string, Row>& rows() {
-        static std::map<std::string, Row> all;
-        return all;
-    }
-    void TearDown() override {
-        std::printf("\n%-26s", "");
-        for (const auto& [fault, heading] : columns) std::printf(" %9s", heading);
-        std::printf(" %9s\n", "losses");
-        int tries = 0;
-        int losses = 0;
-        for (const Operation& operation : operations()) {
-            const auto found = rows().find(operation.name);
-            if (found == rows().end()) continue;
-            std::printf("%-26s", operation.name.c_str());
-            for (const auto& [fault, heading] : columns) {
-                std::printf(" %9d", found->second.tries[fault]);
-                tries += found->second.tries[fault];
-            }
-            std::printf(" %9d\n", found->second.losses);
-            losses += found->second.losses;
-        }
-        std::printf("%d tries, %d losses\n", tries, losses);
-    }
-};
+void printRow(const std::string& name, Row& row) {
+    std::printf("%-26s", name.c_str());
+    for (const auto& [fault, heading] : columns) std::printf(" %9d", row.tries[fault]);
+    std::printf(" %9d\n", row.losses);
+}
 
 // ---- what files read as
 
@@ -123,13 +103,9 @@ State stateOf(const Path& folder) {
     return state;
 }
 
-const Bytes* find(const State& state, const std::string& name) {
+std::optional<Bytes> find(const State& state, const std::string& name) {
     const auto found = state.files.find(name);
-    return found == state.files.end() ? nullptr : &found->second;
-}
-
-bool equal(const Bytes* a, const Bytes* b) {
-    return (a == nullptr) == (b == nullptr) && (a == nullptr || *a == *b);
+    return found == state.files.end() ? std::nullopt : std::optional(found->second);
 }
 
 // A name that the file layer writes beside the file that is to be replaced.
@@ -142,15 +118,16 @@ bool isSettings(const std::string& name) {
     return name == settings::userFile || name == settings::dialogFile;
 }
 
-std::set<std::string> linesOf(const Bytes* file) {
+std::set<std::string> linesOf(const std::optional<Bytes>& file) {
     std::set<std::string> lines;
-    std::istringstream text(file ? *file : Bytes());
+    std::istringstream text(file.value_or(Bytes()));
     for (std::string line; std::getline(text, line);) lines.insert(line);
     return lines;
 }
 
 // Acts of several values only add lines.
-bool settingsBetween(const Bytes* before, const Bytes* here, const Bytes* after, bool done) {
+bool settingsBetween(const std::optional<Bytes>& before, const std::optional<Bytes>& here,
+                     const std::optional<Bytes>& after, bool done) {
     const auto first = linesOf(before);
     const auto now = linesOf(here);
     const auto last = linesOf(after);
@@ -205,6 +182,18 @@ void actOn(char** arguments) {
 
 class Faults : public testing::TestWithParam<Operation> {
 protected:
+    static void SetUpTestSuite() {
+        std::printf("%-26s", "");
+        for (const auto& [fault, heading] : columns) std::printf(" %9s", heading);
+        std::printf(" %9s\n", "losses");
+    }
+    static void TearDownTestSuite() { printRow("sum", s_sum); }
+    void TearDown() override {
+        printRow(GetParam().name, m_row);
+        for (const auto& [fault, tries] : m_row.tries) s_sum.tries[fault] += tries;
+        s_sum.losses += m_row.losses;
+    }
+
     Outcome runHere(const Trouble& trouble);
     Outcome runInOwnProcess(const Trouble& trouble);
     void tryOnce(const Trouble& trouble);
@@ -218,6 +207,8 @@ protected:
     State m_before;
     State m_after;
     Course m_undisturbed;
+    Row m_row;
+    inline static Row s_sum;
 };
 
 Outcome Faults::runHere(const Trouble& trouble) {
@@ -269,23 +260,23 @@ std::string Faults::lossIn(const State& now, const Outcome& outcome) const {
         for (const auto& [name, bytes] : state->files) names.insert(name);
     }
     for (const std::string& name : names) {
-        const Bytes* before = find(m_before, name);
-        const Bytes* after = find(m_after, name);
-        const Bytes* here = find(now, name);
+        const auto before = find(m_before, name);
+        const auto after = find(m_after, name);
+        const auto here = find(now, name);
         if (outcome.ended && !before && !after && isWorkFile(name)) continue;
         if (GetParam().stepwise && isSettings(name)) {
             const bool done = outcome.answer == Answer::done;
             if (!settingsBetween(before, here, after, done)) return name + " has other values";
             continue;
         }
-        if (!equal(here, before) && !equal(here, after)) return name + " reads as neither";
+        if (here != before && here != after) return name + " reads as neither";
         if (name.ends_with(".bak")) continue;
         const bool failed = !outcome.ended && outcome.answer == Answer::failed;
-        if (failed && !equal(here, before)) return name + " changed, but told as failed";
+        if (failed && here != before) return name + " changed, but told as failed";
         const bool done = outcome.answer == Answer::done;
-        if (done && !equal(here, after)) return name + " is not what was told as done";
-        const Bytes* kept = find(m_after, name + ".bak");
-        if (kept && !equal(here, before) && !equal(find(now, name + ".bak"), kept)) {
+        if (done && here != after) return name + " is not what was told as done";
+        const auto kept = find(m_after, name + ".bak");
+        if (kept && here != before && find(now, name + ".bak") != kept) {
             return name + " was written over without its backup";
         }
     }
@@ -297,8 +288,7 @@ void Faults::tryOnce(const Trouble& trouble) {
     prepare(GetParam(), m_folder);
     const Outcome outcome = kills ? runInOwnProcess(trouble) : runHere(trouble);
     if (!outcome.struck) return;
-    Row& row = Table::rows()[GetParam().name];
-    ++row.tries[trouble.fault];
+    ++m_row.tries[trouble.fault];
     const State troubled = stateOf(m_folder);
     std::string loss = lossIn(troubled, outcome);
     if (loss.empty()) {
@@ -309,8 +299,8 @@ void Faults::tryOnce(const Trouble& trouble) {
             return !m_after.files.contains(file.first) && isWorkFile(file.first);
         });
         const std::string backup = std::string(libraryFileName) + ".bak";
-        const Bytes* kept = find(repeated, backup);
-        const Bytes* wanted = find(m_after, backup);
+        const auto kept = find(repeated, backup);
+        const auto wanted = find(m_after, backup);
         if (kept && *kept == troubled.library) {
             repeated.files.erase(backup);
             if (wanted) repeated.files[backup] = *wanted;
@@ -321,7 +311,7 @@ void Faults::tryOnce(const Trouble& trouble) {
             loss = "designs left";
         if (!loss.empty()) loss = "after a repeat: " + loss;
     }
-    if (!loss.empty()) ++row.losses;
+    if (!loss.empty()) ++m_row.losses;
     EXPECT_EQ(loss, "") << "fault " << static_cast<int>(trouble.fault) << " at call "
                         << trouble.call << " second " << trouble.second << " cut " << trouble.cut;
 }
@@ -383,8 +373,6 @@ std::string testName(const testing::TestParamInfo<Operation>& info) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Operations, Faults, testing::ValuesIn(operations()), testName);
-
-const auto* const table = testing::AddGlobalTestEnvironment(new Table);
 
 }  // namespace
 }  // namespace lx::faults

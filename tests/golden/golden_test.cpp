@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <cstdlib>
 #include <fstream>
-#include <iterator>
 #include <limits>
 
 #include "catalogue/catalogue_file.h"
@@ -216,22 +215,17 @@ constexpr Golden goldens[] = {
     {"VDLINTEL.TXT", rulesText, asItIs},
 };
 
-std::string contentOf(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
-
 class GoldenFiles : public testing::TestWithParam<Golden> {};
 
 TEST_P(GoldenFiles, ReadAsEverAndAreWrittenWithTheSameBytes) {
     const std::string path = folder + GetParam().name;
-    const Bytes kept = contentOf(path);
+    const Bytes kept = systemFiles().read(path).bytes;
     ASSERT_NE(kept, "");
     if (std::getenv("LX_WRITE_GOLDEN") != nullptr) {
         std::ofstream(path + ".txt", std::ios::binary) << GetParam().text(kept);
         GTEST_SKIP() << path << ".txt written anew";
     }
-    EXPECT_EQ(GetParam().text(kept), contentOf(path + ".txt"));
+    EXPECT_EQ(GetParam().text(kept), systemFiles().read(path + ".txt").bytes);
     EXPECT_EQ(GetParam().again(kept), kept);
 }
 
