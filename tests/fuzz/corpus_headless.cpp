@@ -10,6 +10,7 @@
 #include <random>
 
 #include "fuzz/targets.h"
+#include "platform/files.h"
 
 namespace lx::fuzz {
 namespace {
@@ -22,8 +23,7 @@ std::vector<Bytes> corpusFiles() {
     std::vector<Bytes> all;
     for (const auto& entry : fs::recursive_directory_iterator(corpus)) {
         if (!entry.is_regular_file()) continue;
-        std::ifstream file(entry.path(), std::ios::binary);
-        all.emplace_back(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
+        all.push_back(systemFiles().read(entry.path().string()).bytes);
     }
     return all;
 }
@@ -36,9 +36,7 @@ TEST(Corpus, SeedsAreWhatTheModuleWrites) {
             fs::create_directories(fs::path(path).parent_path());
             std::ofstream(path, std::ios::binary) << seed.bytes;
         }
-        std::ifstream file(path, std::ios::binary);
-        const Bytes kept{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-        EXPECT_EQ(kept, seed.bytes) << path;
+        EXPECT_EQ(systemFiles().read(path).bytes, seed.bytes) << path;
     }
 }
 

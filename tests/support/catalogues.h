@@ -12,6 +12,14 @@
 
 namespace lx {
 
+// A new record behind the last one, whose link end is; end moves on.
+inline CPreklItem& appended(Catalogue*& end) {
+    *end = std::make_unique<CPreklItem>();
+    CPreklItem& record = **end;
+    end = &record.next;
+    return record;
+}
+
 // Types "Typ 1", "Typ 2", ..., each followed by its items; designations such as "KPV 17/145" are
 // alike only where seeds are. Every field is set somewhere, and texts are missing somewhere.
 inline Catalogue madeCatalogue(int types, int itemsOfEach, unsigned seed = 1) {
@@ -19,11 +27,9 @@ inline Catalogue madeCatalogue(int types, int itemsOfEach, unsigned seed = 1) {
     Catalogue head;
     Catalogue* end = &head;
     const auto add = [&end](std::int32_t group, std::string name) -> CPreklItem& {
-        *end = std::make_unique<CPreklItem>();
-        CPreklItem& record = **end;
+        CPreklItem& record = appended(end);
         record.group = group;
         record.designation = std::move(name);
-        end = &record.next;
         return record;
     };
     for (std::int32_t type = 1; type <= types; ++type) {
@@ -59,13 +65,12 @@ inline Catalogue catalogueOf(const std::vector<CatalogueLine>& lines) {
     Catalogue head;
     Catalogue* end = &head;
     for (const CatalogueLine& line : lines) {
-        *end = std::make_unique<CPreklItem>();
-        (*end)->group = line.group;
-        (*end)->length = line.length;
-        (*end)->width = line.width;
-        (*end)->maxOpening = line.maxOpening;
-        if (!line.name.empty()) (*end)->designation = fromUtf8(line.name);
-        end = &(*end)->next;
+        CPreklItem& record = appended(end);
+        record.group = line.group;
+        record.length = line.length;
+        record.width = line.width;
+        record.maxOpening = line.maxOpening;
+        if (!line.name.empty()) record.designation = fromUtf8(line.name);
     }
     return head;
 }

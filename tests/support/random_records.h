@@ -9,6 +9,7 @@
 #include "catalogue/catalogue_file.h"
 #include "composition/records.h"
 #include "composition/stored_form.h"
+#include "tests/support/catalogues.h"
 
 namespace lx {
 
@@ -53,9 +54,7 @@ public:
         Catalogue head;
         Catalogue* end = &head;
         for (int left = below(8); left > 0; --left) {
-            *end = std::make_unique<CPreklItem>();
-            CPreklItem& record = **end;
-            end = &record.next;
+            CPreklItem& record = appended(end);
             record.group = number();
             record.length = number();
             setItem(record);
@@ -74,9 +73,7 @@ public:
         Catalogue* end = &head;
         std::int32_t types = 0;
         for (int left = below(25); left > 0; --left) {
-            *end = std::make_unique<CPreklItem>();
-            CPreklItem& record = **end;
-            end = &record.next;
+            CPreklItem& record = appended(end);
             record.group = oneIn(3) ? -++types : below(6);
             if (anyNumbers) record.group = oneIn(8) ? (oneIn(2) ? lowest : highest) : below(8) - 4;
             record.length = below(4);
