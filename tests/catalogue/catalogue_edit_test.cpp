@@ -10,9 +10,6 @@
 namespace lx {
 namespace {
 
-constexpr CatalogueKind precast = CatalogueKind::precast;
-constexpr CatalogueKind steel = CatalogueKind::steel;
-
 // Types A, B, C, their items in lower case, not all behind their own type.
 Catalogue threeTypes() {
     return catalogueOf({{-1, "A"},
@@ -24,16 +21,6 @@ Catalogue threeTypes() {
                         {1, "aa"},
                         {3, "cc"},
                         {2, "bb"}});
-}
-
-TEST(CatalogueEdit, AppendsTypesUnderTheNextNumber) {
-    Catalogue chain;
-    appendType(chain, "A", precast, 3);
-    EditorTexts texts;
-    texts.designation = "a";
-    appendItem(chain, *chain, texts);
-    appendType(chain, "B", steel, 3);
-    EXPECT_EQ(shown(chain), "-1:A 1:a -2:B:3");
 }
 
 TEST(CatalogueEdit, RefusesNamesThatAreTaken) {
@@ -141,16 +128,6 @@ TEST(CatalogueEdit, ReadsLeadingNumbersAndKeepsAnEmptyMarkAndDescription) {
     changeItem(item, texts);
     EXPECT_EQ(item.compositionMark, 'X');
     EXPECT_EQ(appendItem(chain, *chain, texts).compositionMark, ' ');
-}
-
-TEST(CatalogueEdit, UnlinksAnItemAnywhere) {
-    Catalogue chain = catalogueOf({{1, "head"}, {-1, "A"}, {1, "a"}});
-    EXPECT_EQ(unlinkItem(chain, CPreklItem()), nullptr);
-    EXPECT_EQ(unlinkItem(chain, *chain->next->next)->designation, "a");
-    EXPECT_EQ(unlinkItem(chain, *chain)->next, nullptr);
-    EXPECT_EQ(shown(chain), "-1:A");
-    EXPECT_TRUE(unlinkItem(chain, *chain));
-    EXPECT_EQ(chain, nullptr);
 }
 
 }  // namespace

@@ -28,12 +28,6 @@ Text listed(const ItemRows& rows) {
     return text;
 }
 
-int rowNamed(const ItemRows& rows, std::string_view designation) {
-    int row = 0;
-    while (row < rows.count() && *rows.record(row)->designation != designation) ++row;
-    return row;
-}
-
 TEST(ItemCells, FollowTheColumnsOfTheirKind) {
     CPreklItem item;
     item.length = -125;
@@ -117,43 +111,6 @@ TEST(ItemRows, SortByTheTextThatIsShown) {
     EXPECT_EQ(listed(rows), "nine,ten,none,minus");  // "nezadáno" comes after numbers
     rows.onHeadingClick(1);
     EXPECT_EQ(listed(rows), "nine,none,ten,minus");  // as does a minus sign
-}
-
-// Records go away and new ones come in a sorted list, the first listed one too.
-TEST(ItemRows, StayRightAsRecordsAreRemovedAndAdded) {
-    Catalogue chain = chainOf({"a", "c", "b"});
-    ItemRows rows(precast);
-    rows.refresh(chain.get(), 1);
-    rows.onHeadingClick(0);
-    rows.onHeadingClick(0);
-    EXPECT_EQ(listed(rows), "c,b,a");
-
-    const auto destroy = [&](std::string_view name) {
-        const int row = rowNamed(rows, name);
-        Catalogue* link = &chain;
-        while (link->get() != rows.record(row)) link = &(*link)->next;
-        rows.remove(row);
-        Catalogue rest = std::move((*link)->next);
-        *link = std::move(rest);
-    };
-    destroy("a");
-    EXPECT_EQ(listed(rows), "c,b");
-    Catalogue added = catalogueOf({{1, "d"}});
-    added->next = std::move(chain->next);
-    chain->next = std::move(added);
-    rows.add(*chain->next);
-    EXPECT_EQ(listed(rows), "c,b,d");
-    rows.sort();
-    EXPECT_EQ(listed(rows), "d,c,b");
-    for (int row = 0; row < rows.count(); ++row) EXPECT_EQ(rows.rowOf(*rows.record(row)), row);
-    destroy("c");
-    rows.remove(2);
-    rows.remove(-1);
-    EXPECT_EQ(listed(rows), "d,b");
-
-    const int picks[] = {1, 0, 7};
-    EXPECT_EQ(rows.records(picks),
-              (std::vector<const CPreklItem*>{rows.record(1), rows.record(0)}));
 }
 
 }  // namespace
