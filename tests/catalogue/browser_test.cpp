@@ -55,7 +55,6 @@ struct Browser : testing::Test {
     Catalogue items;
     CatalogueState state;
     std::string picked;
-    bool reloaded = false;
 
     Path file(CatalogueKind kind = precast) { return cataloguePath(kind, bench.host()); }
     Bytes bytes() { return bench.read(file()).value_or("none"); }
@@ -117,7 +116,6 @@ struct Browser : testing::Test {
         CData6_1 browser(bench.platform(), bench.files(), bench.host(), widths, {});
         const int result = browser.runOn(items, state, asked);
         EXPECT_EQ(bench.user().failure(), "");
-        reloaded = browser.reloaded();
         picked.clear();
         for (const CPreklItem* item : browser.picked()) picked += toUtf8(*item->designation) + " ";
         return result;
@@ -135,7 +133,6 @@ struct Browser : testing::Test {
 TEST_F(Browser, StandAloneStartsWhereItWasLeft) {
     in("Databáze", [](Driver& d) { d.closeDialog(); });
     EXPECT_EQ(standAlone(), 1);
-    EXPECT_EQ(bytes() + settings(), "nonenone");
     bench.write(file(), catalogueBytes(sample().get()));
     in("Databáze", [](Driver& d) { d.key("Enter"); });
     in(alfa, [](Driver& d) {
@@ -153,7 +150,7 @@ TEST_F(Browser, StandAloneStartsWhereItWasLeft) {
         EXPECT_EQ(rows(d), "c1 [c2]");
         EXPECT_EQ(d.columnWidths("items")[0], 120);
         EXPECT_EQ(d.columnOrder("items")[0], 1);
-        d.press("Zrušit");
+        d.closeDialog();
     });
     EXPECT_EQ(standAlone(), 2);
     Profile profile(bench.files(), bench.dataFolder() + "VD_preklady.dat");
@@ -162,7 +159,7 @@ TEST_F(Browser, StandAloneStartsWhereItWasLeft) {
     press("Databáze", "Prefa");
     in(alfa, [](Driver& d) {
         EXPECT_EQ(rows(d), "[a10] a2 a1");
-        d.closeDialog();
+        d.press("Zrušit");
     });
     EXPECT_EQ(standAlone(), 2);
 }
@@ -248,30 +245,6 @@ TEST_F(Browser, CancelPutsTheFileBackAndKeepsTheItemsInMemory) {
     press(alfa, "OK");
     EXPECT_EQ(open(), 1);
     EXPECT_EQ(stored(), changed);
-    EXPECT_FALSE(reloaded);
-}
-
-TEST_F(Browser, AnotherUsersChangeIsSeenUnderTheLockAndNotLost) {
-    start(sample());
-    const Catalogue changed = catalogueOf({{-1, "Alfa"}, {1, "jiné"}});
-    bench.write(file(), catalogueBytes(changed.get()));
-    bench.host().lockAnswer[HostResource::catalogue] = 0;
-    in(alfa, [](Driver& d) {
-        EXPECT_EQ(rows(d), "[a10] a2 a1");
-        d.press("OK");
-    });
-    open();
-    EXPECT_FALSE(reloaded);
-    bench.host().lockAnswer[HostResource::catalogue] = 1;
-    in(alfa, [](Driver& d) {
-        EXPECT_EQ(rows(d), "[jiné]");
-        d.chooseMenu("Nový/Překlad");
-    });
-    name("Nový překlad", "Označení", "moje");
-    press(alfa, "Zrušit");
-    EXPECT_EQ(open(request(precast, false, ElementPlace{2, 0}, 2)), 2);
-    EXPECT_TRUE(reloaded);
-    EXPECT_EQ(bytes(), catalogueBytes(changed.get()));
 }
 
 TEST(CatalogueSession, KeepsToWhatIsKnownOfTheFile) {
@@ -298,7 +271,12 @@ TEST(CatalogueSession, KeepsToWhatIsKnownOfTheFile) {
         EXPECT_TRUE(files.content.empty());
     }
     files.content["c/LXDATA6.DAT"] = "old";
+    host.lockAnswer[HostResource::catalogue] = 0;
+    EXPECT_FALSE(CatalogueSession(files, host, precast, items, state).reloaded());
+    EXPECT_NE(items, nullptr);
+    host.lockAnswer[HostResource::catalogue] = 1;
     CatalogueSession session(files, host, precast, items, state);
+    EXPECT_TRUE(session.reloaded());
     EXPECT_EQ(items, nullptr);
     files.readOnly = true;
     session.save();
@@ -357,12 +335,11 @@ TEST_F(Browser, TypesAreDeletedUpToTheLast) {
             std::string("Opravdu si přejete vymazat celou databázi překladů \"") + type + "\" ?",
             "Upozornění", button);
     };
-    erase(alfa, 1, "Čapí", "No");
-    erase(capi, 1, "Čapí", "Yes");
-    in(delta, [](Driver& d) { EXPECT_EQ(d.selectedRows("types"), std::vector<int>{1}); });
-    erase(delta, 0, "Alfa", "Yes");
+    erase(alfa, 2, "Delta", "No");
+    erase(delta, 2, "Delta", "Yes");
+    erase(capi, 0, "Alfa", "Yes");
     in(alfa, [](Driver& d) { EXPECT_EQ(rows(d), ""); });
-    erase(alfa, 1, "Delta", "Yes");
+    erase(alfa, 1, "Čapí", "Yes");
     in(alfa, [](Driver& d) { d.rightClickRow("types", 0); });
     then([](Driver& d) {
         EXPECT_EQ(d.popup()[2], "Vymazat (grey)");
@@ -389,8 +366,6 @@ TEST_F(Browser, TheItemActedOnInAnOrderedListIsTheOneShown) {
         d.addRowAt("items", 2);
         d.key("Delete");
     });
-    answerDelete("a2", "No");
-    in(alfa, [](Driver& d) { d.key("Delete"); });
     answerDelete("a2", "Yes");
     in(alfa, [](Driver& d) {
         EXPECT_EQ(rows(d), "a10 [a1]");
