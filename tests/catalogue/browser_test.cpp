@@ -108,10 +108,6 @@ struct Browser : testing::Test {
                 "Upozornění", button);
     }
 
-    static BrowserRequest request(CatalogueKind kind, bool pick,
-                                  std::optional<ElementPlace> element = {}, int type = 0) {
-        return {kind, pick, element, type, {}, {}};
-    }
     int open(const BrowserRequest& asked = {}) {
         CData6_1 browser(bench.platform(), bench.files(), bench.host(), widths, {});
         const int result = browser.runOn(items, state, asked);
@@ -179,7 +175,7 @@ TEST_F(Browser, TheCallerSaysWhereItStarts) {
             EXPECT_EQ(rows(d), one.list);
             d.press("Zrušit");
         });
-        open(request(precast, false, one.element, one.type));
+        open({precast, false, one.element, one.type, {}, {}});
     }
 }
 
@@ -199,7 +195,7 @@ TEST_F(Browser, AnEmptyCatalogueTakesATypeBeforeItsFirstItem) {
     });
     name("Nový průřez", "Označení", "J 1");
     press("Databáze průřezů (Jackl)", "OK");
-    EXPECT_EQ(open(request(steel, false)), 1);
+    EXPECT_EQ(open({steel, false, {}, 0, {}, {}}), 1);
     EXPECT_EQ(stored(steel), "-1:Jackl:1 1:J 1:1");
     EXPECT_EQ(shown(items), stored(steel)) << "as the loader would have it";
 }
@@ -207,16 +203,13 @@ TEST_F(Browser, AnEmptyCatalogueTakesATypeBeforeItsFirstItem) {
 TEST_F(Browser, LeavingBeforeTheListsAreThereStoresNoColumns) {
     start(sample());
     bool columns = false;
-    for (const int result : {1, 2}) {
-        then([&columns, result](Driver& d) {
-            // Real windows may be ready before their user.
-            if (result == 1) columns = d.rowCount("types") > 0;
-            d.press(result == 1 ? "OK" : "Zrušit");
-        });
-        EXPECT_EQ(open(), result);
-        EXPECT_EQ(settings().find("TAB_PREFA") != std::string::npos, columns);
-        EXPECT_NE(settings().find("windowPosition"), std::string::npos);
-    }
+    then([&columns](Driver& d) {
+        columns = d.rowCount("types") > 0;  // real windows may be ready before their user
+        d.press("OK");
+    });
+    EXPECT_EQ(open(), 1);
+    EXPECT_EQ(settings().find("TAB_PREFA") != std::string::npos, columns);
+    EXPECT_NE(settings().find("windowPosition"), std::string::npos);
     EXPECT_EQ(stored(), sampleText);
 }
 
@@ -301,7 +294,7 @@ TEST_F(Browser, PicksTheSelectedRowsInTheirOrderAlsoWhenReadOnly) {
             d.addRowAt("items", 0);
             d.press("Načíst do seznamu");
         });
-        EXPECT_EQ(open(request(precast, true)), 1);
+        EXPECT_EQ(open({precast, true, {}, 0, {}, {}}), 1);
         EXPECT_EQ(picked, "a2 a10 ");
         EXPECT_EQ(bytes(), before);
     }
@@ -314,9 +307,9 @@ TEST_F(Browser, TypesAreNamed) {
     popup(alfa, "types", 1, "Přejmenovat");
     name("Přejmenovat typ", "Název:", "");
     message("Nebylo vyplněno jméno.", "Přejmenovat typ");
-    name("Přejmenovat typ", "Název:", "Čáp");
-    popup("Databáze prefabrikátů (Čáp)", "types", 0, "Nový");
-    name("Nový typ", "Název:", "čáp");
+    press("Přejmenovat typ", "Zrušit");
+    popup(capi, "types", 0, "Nový");
+    name("Nový typ", "Název:", "čapí");
     message("Již obsažen v databázi.", "Nový typ");
     name("Nový typ", "Název:", "Nový");
     in("Databáze prefabrikátů (Nový)", [&](Driver& d) {
@@ -324,7 +317,7 @@ TEST_F(Browser, TypesAreNamed) {
         d.press("OK");
     });
     EXPECT_EQ(open(), 1);
-    EXPECT_EQ(stored(), "-1:Alfa 1:a10:3 -2:Čáp 1:a2:1 2:c1:7 1:a1:2 -3:Delta 2:c2:5 3:d1 -4:Nový");
+    EXPECT_EQ(stored(), std::string(sampleText) + " -4:Nový");
 }
 
 TEST_F(Browser, TypesAreDeletedUpToTheLast) {
@@ -398,8 +391,7 @@ TEST_F(Browser, TheItemActedOnInAnOrderedListIsTheOneShown) {
 }
 
 TEST_F(Browser, TheEditorStartsFromTheSelectedItem) {
-    start(sample());
-    items->next->maxOpening = 900;
+    start(catalogueOf({{-1, "Alfa"}, {1, "a10", 3, 0, 900}, {-2, "Čapí"}}));
     items->next->compositionMark = 'K';
     popup(alfa, "items", 0, "Nový");
     in("Nový překlad", [](Driver& d) {
@@ -410,22 +402,20 @@ TEST_F(Browser, TheEditorStartsFromTheSelectedItem) {
     message("Nebylo vyplněno jméno.", "Upozornění");
     name("Nový překlad", "Označení", "b");
     in(alfa, [](Driver& d) {
-        EXPECT_EQ(d.row("items", 3).text, "b | 3 | 0 | 0 | 900 | 12.3 | nezadáno |  | K");
+        EXPECT_EQ(d.row("items", 1).text, "b | 3 | 0 | 0 | 900 | 12.3 | nezadáno |  | K");
         // Without a row, to edit is to add.
-        d.selectRowAt("types", 2);
+        d.selectRowAt("types", 1);
         d.focus("items");
-        d.key("Delete");
+        d.key("Shift+F10");
     });
-    answerDelete("d1", "Yes");
-    in(delta, [](Driver& d) { d.key("Shift+F10"); });
     then([](Driver& d) {
         EXPECT_EQ(d.popup(), (std::vector<std::string>{"Nový", "Upravit", "Vymazat (grey)"}));
         d.choosePopup("Upravit");
     });
     name("Upravit překlad", "Označení", "d2");
-    press(delta, "OK");
+    press(capi, "OK");
     EXPECT_EQ(open(), 1);
-    EXPECT_EQ(stored(), "-1:Alfa 1:a10:3 -2:Čapí 1:a2:1 2:c1:7 1:a1:2 -3:Delta 2:c2:5 1:b:3 3:d2");
+    EXPECT_EQ(stored(), "-1:Alfa 1:a10:3 -2:Čapí 1:b:3 2:d2");
 }
 
 TEST_F(Browser, AHundredThousandItemsAreOrderedWithoutAPause) {

@@ -6,6 +6,7 @@
 
 #include "catalogue/catalogue_file.h"
 #include "tests/support/catalogues.h"
+#include "tests/support/readable.h"
 
 namespace lx {
 namespace {
@@ -72,19 +73,16 @@ TEST(CatalogueEdit, TakesAChainThatADamagedFileMade) {
 }
 
 TEST(CatalogueEdit, FillsTheEditorFromARecordAndBack) {
-    CPreklItem item;
-    EditorTexts texts = editorTexts(item);
+    EditorTexts texts = editorTexts(CPreklItem());
     EXPECT_EQ(texts.designation + texts.description + texts.mark, "");
     EXPECT_EQ(texts.maxOpening + texts.weight + texts.qu, "00.00.000");
 
-    item.length = -125;
-    item.width = 1;
-    item.height = 2;
-    item.maxOpening = 3;
+    const Catalogue made = madeCatalogue(1, 1);
+    CPreklItem& item = *made->next;
+    item.group = CPreklItem().group;
+    item.description = "x";
     item.weight = 12.25;
     item.qu = -1.5;
-    item.designation = "KPM";
-    item.description = "x";
     item.compositionMark = 'X';
     texts = editorTexts(item);
     EXPECT_EQ(texts.weight + texts.qu, "12.3-1.500");
@@ -115,14 +113,9 @@ TEST(CatalogueEdit, ReadsLeadingNumbersAndKeepsAnEmptyMarkAndDescription) {
     texts.qu = "";
     texts.mark = "XY";
     CPreklItem& item = appendItem(chain, *chain->next, texts);
-    EXPECT_EQ(shown(chain), "-1:A -2:B 2:b:12");
-    EXPECT_EQ(item.width, 0);
-    EXPECT_EQ(item.height, std::numeric_limits<std::int32_t>::max());
-    EXPECT_EQ(item.maxOpening, 0);
-    EXPECT_EQ(item.weight, 1.5);
-    EXPECT_EQ(item.qu, 0.0);
-    EXPECT_EQ(item.description, Text());
-    EXPECT_EQ(item.compositionMark, 'X');
+    EXPECT_EQ(readable(&item),
+              "group=2 length=12 width=0 height=2147483647 maxOpening=0 weight=1.5 qu=0 mark=\"X\" "
+              "\"b\" \"\"\n");
 
     texts.mark.clear();
     changeItem(item, texts);

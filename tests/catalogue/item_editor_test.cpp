@@ -53,19 +53,15 @@ struct ItemEditor : testing::Test {
 TEST_F(ItemEditor, OpensWithItsTextsAndKeepsThemOnCancel) {
     precast.texts.designation = "RZP 1/10"_cz;
     precast.texts.mark = "A"_cz;
-    for (const bool ok : {true, false}) {
-        EXPECT_EQ(run(precast, title,
-                      [ok](Driver& d) {
-                          EXPECT_EQ(d.editSelection("Označení"), "0-8");
-                          expectTabOrder(d, {std::begin(precastFields), std::end(precastFields)});
-                          if (!ok) retype(d, "Označení", "P1");
-                          d.press("Nápověda");
-                          d.press(ok ? "OK" : "Zrušit");
-                      }),
-                  ok);
-        EXPECT_EQ(joined(precast.texts), "RZP 1/10|0|0|0||0.0|0.000||A|");
-    }
-    EXPECT_EQ(bench.host().helpTopics, (std::vector<int>{100, 100}));
+    EXPECT_FALSE(run(precast, title, [](Driver& d) {
+        EXPECT_EQ(d.editSelection("Označení"), "0-8");
+        expectTabOrder(d, {std::begin(precastFields), std::end(precastFields)});
+        retype(d, "Označení", "P1");
+        d.press("Nápověda");
+        d.press("Zrušit");
+    }));
+    EXPECT_EQ(joined(precast.texts), "RZP 1/10|0|0|0||0.0|0.000||A|");
+    EXPECT_EQ(bench.host().helpTopics, std::vector<int>{100});
 }
 
 TEST_F(ItemEditor, SteelHasNoLengthAndNoOpeningAndKeepsTheirValues) {
