@@ -113,5 +113,20 @@ TEST(ItemRows, SortByTheTextThatIsShown) {
     EXPECT_EQ(listed(rows), "nine,none,ten,minus");  // as does a minus sign
 }
 
+// In a sorted list, the first listed record too.
+TEST(ItemRows, StayRightAsRecordsAreRemovedAndAdded) {
+    const Catalogue chain = chainOf({"a", "c", "b"});
+    ItemRows rows(precast);
+    rows.refresh(chain.get(), 1);
+    rows.onHeadingClick(0);
+    rows.onHeadingClick(0);
+    for (const int row : {2, 2, -1}) rows.remove(row);
+    CPreklItem added;
+    added.designation = "d";
+    rows.add(added);
+    EXPECT_EQ(listed(rows), "c,b,d");
+    for (int row = 0; row < rows.count(); ++row) EXPECT_EQ(rows.rowOf(*rows.record(row)), row);
+}
+
 }  // namespace
 }  // namespace lx
