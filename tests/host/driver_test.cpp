@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <span>
+
 #include "tests/support/bench.h"
 
 namespace lx {
@@ -19,8 +21,6 @@ constexpr int iconButton = 24;
 constexpr int rowList = 30;
 constexpr int typeBox = 32;
 constexpr int valueBox = 34;
-constexpr int table = 36;
-constexpr int sketch = 40;
 constexpr int hiddenButton = 41;
 
 constexpr ControlTemplate controls[] = {
@@ -39,8 +39,6 @@ constexpr ControlTemplate controls[] = {
     {ControlKind::dropDownList, typeBox, "", {50, 94, 80, 60}, style::verticalScroll},
     {ControlKind::label, 33, "Hodnota:"_cz, {5, 112, 40, 8}},
     {ControlKind::editableCombo, valueBox, "", {50, 110, 80, 60}, style::verticalScroll},
-    {ControlKind::listView, table, "", {5, 130, 125, 60}, style::multipleSelection},
-    {ControlKind::picture, sketch, "", {140, 64, 80, 60}, style::focusable},
     {ControlKind::button, hiddenButton, "Skryté"_cz, {140, 150, 50, 14}, style::hidden},
     {ControlKind::button, id::ok, "OK", {140, 176, 40, 14}, style::defaultButton},
     {ControlKind::button, id::cancel, "Zrušit"_cz, {184, 176, 40, 14}},
@@ -54,7 +52,6 @@ constexpr ControlTemplate nestedControls[] = {
 constexpr DialogTemplate nestedLayout{"nested", "Vnořený"_cz, 95, 42, nestedControls};
 
 using Texts = std::vector<std::string>;
-using Rows = std::vector<int>;
 
 class DriverTest : public testing::Test {
 protected:
@@ -64,12 +61,6 @@ protected:
         }
         for (const char* type : {"I", "L", "U"}) at<ComboBox>(typeBox).add(type);
         for (const char* value : {"100", "150", "200"}) at<ComboBox>(valueBox).add(value);
-        auto& view = at<ListView>(table);
-        view.setColumns({{"Typ", 60}, {Text("Délka"_cz), 80}});
-        view.cell = [](int row, int column) {
-            return Text(column == 0 ? "P" : "d") + std::to_string(row);
-        };
-        view.setRowCount(40);
         at<Button>(iconButton).setTooltip([] { return Text("Vložit překlad"_cz); });
     }
 
@@ -83,6 +74,23 @@ protected:
         const int result = dialog->runModal();
         EXPECT_EQ(bench.user().failure(), "");
         return result;
+    }
+    void expectFaults(std::span<const ControlTemplate> bad, const Texts& told, std::size_t count,
+                      const std::function<void()>& fill) {
+        const DialogTemplate faulty{"faulty", "Chybný"_cz, 150, 80, bad};
+        dialog = bench.platform().createDialog(faulty, {});
+        fill();
+        then([&](Driver& d) {
+            const Texts faults = d.layoutFaults();
+            std::string all;
+            for (const std::string& fault : faults) all += fault + "\n";
+            EXPECT_EQ(faults.size(), count) << all;
+            for (const std::string& what : told) {
+                EXPECT_NE(all.find(what), std::string::npos) << what << " in " << all;
+            }
+            d.closeDialog();
+        });
+        EXPECT_EQ(run(), id::cancel);
     }
     void note(const std::string& what) { log.push_back(what); }
     MessageAnswer askUser() {
@@ -170,12 +178,6 @@ TEST_F(DriverTest, ChoosesRowsOfEveryKindOfList) {
         d.type("17");
         EXPECT_EQ(log, (Texts{"type U", "value 1", "value 17"}));
 
-        d.selectRow("#36", "P30");
-        d.addRowAt("#36", 32);
-        EXPECT_EQ(d.selectedRows("#36"), (Rows{30, 32}));
-        EXPECT_EQ(d.row("#36", 32).text, "P32 | d32");
-        d.selectRowAt("#36", 3);
-        EXPECT_EQ(d.selectedRows("#36"), Rows{3});
         d.press("OK");
     });
     EXPECT_EQ(run(), id::ok);
@@ -212,71 +214,6 @@ TEST_F(DriverTest, AnActReturnsWhenWhatItOpenedHasClosed) {
     EXPECT_EQ(log.back(), "closed") << "the step goes on to its end before the dialog's call does";
 }
 
-TEST_F(DriverTest, ChoosesFromMenusWhatCanBeChosen) {
-    const Menu menu{{"&Nový"_cz, 0, {{"&Typ", 1, {}}, {"&Překlad"_cz, 2, {}}}},
-                    {"", 0, {}},
-                    {"&Vymazat", 3, {}}};
-    auto& list = at<ListBox>(rowList);
-    list.onContext = [&](Point p) {
-        note("chosen " + std::to_string(dialog->popupMenu(menu, list, p,
-                                                          [](int entry) { return entry != 2; })));
-    };
-    dialog->setMenuBar(menu);
-    dialog->enableMenu(2, false);
-    dialog->onCommand = [this](int command) { note("menu " + std::to_string(command)); };
-    then([this](Driver& d) {
-        EXPECT_EQ(d.menu(), (Texts{"Nový", "Nový/Typ", "Nový/Překlad", "Vymazat (grey)"}));
-        d.chooseMenu("Nový/Typ");
-        EXPECT_THROW(d.chooseMenu("Vymazat"), DriverError);
-        EXPECT_THROW(d.chooseMenu("Typ"), DriverError);
-        d.rightClickRow("Nabídka", 2);
-        d.focus("Nabídka");
-        d.key("Shift+F10");
-        EXPECT_EQ(log, (Texts{"menu 1", "chosen 3", "chosen 0"}));
-        d.press("OK");
-    });
-    then([](Driver& d) {
-        EXPECT_EQ(d.popup(), (Texts{"Nový", "Nový/Typ", "Nový/Překlad (grey)", "Vymazat"}));
-        for (const char* none : {"Nový/Překlad", "Smazat"}) {
-            EXPECT_THROW(d.choosePopup(none), DriverError) << none;
-        }
-        d.choosePopup("Vymazat");
-    });
-    then([](Driver& d) { d.closePopup(); });
-    EXPECT_EQ(run(), id::ok);
-}
-
-TEST_F(DriverTest, UsesTheMouseInPictures) {
-    const auto noted = [this](const std::string& act) {
-        return [this, act](Point p) {
-            note(act + " " + std::to_string(p.x) + " " + std::to_string(p.y));
-        };
-    };
-    auto& picture = at<Picture>(sketch);
-    picture.regions = [] {
-        return std::vector<PictureRegion>{{"layer 1", {10, 10, 20, 30}}, {"width", {40, 5, 61, 9}}};
-    };
-    picture.onMouseMove = [&](Point p, bool down) { noted(down ? "drag" : "move")(p); };
-    picture.onLeftDown = noted("down");
-    picture.onLeftUp = noted("up");
-    picture.onRightDown = noted("right");
-    then([this](Driver& d) {
-        EXPECT_EQ(d.regions("#40"), (Texts{"layer 1 10 10 20 30", "width 40 5 61 9"}));
-        const ScreenPoint p = d.regionPoint("#40", "layer 1");
-        EXPECT_THROW(d.regionPoint("#40", "layer 2"), DriverError);
-        d.mouseMove("#40", p, false);
-        d.mouseDown("#40", p);
-        EXPECT_EQ(d.focusedControl(), "#40");
-        d.mouseMove("#40", {40, 20}, true);
-        d.mouseUp("#40", {40, 21});
-        d.rightClick("#40", {1, 2});
-        EXPECT_EQ(log, (Texts{"move 15 20", "down 15 20", "drag 40 20", "up 40 21", "right 1 2"}));
-        EXPECT_THROW(d.mouseDown("#40", {2000, 20}), DriverError);
-        d.press("OK");
-    });
-    EXPECT_EQ(run(), id::ok);
-}
-
 TEST_F(DriverTest, AFailedStepIsKeptAndEverythingCancelled) {
     at<Button>(iconButton).onClick = [&] { askUser(); };
     at<Button>(id::cancel).enable(false);
@@ -292,21 +229,9 @@ TEST_F(DriverTest, FindsFaultsOfALayout) {
         {ControlKind::button, 1, "Mnohem delší text"_cz, {5, 5, 20, 14}},
         {ControlKind::button, 2, "", {20, 10, 20, 14}},
         {ControlKind::groupBox, 3, "", {0, 0, 60, 60}},
-        {ControlKind::edit, 4, "", {80, 30, 40, 12}},
+        {ControlKind::edit, 4, "", {130, 30, 40, 12}},
     };
-    const DialogTemplate faulty{"faulty", "Chybný"_cz, 100, 60, bad};
-    dialog = bench.platform().createDialog(faulty, {});
-    then([](Driver& d) {
-        const Texts faults = d.layoutFaults();
-        std::string all;
-        for (const std::string& fault : faults) all += fault + "\n";
-        EXPECT_EQ(faults.size(), 3U) << all;
-        for (const char* what : {"#1", "overlaps", "#4", "sticks out", "cuts its text"}) {
-            EXPECT_NE(all.find(what), std::string::npos) << what << " in " << all;
-        }
-        d.closeDialog();
-    });
-    EXPECT_EQ(run(), id::cancel);
+    expectFaults(bad, {"#1", "overlaps", "#4", "sticks out", "cuts its text"}, 3, [] {});
 }
 
 #if defined(_WIN32)
@@ -323,21 +248,10 @@ TEST_F(DriverTest, FindsTextsThatAreCut) {
         {ControlKind::edit, 8, "", {100, 5, 40, 12}},
         {ControlKind::button, 9, "Nápověda"_cz, {100, 20, 44, 10}},
     };
-    const DialogTemplate faulty{"faulty", "Chybný"_cz, 150, 80, bad};
-    dialog = bench.platform().createDialog(faulty, {});
-    at<ComboBox>(6).add("Keramické překlady"_cz);
-    at<ComboBox>(6).select(0);
-    then([](Driver& d) {
-        const Texts faults = d.layoutFaults();
-        std::string all;
-        for (const std::string& fault : faults) all += fault + "\n";
-        EXPECT_EQ(faults.size(), 7U) << all;
-        for (const char* what : {"#1 ", "#2 ", "#3 ", "#4 ", "#5 ", "#6 ", "#7 "}) {
-            EXPECT_NE(all.find(what), std::string::npos) << what << "in " << all;
-        }
-        d.closeDialog();
+    expectFaults(bad, {"#1 ", "#2 ", "#3 ", "#4 ", "#5 ", "#6 ", "#7 "}, 7, [this] {
+        at<ComboBox>(6).add("Keramické překlady"_cz);
+        at<ComboBox>(6).select(0);
     });
-    EXPECT_EQ(run(), id::cancel);
 }
 #endif
 

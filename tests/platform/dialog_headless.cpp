@@ -36,9 +36,6 @@ constexpr ControlTemplate pageControls[] = {
 };
 constexpr DialogTemplate pageLayout{"page", "Page", 140, 80, pageControls, DialogStyle::page};
 
-constexpr ControlTemplate fixedControls[] = {
-    {ControlKind::edit, nameField, "as it is", {4, 4, 40, 12}, style::readOnly}};
-
 constexpr KeyEvent plain(int key) {
     return {key, false, false, false};
 }
@@ -109,7 +106,7 @@ TEST_F(SampleDialog, EnterAndEscapePressTheRightButtons) {
     EXPECT_EQ(dialog.runModal(), -1) << "its window is gone";
 }
 
-TEST_F(SampleDialog, TypingIsAnActAndASetterIsNone) {
+TEST_F(SampleDialog, EditsKeepLineEndsAndOnlyTypingIsAnAct) {
     run([this] {
         int changes = 0;
         edit(nameField).onChange = [&] { ++changes; };
@@ -119,11 +116,6 @@ TEST_F(SampleDialog, TypingIsAnActAndASetterIsNone) {
         EXPECT_EQ(platform.beeps(), 1);
         edit(nameField).setText("x");
         EXPECT_EQ(changes, 3);
-    });
-}
-
-TEST_F(SampleDialog, EditsKeepLineEndsAndTheirText) {
-    run([this] {
         HeadlessEdit& text = edit(notes);
         text.userFocus();
         type(U"ab\rcd");
@@ -135,18 +127,6 @@ TEST_F(SampleDialog, EditsKeepLineEndsAndTheirText) {
         edit(countField).userPaste("1\r\n2");
         EXPECT_EQ(edit(countField).text(), "17") << "one line, put in front";
     });
-}
-
-TEST_F(SampleDialog, ReadOnlyEditsKeepTheirText) {
-    HeadlessDialog& window = make({"fixed", "", 50, 50, fixedControls});
-    then([&] {
-        auto& fixed = dynamic_cast<HeadlessEdit&>(window.item(nameField));
-        fixed.userType(U'z');
-        window.userKey(plain(key::del));
-        EXPECT_EQ(fixed.text(), "as it is");
-        window.end(1);
-    });
-    EXPECT_EQ(window.runModal(), 1);
 }
 
 TEST_F(SampleDialog, TheFocusLeavesWhatGoesAway) {
@@ -166,19 +146,6 @@ TEST_F(SampleDialog, TheFocusLeavesWhatGoesAway) {
         EXPECT_THROW(list().userSelect(0), std::logic_error);
         list().focus();
         EXPECT_EQ(focused(), behindPage);
-    });
-}
-
-TEST_F(SampleDialog, EscClosesAListAloneAndGivesTheChoiceBack) {
-    run([this] {
-        auto& combo = at<HeadlessComboBox>(colours);
-        for (const char* item : {"red", "green"}) combo.add(item);
-        combo.select(0);
-        combo.userDropDown(true);
-        dialog.userKey(plain(key::down));
-        dialog.userKey(plain(key::escape));
-        EXPECT_EQ(combo.text(), "red");
-        EXPECT_TRUE(dialog.running());
     });
 }
 
