@@ -59,6 +59,11 @@ TEST_F(Links, HandOnWhatTheServicesAnswer) {
     EXPECT_EQ(links.getHostFolder(HostFolder::library), "L:\\shared\\");
     EXPECT_EQ(links.getHostFolder(HostFolder::catalogue), "K:\\");
     EXPECT_EQ(hostSide().sizesGiven, (std::vector<int>{260, 260}));
+    hostSide().folderAnswer = 0x7FFF00;  // its low byte alone counts
+    EXPECT_EQ(links.getHostFolder(HostFolder::library), std::nullopt);
+    hostSide().folderAnswer = 0x100 | 1;
+    hostSide().libraryFolder = Path(400, 'x');
+    EXPECT_EQ(links.getHostFolder(HostFolder::library), Path(260, 'x'));
     EXPECT_EQ(links.variable("DWGNAME"), "plan.dwg");
     EXPECT_EQ(links.variable("OTHER"), "");
     EXPECT_EQ(links.unitsPerMetre(), 1000);
@@ -67,14 +72,6 @@ TEST_F(Links, HandOnWhatTheServicesAnswer) {
     EXPECT_EQ(hostSide().lockCalls, (std::vector<std::pair<int, int>>{{3, 9}, {2, 4}}));
     EXPECT_EQ(links.textStyles(), (std::vector<Text>{"Standard", "Iso"}));
     EXPECT_EQ(links.hostTitle(), "Stand-in 7");
-}
-
-TEST_F(Links, OnlyTheLowByteOfTheFolderAnswerCounts) {
-    hostSide().folderAnswer = 0x7FFF00;
-    EXPECT_EQ(links.getHostFolder(HostFolder::library), std::nullopt);
-    hostSide().folderAnswer = 0x100 | 1;
-    hostSide().libraryFolder = Path(400, 'x');
-    EXPECT_EQ(links.getHostFolder(HostFolder::library), Path(260, 'x'));
 }
 
 TEST_F(Links, TheTableIsAskedAfreshOfTheProgramBeforeTheExtension) {

@@ -95,16 +95,13 @@ TEST(FlickerTest, NothingShowsItsGroundWhileItIsPaintedAnew) {
     for (int i = 0; i < 100; ++i) all[static_cast<std::size_t>(i)] = i;
     view.selectRows(all);
     dialog->onSize = [&](Size client) {
-        Rect area = view.area();
-        area.right = client.width - 10;
-        area.bottom = client.height - 60;
-        view.setArea(area);
-        area = list.area();
-        area.bottom = client.height - 60;
-        list.setArea(area);
-        area = picture.area();
-        area.bottom = client.height - 60;
-        picture.setArea(area);
+        for (Control* control : {static_cast<Control*>(&view), static_cast<Control*>(&list),
+                                 static_cast<Control*>(&picture)}) {
+            Rect area = control->area();
+            if (control == &view) area.right = client.width - 10;
+            area.bottom = client.height - 60;
+            control->setArea(area);
+        }
     };
     bench.user().then([&](Driver& d) {
         const HWND window = FindWindowW(nullptr, L"Flicker");
