@@ -160,10 +160,5 @@ TEST(OfferOrder, NumbersStandByValueAndCaseDoesNotCount) {
     EXPECT_EQ(offerOrder(offer), (std::vector<int>{4, 2, 1, 0, 3}));
 }
 
-TEST(TypeNames, AreThoseOfTheTypeRecordsInTheirOrder) {
-    const Catalogue catalogue = catalogueOf({{-1, "one"}, {1, "item"}, {-2, ""}});
-    EXPECT_EQ(typeNames(catalogue.get()), (std::vector<Text>{"one", ""}));
-}
-
 }  // namespace
 }  // namespace lx

@@ -26,33 +26,6 @@ Bytes rawRecord(std::int32_t tag, std::int32_t kindCode, std::string_view tail) 
     return writer.take();
 }
 
-TEST(StoredForm, FieldsStandWhereTheFilesHaveThem) {
-    const RezChain design = sampleDesign("B");
-    const Bytes bytes = designBytes(design.head());
-    ASSERT_EQ(bytes.size(), 87U + 59U + 50U);
-    BinaryReader reader(bytes);
-    for (const int value : {14300, 0, 0x42, 300, 2300, 1200, 0, 0, 0, 1, -1, 0, 1}) {
-        EXPECT_EQ(reader.int32(), value);
-    }
-    for (const int value : {14302, 100, 50}) EXPECT_EQ(reader.int32(), value);
-    EXPECT_EQ(reader.byte(), 0);
-    for (const int value : {1, 14302, 120, -30}) EXPECT_EQ(reader.int32(), value);
-    EXPECT_EQ(reader.raw(6), std::string_view("\1\0\0\0\0 ", 6));
-    for (const int value : {14301, 2, 5, 70, 238, 1450, 52200, 1200, 0, 50, 0, 125}) {
-        EXPECT_EQ(reader.int32(), value);
-    }
-    EXPECT_EQ(reader.raw(11), std::string_view("KPV 7/145\0X", 11));
-    const DesignRead read = readBytes(bytes);
-    EXPECT_FALSE(read.damaged);
-    EXPECT_EQ(designBytes(read.design.head()), bytes);
-
-    // The tag alone makes a head, and anything else is a layer.
-    const Bytes odd = rawRecord(headTag, kind::precast, std::string_view("\0\0\0\0 ", 5)) +
-                      rawRecord(77, 5, std::string_view("n\0L", 3));
-    EXPECT_EQ(readBytes(odd).design.head()->kind, kind::head);
-    EXPECT_EQ(readBytes(odd).design.last()->letter, 'L');
-}
-
 TEST(StoredForm, LongNamesAreCutAndTheNextRecordIsFound) {
     RezChain design = sampleDesign();
     design.last()->name = Text(300, 'n');
@@ -95,6 +68,11 @@ TEST(StoredForm, WhatIsNoDesignIsLeftOut) {
         EXPECT_EQ(designBytes(read.design.head()), good);
     }
     EXPECT_TRUE(readBytes(stray).design.empty());
+    // The tag alone makes a head, and anything else is a layer.
+    const Bytes odd = rawRecord(headTag, kind::precast, std::string_view("\0\0\0\0 ", 5)) +
+                      rawRecord(77, 5, std::string_view("n\0L", 3));
+    EXPECT_EQ(readBytes(odd).design.head()->kind, kind::head);
+    EXPECT_EQ(readBytes(odd).design.last()->letter, 'L');
 }
 
 TEST(StoredForm, EndlessBendsEndWithTheBytes) {

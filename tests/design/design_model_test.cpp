@@ -18,55 +18,12 @@ struct DesignModelTest : testing::Test {
         values.openingWidth = 1200;
         values.wallThickness = 300;
         values.precast = catalogueOf({{-1, "typ 1"},
-                                      {1, "KP 1000", 1500, 70, 1200},
-                                      {1, "kp 750", 1500, 70, 1200},
                                       {1, "KP 9", 1500, 70, 1200},
                                       {-2, "typ 2"},
                                       {2, "KV 7/?", -150, 70, 1500}});
         model.startDesign();
     }
-    std::string listed() {
-        std::string text;
-        Offer& offer = model.precastOffer();
-        for (int i = 0; i < offer.count(); ++i) text += *offer.row(i).name + ";";
-        return text;
-    }
 };
-
-TEST_F(DesignModelTest, OffersAreListedInTheirOrderWithTheFirstEntrySelected) {
-    model.rebuildPrecastOffer(0);
-    EXPECT_EQ(listed(), "KP 9;kp 750;KP 1000;");
-    Offer& offer = model.precastOffer();
-    EXPECT_EQ(offer.selectedRecord(), &offer.row(0));
-    offer.select(2);
-    EXPECT_EQ(offer.selectedRecord()->itemIndex, 0);
-    offer.select(3);
-    EXPECT_EQ(offer.selectedRecord(), nullptr);
-    EXPECT_FALSE(model.available().addPrecast);
-    model.rebuildPrecastOffer(-1);
-    EXPECT_EQ(offer.count(), 0);
-}
-
-TEST_F(DesignModelTest, ACompositionStartsFromTheSelectedElement) {
-    MemoryFiles files;
-    files.content["R"] = "[0]\nkp 750=A M[10] A\n";
-    const Profile rules(files, "R");
-    for (CPreklItem* item = values.precast.get(); item; item = item->next.get()) {
-        item->compositionMark = 'A';
-    }
-    EXPECT_FALSE(model.ComposePrecast(rules));
-    EXPECT_FALSE(model.ComposeSteel());
-    model.rebuildPrecastOffer(0);
-    model.precastOffer().select(1);
-    EXPECT_TRUE(model.ComposePrecast(rules));
-    EXPECT_EQ(model.current(), model.head());
-    EXPECT_EQ(namesOf(model.chain()),
-              "KP 9 70;kp 750 70;KP 1000 70;MEZERA 10;KP 9 70;kp 750 70;KP 1000 70;");
-    model.select(model.head()->next);
-    model.precastOffer().select(-1);
-    EXPECT_FALSE(model.ComposePrecast(rules));
-    EXPECT_EQ(model.current(), model.head()->next);
-}
 
 TEST_F(DesignModelTest, AHandedOverDesignReplacesTheHeadOfTheCall) {
     RezChain given = sampleDesign("Z");
@@ -77,6 +34,10 @@ TEST_F(DesignModelTest, AHandedOverDesignReplacesTheHeadOfTheCall) {
     EXPECT_EQ(model.head()->next->maxOpening, 1500);
     EXPECT_EQ(model.precastTypeUsed(), 2);
     EXPECT_FALSE(model.steelTypeUsed());
+    // Nothing is offered, so nothing is selected to start from.
+    MemoryFiles files;
+    EXPECT_FALSE(model.ComposePrecast(Profile(files, "R")) || model.ComposeSteel());
+    EXPECT_EQ(model.current(), model.head());
     model.settleLevel();
     EXPECT_EQ(model.head()->height, 0);
 

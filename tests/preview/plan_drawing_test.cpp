@@ -90,24 +90,6 @@ TEST(PlanDrawing, IsBlackWithoutADesignAndNothingWithoutRoom) {
     expectNothingWithoutRoom(bent);
 }
 
-TEST(PlanDrawing, TheCurrentRecordLiesOverAllOthersWithoutRegionsOfItsOwn) {
-    Scene scene(300);
-    scene.add(kind::beam, 55, 100).here().add(kind::beam, 55, 100).folded();
-    RecordingCanvas canvas;
-    const std::size_t regions = scene.draw(canvas).size();
-    EXPECT_EQ(regions, 2U);
-    const std::string text = canvas.asText();
-    EXPECT_GT(text.rfind("255,255,170"), text.rfind("255,153,153"));
-
-    const CRez* const withoutColor[] = {nullptr, scene.design.head()};
-    for (const CRez* current : withoutColor) {
-        scene.input.current = current;
-        RecordingCanvas other;
-        EXPECT_EQ(drawPlan(other, scene.input).size(), regions);
-        EXPECT_EQ(other.asText().find("255,255,170"), std::string::npos);
-    }
-}
-
 TEST(PlanDrawing, NoNumberMakesItLong) {
     forWildScenes<Scene>([](Scene& scene, std::int32_t size, std::int32_t place) {
         for (CRez* record = scene.design.head()->next; record; record = record->next) {

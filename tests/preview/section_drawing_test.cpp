@@ -126,16 +126,6 @@ TEST(SectionDrawing, TheZigzagIsCutWhereItCannotBeSeen) {
     EXPECT_EQ(zigzag(2'000'000'050, 1'000'000'000, 100), "") << "all of it below the picture";
 }
 
-TEST(SectionDrawing, RegionsAreNamedInTheOrderOfTheirMaking) {
-    Scene scene(300);
-    beamsAndInsulation(scene);
-    RecordingCanvas canvas;
-    std::string names;
-    for (const PictureRegion& region : pictureRegions(scene.draw(canvas)))
-        names += region.name + ";";
-    EXPECT_EQ(names, "run 1;step 1;width;height;layer 1;layer 2;layer 3;");
-}
-
 TEST(HitRegions, BelongToTheirEdgesAndTheNewestOneWins) {
     const HitRegions regions = {{false, region::number, {}, 20, 20, 10, 5},
                                 {false, region::number, {}, 10, 10, 10, 10},
