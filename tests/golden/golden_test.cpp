@@ -1,6 +1,6 @@
-// Files as the module wrote them once, never to be made anew, for users have such: read today as
-// the text beside each says, and written again with the same bytes. LX_WRITE_GOLDEN=1 writes the
-// texts anew; look at their differences before keeping them.
+// A file of each format, kept as it is: read today as the text beside each says, and written again
+// with the same bytes. LX_WRITE_GOLDEN=1 writes the texts anew; look at their differences before
+// keeping them.
 #include <gtest/gtest.h>
 
 #include <algorithm>
