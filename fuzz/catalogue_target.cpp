@@ -31,8 +31,8 @@ void readCatalogue(std::string_view input) {
         promise(!again.damaged && catalogueBytes(again.head.get()) == written);
 
         sortEveryColumn(read.head.get(), kind);
-        buildPrecastOffer(read.head.get(), 0, 1000, 1000);
-        buildSteelOffer(read.head.get(), 0, 1000, 0);
+        BuildPrecastOffer(read.head.get(), 0, 1000, 1000);
+        BuildSteelOffer(read.head.get(), 0, 1000, 0);
         const Catalogue merged = mergedCatalogue(std::move(read.head), std::move(again.head));
         const Bytes mergedBytes = catalogueBytes(merged.get());
         again = parseCatalogue(CatalogueKind::precast, mergedBytes);

@@ -56,7 +56,7 @@ void readLibrary(std::string_view input) {
     for (const std::int32_t project : projects) before[project] = designsOf(files, project);
 
     const RezChain design = sampleDesign("Z", 333);
-    findStoredSame(path, stored, "A  ", *design.head(), {400, 300}, files);
+    FindStoredSame(path, stored, "A  ", *design.head(), {400, 300}, files);
     promise(appendDesign(path, stored, *design.head(), {}, files));
     for (const std::int32_t project : projects) {
         Designs now = designsOf(files, project);

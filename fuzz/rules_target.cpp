@@ -24,7 +24,7 @@ void readRules(std::string_view input) {
     RezChain design = sampleDesign("A1", wall);
     promise(composePrecast(design, offer.head(), listed, rules) == design.head());
     // Two elements of the letter A for each of the rule's 259 characters.
-    promise(layerCount(*design.head()) <= 2 * 259);
+    promise(LayerCount(*design.head()) <= 2 * 259);
 }
 
 }  // namespace lx::fuzz

@@ -108,7 +108,7 @@ void CData6_1::open() {
     Dialog& window = *m_window;
     window.setIcon(icon::module);
     window.get<Button>(id::browserIcon).setIcon(icon::module);
-    window.item(id::pickItems).show(m_request.pick);
+    window.item(id::pickItems).show(m_request.pickMode);
     window.item(id::cancel).setText(str(cancelText));
     window.item(id::help).setText(str(helpText));
     window.setMenuBar(steel() ? steelCatalogueMenu() : precastCatalogueMenu());

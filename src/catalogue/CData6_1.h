@@ -24,7 +24,7 @@ struct ElementPlace {
 
 struct BrowserRequest {
     CatalogueKind kind = CatalogueKind::precast;
-    bool pick = false;                    // the user may choose items for the caller
+    bool pickMode = false;                // the user may choose items for the caller
     std::optional<ElementPlace> element;  // shown first
     int type = 0;                         // shown first without an element, position from 0
     // The same by their names: positions mean nothing when somebody else has changed the catalogue.

@@ -10,8 +10,8 @@ CatalogueSession::CatalogueSession(Files& files, Host& host, CatalogueKind kind,
       m_path(cataloguePath(kind, host)),
       m_items(items),
       m_state(state),
-      m_lock(host, HostResource::catalogue) {
-    if (!m_lock.isGranted()) return;
+      m_accessLock(host, HostResource::catalogue) {
+    if (!m_accessLock.isGranted()) return;
     FileRead file = m_files.read(m_path);
     // What cannot be read now may be newer than the items, and is not to be written over.
     if (file.status == ReadStatus::failed) return;
@@ -23,9 +23,9 @@ CatalogueSession::CatalogueSession(Files& files, Host& host, CatalogueKind kind,
             m_state = stateOf(file.bytes, read.damaged);
             m_reloaded = true;
         }
-        m_atOpening = std::move(file.bytes);
+        m_backup = std::move(file.bytes);
     }
-    m_stateAtOpening = m_state;
+    m_backupState = m_state;
 }
 
 void CatalogueSession::save() {
@@ -38,9 +38,9 @@ void CatalogueSession::save() {
 
 void CatalogueSession::putBack() {
     if (!m_written) return;
-    const bool done = m_atOpening ? m_files.replace(m_path, *m_atOpening) : m_files.remove(m_path);
+    const bool done = m_backup ? m_files.replace(m_path, *m_backup) : m_files.remove(m_path);
     if (!done) return;
-    m_state = m_stateAtOpening;
+    m_state = m_backupState;
     m_written = false;
 }
 

@@ -32,12 +32,12 @@ private:
     Path m_path;
     Catalogue& m_items;
     CatalogueState& m_state;
-    HostAccessLock m_lock;
+    HostAccessLock m_accessLock;
     bool m_readOnly = true;
     bool m_reloaded = false;
     bool m_written = false;
-    std::optional<Bytes> m_atOpening;  // none = there was no file
-    CatalogueState m_stateAtOpening;
+    std::optional<Bytes> m_backup;  // none = there was no file
+    CatalogueState m_backupState;
 };
 
 }  // namespace lx

@@ -26,7 +26,7 @@ Bytes handOverBytes(const CRez* head) {
     return writer.take();
 }
 
-int writeHandOver(const Path& path, CRez* head, double openingWidth, Files& files) {
+int WriteHandOver(const Path& path, CRez* head, double openingWidth, Files& files) {
     if (openingWidth < 0) {
         for (CRez* record = head; record; record = record->next) {
             record->length = saturated(-std::int64_t{record->length});
@@ -41,7 +41,7 @@ RezChain parseHandOver(std::string_view bytes) {
     return readDesign(reader).design;
 }
 
-HandOverRead readHandOver(const Path& path, Files& files) {
+HandOverRead ReadHandOver(const Path& path, Files& files) {
     const FileRead file = files.read(path);
     HandOverRead result;
     result.present = file.status == ReadStatus::ok;

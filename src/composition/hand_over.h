@@ -14,7 +14,7 @@ inline constexpr std::string_view handOverFileName = "LXDATA6I.tmp";
 Path handOverPath(Files& files);
 // 1 written, 0 the file could not be created. A negative opening width first negates every record's
 // length.
-int writeHandOver(const Path& path, CRez* head, double openingWidth, Files& files);
+int WriteHandOver(const Path& path, CRez* head, double openingWidth, Files& files);
 
 // The whole file: its header and the design.
 Bytes handOverBytes(const CRez* head);
@@ -23,7 +23,7 @@ struct HandOverRead {
     bool present = false;  // a file could be read, whatever it held
     RezChain design;       // empty when it held no head record
 };
-HandOverRead readHandOver(const Path& path, Files& files);
+HandOverRead ReadHandOver(const Path& path, Files& files);
 RezChain parseHandOver(std::string_view bytes);
 
 // The stored form does not keep up with the catalogue: every record whose length follows the

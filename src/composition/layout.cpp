@@ -69,13 +69,13 @@ std::int32_t freeSpace(const CRez& head) {
     return saturated(std::int64_t{head.width} - last->offset - last->width);
 }
 
-int layerCount(const CRez& head) {
+int LayerCount(const CRez& head) {
     int count = 0;
     for (const CRez* layer = head.next; layer; layer = layer->next) ++count;
     return count;
 }
 
-Family designFamily(const CRez& head) {
+Family DesignFamily(const CRez& head) {
     for (const CRez* layer = head.next; layer; layer = layer->next) {
         if (layer->kind == kind::precast) return Family::precast;
         if (isSteel(layer->kind)) return Family::steel;

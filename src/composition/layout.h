@@ -12,10 +12,10 @@ void layOut(CRez& head);
 std::int32_t levelAbove(const CZalom* bends, std::int32_t x, std::int32_t width);
 // Wall thickness minus the end of the last layer, mm; may be negative.
 std::int32_t freeSpace(const CRez& head);
-int layerCount(const CRez& head);
+int LayerCount(const CRez& head);
 
 // 0 = no catalogue or cast layer; else by the first such layer: precast, steel or cast.
 enum class Family { none = 0, precast = 1, steel = 2, monolith = 3 };
-Family designFamily(const CRez& head);
+Family DesignFamily(const CRez& head);
 
 }  // namespace lx

@@ -165,7 +165,7 @@ LibraryRead loadLibrary(const Path& path, std::int32_t project, Files& files) {
     return result;
 }
 
-bool findStoredSame(const Path& path, std::int32_t project, std::string_view label,
+bool FindStoredSame(const Path& path, std::int32_t project, std::string_view label,
                     const CRez& head, Size preview, Files& files) {
     const FileRead file = files.read(path);
     if (project == deletedProject) return false;

@@ -35,7 +35,7 @@ LibraryRead parseLibrary(std::string_view bytes, std::int32_t project);
 // True when an entry of that project and label holds the same design (compare gives 0, the given
 // design first). The levels of layers on a sloping step depend on the preview of the program that
 // stored them; they are taken as a preview of this size, in pixels, shows them.
-bool findStoredSame(const Path& path, std::int32_t project, std::string_view label,
+bool FindStoredSame(const Path& path, std::int32_t project, std::string_view label,
                     const CRez& head, Size preview, Files& files);
 
 // Appends the entry, which readers see whole or not at all, then marks the entries of that project

@@ -95,7 +95,7 @@ std::unique_ptr<CRez> offerRecord(const CPreklItem& item, std::int32_t type, std
     return record;
 }
 
-RezChain buildPrecastOffer(const CPreklItem* catalogue, std::int32_t type, double openingWidth,
+RezChain BuildPrecastOffer(const CPreklItem* catalogue, std::int32_t type, double openingWidth,
                            std::int32_t headLength, const std::vector<const CPreklItem*>& chosen) {
     std::vector<const CPreklItem*> picked = chosen;
     std::sort(picked.begin(), picked.end(), std::less<>());
@@ -129,7 +129,7 @@ void addPicked(RezChain& offer, const std::vector<const CPreklItem*>& picked) {
     }
 }
 
-RezChain buildSteelOffer(const CPreklItem* catalogue, std::int32_t type, std::int32_t headLength,
+RezChain BuildSteelOffer(const CPreklItem* catalogue, std::int32_t type, std::int32_t headLength,
                          std::int32_t headBearing) {
     const std::int32_t length =
         lengthOver(headLength, headBearing != 0 ? headBearing : defaultBearing);

@@ -10,14 +10,14 @@ namespace lx {
 
 // Chain of offered records in catalogue order. type from 0; openingWidth in mm as the call has it;
 // headLength is the design's opening width in whole mm. chosen: items that stay however oversized.
-RezChain buildPrecastOffer(const CPreklItem* catalogue, std::int32_t type, double openingWidth,
+RezChain BuildPrecastOffer(const CPreklItem* catalogue, std::int32_t type, double openingWidth,
                            std::int32_t headLength,
                            const std::vector<const CPreklItem*>& chosen = {});
 // Appends the picked items to a precast offer, each as it stands in the catalogue; those that the
 // offer holds already, the same in all but the letter case of the designation, are left out.
 void addPicked(RezChain& offer, const std::vector<const CPreklItem*>& picked);
 // headBearing: the head's maxOpening; 0 gives opening + 300.
-RezChain buildSteelOffer(const CPreklItem* catalogue, std::int32_t type, std::int32_t headLength,
+RezChain BuildSteelOffer(const CPreklItem* catalogue, std::int32_t type, std::int32_t headLength,
                          std::int32_t headBearing);
 // The record that a catalogue item becomes, its length not yet following the opening.
 std::unique_ptr<CRez> offerRecord(const CPreklItem& item, std::int32_t type, std::int32_t itemIndex,

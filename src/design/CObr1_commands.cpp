@@ -61,7 +61,7 @@ void CObr1::OpenCatalogue(int request) {
 
     BrowserRequest opened;
     opened.kind = choice.kind;
-    opened.pick = choice.pick;
+    opened.pickMode = choice.pickMode;
     opened.type = page.selectedType();
     opened.typeName = page.selectedTypeName();
     if (choice.element) {

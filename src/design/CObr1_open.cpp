@@ -128,7 +128,7 @@ void CObr1::fillTypeBoxes() {
 
 void CObr1::readHandOver() {
     const Path path = handOverPath(m_context.files);
-    HandOverRead read = lx::readHandOver(path, m_context.files);
+    HandOverRead read = lx::ReadHandOver(path, m_context.files);
     m_context.files.remove(path);
     if (!read.present) return;
     m_model.adoptHandOver(std::move(read.design));

@@ -36,7 +36,7 @@ CatalogueChoice chooseCatalogue(DesignModel& model, PropertiesSource source, int
     } else if (last && last->kind == choice.kind) {
         choice.element = last;
     }
-    choice.pick = (request & pickRequest) != 0 && choice.kind == CatalogueKind::precast;
+    choice.pickMode = (request & pickRequest) != 0 && choice.kind == CatalogueKind::precast;
     return choice;
 }
 

@@ -20,7 +20,7 @@ struct CatalogueChoice {
     CatalogueKind kind = CatalogueKind::precast;
     // None: the type shown in the page's "Typ:" box and its first item.
     std::optional<CatalogueElement> element;
-    bool pick = false;  // items may be picked into the precast offer
+    bool pickMode = false;  // items may be picked into the precast offer
 };
 
 // Of a request value this bit alone has a meaning: items may be picked.

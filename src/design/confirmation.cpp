@@ -31,7 +31,7 @@ ConfirmationAnswer confirmDesign(const ConfirmationInput& input, DesignModel& mo
         if (stored == StoreAnswer::failed) return ConfirmationAnswer::storeFailed;
         library.SaveProjects();
     }
-    writeHandOver(handOverPath(files), model.head(), model.values().openingWidth, files);
+    WriteHandOver(handOverPath(files), model.head(), model.values().openingWidth, files);
 
     settings.storeTab(input.tab);
     settings.storePrecastType(input.precastType);

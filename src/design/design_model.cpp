@@ -98,7 +98,7 @@ std::int32_t DesignModel::headLength() const {
 void DesignModel::rebuildPrecastOffer(int type, const std::vector<const CPreklItem*>& picked) {
     RezChain records;
     if (type >= 0) {
-        records = buildPrecastOffer(m_values.precast.get(), type, m_values.openingWidth,
+        records = BuildPrecastOffer(m_values.precast.get(), type, m_values.openingWidth,
                                     headLength(), picked);
     }
     addPicked(records, picked);
@@ -110,7 +110,7 @@ void DesignModel::rebuildSteelOffer(int type) {
     const std::int32_t bearing = head() ? head()->maxOpening : 0;
     m_steelOffer = type < 0
                        ? Offer()
-                       : Offer(buildSteelOffer(m_values.steel.get(), type, headLength(), bearing));
+                       : Offer(BuildSteelOffer(m_values.steel.get(), type, headLength(), bearing));
 }
 
 std::optional<int> DesignModel::precastTypeUsed() const {

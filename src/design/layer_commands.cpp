@@ -61,7 +61,7 @@ CommandAnswer remove(DesignEdit design, Neighbour preferred) {
 
 CommandAnswer addPrecast(DesignEdit design, const CRez* element) {
     if (design.chain.empty()) return CommandAnswer::nothing;
-    const Family family = designFamily(*design.chain.head());
+    const Family family = DesignFamily(*design.chain.head());
     if (family == Family::steel || family == Family::monolith) return CommandAnswer::wrongType;
     if (element == nullptr) return CommandAnswer::nothing;
     insertElement(design, *element);
@@ -71,7 +71,7 @@ CommandAnswer addPrecast(DesignEdit design, const CRez* element) {
 CommandAnswer addSteel(DesignEdit design, const CRez* element) {
     if (design.chain.empty()) return CommandAnswer::nothing;
     CRez& head = *design.chain.head();
-    const Family family = designFamily(head);
+    const Family family = DesignFamily(head);
     if (family == Family::precast || family == Family::monolith) return CommandAnswer::wrongType;
     if (element == nullptr) return CommandAnswer::nothing;
     const std::int32_t total = lengthOver(head.length, settledBearing(head));

@@ -114,7 +114,7 @@ StoreAnswer LibrarySession::StoreDesign(DesignModel& model, std::string_view bub
     const Text label = paddedLabel(bubble);
     Text replaced;
     if (model.listsLabel(label)) {
-        if (!findStoredSame(*path, project, label, head, model.values().sectionSize, m_files))
+        if (!FindStoredSame(*path, project, label, head, model.values().sectionSize, m_files))
             return StoreAnswer::differs;
         replaced = label;
     }

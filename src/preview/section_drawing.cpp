@@ -64,7 +64,7 @@ void drawOpeningWidth(Canvas& canvas, const SectionInput& input) {
 void drawLayerNames(SectionSheet& sheet, const CRez& head) {
     constexpr int left = 2;
     const int line = sheet.canvas.measure("A").height;
-    std::int64_t linesUp = layerCount(head) + 1;
+    std::int64_t linesUp = LayerCount(head) + 1;
     for (const CRez* layer = head.next; layer; layer = layer->next) {
         const Text name = shownDesignation(*layer);
         const int y = saturated(sheet.height - line * linesUp--);

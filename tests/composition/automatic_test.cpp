@@ -127,7 +127,7 @@ TEST_F(Automatic, WithoutARuleTheLintelIsRepeatedAndTheRestInsulated) {
     // The repetition ends, whatever the catalogue says.
     for (const auto& [width, rest] : {std::pair{10, 100}, {0, 300}, {-5, 305}, {low, high}}) {
         filled(300, width);
-        EXPECT_EQ(layerCount(*design.head()), 21) << width;
+        EXPECT_EQ(LayerCount(*design.head()), 21) << width;
         EXPECT_EQ(design.head()->next->width, rest);
     }
     EXPECT_EQ(filled(high, high), "P:2147483647@0 ");
@@ -174,7 +174,7 @@ TEST_F(Automatic, XFollowsTheCatalogueAndTheOtherLettersTheList) {
 TEST_F(Automatic, NumbersOfARuleGoToTheLastRecord) {
     EXPECT_EQ(byRule(""), "");
     byRule(std::string(25, 'A'));
-    EXPECT_EQ(layerCount(*design.head()), 25);
+    EXPECT_EQ(LayerCount(*design.head()), 25);
     EXPECT_EQ(design.last()->level, 20);
     EXPECT_EQ(byRule("I [ 8 x 0 ] C"), "IZOLACE:80@0 ");
     EXPECT_EQ(byRule("I80AI5]"), "IZOLACE:50@0 K:50@50 IZOLACE:805@100 ");

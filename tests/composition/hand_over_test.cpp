@@ -16,34 +16,34 @@ TEST(HandOver, TheDesignFollowsEightBytesThatNobodyChecks) {
     const Path path = handOverPath(files);
     EXPECT_EQ(path, "tmp/LXDATA6I.tmp");
     files.content[path] = Bytes(9999, 'x');
-    EXPECT_EQ(writeHandOver(path, design.head(), 1200.0, files), 1);
+    EXPECT_EQ(WriteHandOver(path, design.head(), 1200.0, files), 1);
     const Bytes bytes = designBytes(design.head());
     EXPECT_EQ(files.content[path],
               "P\xD8"
               "EKLADY" +
                   bytes);
     files.content[path] = "????????" + bytes;
-    EXPECT_EQ(designBytes(readHandOver(path, files).design.head()), bytes);
+    EXPECT_EQ(designBytes(ReadHandOver(path, files).design.head()), bytes);
     files.readOnly = true;
-    EXPECT_EQ(writeHandOver(path, design.head(), 1200.0, files), 0);
+    EXPECT_EQ(WriteHandOver(path, design.head(), 1200.0, files), 0);
 
     for (std::size_t size = 0; size < 16; ++size) {
         files.content[path] = handOverBytes(design.head()).substr(0, size);
-        EXPECT_TRUE(readHandOver(path, files).present);
-        EXPECT_TRUE(readHandOver(path, files).design.empty()) << size;
+        EXPECT_TRUE(ReadHandOver(path, files).present);
+        EXPECT_TRUE(ReadHandOver(path, files).design.empty()) << size;
     }
     files.locked.insert(path);
-    EXPECT_FALSE(readHandOver(path, files).present);
-    EXPECT_FALSE(readHandOver("missing", files).present);
+    EXPECT_FALSE(ReadHandOver(path, files).present);
+    EXPECT_FALSE(ReadHandOver("missing", files).present);
 }
 
 TEST(HandOver, ANegativeOpeningTurnsEveryLength) {
     MemoryFiles files;
     const RezChain design = sampleDesign();
     design.last()->length = std::numeric_limits<std::int32_t>::min();
-    writeHandOver("h", design.head(), -1200.0, files);
+    WriteHandOver("h", design.head(), -1200.0, files);
     EXPECT_EQ(design.head()->next->length, -1450);
-    const HandOverRead read = readHandOver("h", files);
+    const HandOverRead read = ReadHandOver("h", files);
     EXPECT_EQ(read.design.head()->length, -1200);
     EXPECT_EQ(read.design.last()->length, std::numeric_limits<std::int32_t>::max());
 }

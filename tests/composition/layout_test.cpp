@@ -55,8 +55,8 @@ TEST(Layout, LayersNestAsTheirShapesAllow) {
         for (CRez* l = head->next; l; l = l->next) offsets.push_back(l->offset);
         EXPECT_EQ(offsets, test.offsets);
         EXPECT_EQ(freeSpace(*head), test.space);
-        EXPECT_EQ(layerCount(*head), static_cast<int>(test.layers.size()));
-        EXPECT_EQ(designFamily(*head), test.family);
+        EXPECT_EQ(LayerCount(*head), static_cast<int>(test.layers.size()));
+        EXPECT_EQ(DesignFamily(*head), test.family);
         EXPECT_TRUE(head->offset == 7 && head->level == 4);
     }
 }

@@ -65,16 +65,16 @@ TEST(Library, SameMeansOneOfTheEntriesOfTheLabel) {
     MemoryFiles files;
     const RezChain design = sampleDesign("A");
     layOut(*design.head());
-    EXPECT_FALSE(findStoredSame(path, 1, "A  ", *design.head(), {}, files));
+    EXPECT_FALSE(FindStoredSame(path, 1, "A  ", *design.head(), {}, files));
     store(files, 1, "A", 400);
     store(files, 1, "A", 300);
-    EXPECT_TRUE(findStoredSame(path, 1, "A  ", *design.head(), {}, files));
-    EXPECT_FALSE(findStoredSame(path, 1, "A", *design.head(), {}, files));
-    EXPECT_FALSE(findStoredSame(path, 2, "A  ", *design.head(), {}, files));
+    EXPECT_TRUE(FindStoredSame(path, 1, "A  ", *design.head(), {}, files));
+    EXPECT_FALSE(FindStoredSame(path, 1, "A", *design.head(), {}, files));
+    EXPECT_FALSE(FindStoredSame(path, 2, "A  ", *design.head(), {}, files));
     design.head()->next->letter = 'Q';
-    EXPECT_TRUE(findStoredSame(path, 1, "A  ", *design.head(), {}, files));
+    EXPECT_TRUE(FindStoredSame(path, 1, "A  ", *design.head(), {}, files));
     ++design.head()->next->length;
-    EXPECT_FALSE(findStoredSame(path, 1, "A  ", *design.head(), {}, files));
+    EXPECT_FALSE(FindStoredSame(path, 1, "A  ", *design.head(), {}, files));
     // Labels of four and more bytes never meet a stored one: both designs stand under "ABC".
     const RezChain first = sampleDesign("ABCD", 300);
     const RezChain second = sampleDesign("ABCE", 450);
@@ -100,15 +100,15 @@ TEST(Library, TheSameDesignIsKnownOnAnotherDisplay) {
     settleSection(head, small);
     const std::int32_t lifted = design.last()->level;
     ASSERT_TRUE(appendDesign(path, 1, head, {}, files));
-    EXPECT_TRUE(findStoredSame(path, 1, "A  ", head, small, files));
+    EXPECT_TRUE(FindStoredSame(path, 1, "A  ", head, small, files));
     layOut(head);
     settleSection(head, large);
     ASSERT_NE(design.last()->level, lifted);
-    EXPECT_TRUE(findStoredSame(path, 1, "A  ", head, large, files));
+    EXPECT_TRUE(FindStoredSame(path, 1, "A  ", head, large, files));
     head.next->width = 149;
     layOut(head);
     settleSection(head, large);
-    EXPECT_FALSE(findStoredSame(path, 1, "A  ", head, large, files));
+    EXPECT_FALSE(FindStoredSame(path, 1, "A  ", head, large, files));
 }
 
 TEST(Library, ATornTailIsClosedOffAndTheNextEntryIsReachable) {

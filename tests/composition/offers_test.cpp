@@ -51,32 +51,32 @@ TEST(PrecastOffer, HoldsWhatSpansTheOpeningWithoutBeingOversized) {
                                          {1, 1230},
                                          {1, 1500, -250}});
     const CPreklItem* head = catalogue.get();
-    const RezChain offer = buildPrecastOffer(head, 0, 1200.0, 1201);
+    const RezChain offer = BuildPrecastOffer(head, 0, 1200.0, 1201);
     EXPECT_EQ(shown(offer), "0:1200 2:1229 5:1500 ");
     EXPECT_EQ(offer.head()->bearing, 0);
     EXPECT_EQ(offer.head()->length, 1000);
     EXPECT_EQ(offer.last()->bearing, 250);
     EXPECT_EQ(offer.last()->length, 1701);
-    EXPECT_EQ(shown(buildPrecastOffer(head, 1, 1200.0, 1200)), "0:1300 ");
+    EXPECT_EQ(shown(BuildPrecastOffer(head, 1, 1200.0, 1200)), "0:1300 ");
 
     // The best fit counts all that are offered, also those that would stay anyway.
     CPreklItem* follows = at(catalogue, 8);
     follows->maxOpening = 1190;
-    EXPECT_EQ(shown(buildPrecastOffer(head, 0, 1185.0, 1185)), "0:1200 5:1190 ");
-    EXPECT_EQ(shown(buildPrecastOffer(head, 0, 1185.0, 1185, {follows, at(catalogue, 3)})),
+    EXPECT_EQ(shown(BuildPrecastOffer(head, 0, 1185.0, 1185)), "0:1200 5:1190 ");
+    EXPECT_EQ(shown(BuildPrecastOffer(head, 0, 1185.0, 1185, {follows, at(catalogue, 3)})),
               "0:1200 1:1250 5:1190 ");
 }
 
 TEST(PrecastOffer, TheOpeningIsMetWithinAMillionthOfAMillimetre) {
     const Catalogue catalogue = itemsOf({{1, 1200}});
     const CPreklItem* head = catalogue.get();
-    EXPECT_EQ(shown(buildPrecastOffer(head, 0, 1200.0000005, 1200)), "0:1200 ");
-    EXPECT_EQ(shown(buildPrecastOffer(head, 0, 1200.000002, 1200)), "");
-    EXPECT_EQ(shown(buildPrecastOffer(head, 0, std::numeric_limits<double>::quiet_NaN(), 0)), "");
+    EXPECT_EQ(shown(BuildPrecastOffer(head, 0, 1200.0000005, 1200)), "0:1200 ");
+    EXPECT_EQ(shown(BuildPrecastOffer(head, 0, 1200.000002, 1200)), "");
+    EXPECT_EQ(shown(BuildPrecastOffer(head, 0, std::numeric_limits<double>::quiet_NaN(), 0)), "");
     for (const int none : {-1, std::numeric_limits<int>::max()}) {
-        EXPECT_EQ(shown(buildPrecastOffer(head, none, 1200.0, 1200)), "");
+        EXPECT_EQ(shown(BuildPrecastOffer(head, none, 1200.0, 1200)), "");
     }
-    EXPECT_TRUE(buildPrecastOffer(nullptr, 0, 1200.0, 1200).empty());
+    EXPECT_TRUE(BuildPrecastOffer(nullptr, 0, 1200.0, 1200).empty());
 }
 
 TEST(PrecastOffer, CatalogueFieldsBecomeThoseOfALayer) {
@@ -100,7 +100,7 @@ TEST(PrecastOffer, CatalogueFieldsBecomeThoseOfALayer) {
     EXPECT_FALSE(record->name);
     item.weight = 1e300;
     item.group = 1;
-    const RezChain offer = buildPrecastOffer(&item, 0, 1200.0, 1200);
+    const RezChain offer = BuildPrecastOffer(&item, 0, 1200.0, 1200);
     EXPECT_EQ(offer.head()->weight, std::numeric_limits<std::int32_t>::max());
     EXPECT_EQ(offer.head()->length, std::numeric_limits<std::int32_t>::max());
 }
@@ -109,16 +109,16 @@ TEST(SteelOffer, TakesShapeAndLengthAndLeavesOutTheOversized) {
     const Catalogue catalogue = itemsOf({{1, 2000}, {-1, 0, 3}, {1, 3000}, {2, 10}, {1, 2020}});
     const CPreklItem* head = catalogue.get();
     catalogue->designation.reset();
-    const RezChain offer = buildSteelOffer(head, 0, 1500, 0);
+    const RezChain offer = BuildSteelOffer(head, 0, 1500, 0);
     EXPECT_EQ(shown(offer), "0:2000 2:2020 ");
     EXPECT_EQ(offer.head()->kind, 0);
     EXPECT_FALSE(offer.head()->name);
     EXPECT_EQ(offer.last()->kind, kind::channel);
     EXPECT_EQ(offer.last()->length, 1800);
     EXPECT_EQ(offer.last()->bearing, 0);
-    EXPECT_EQ(buildSteelOffer(head, 0, 1500, 60).last()->length, 1620);
+    EXPECT_EQ(BuildSteelOffer(head, 0, 1500, 60).last()->length, 1620);
     catalogue->next->length = kind::head;
-    EXPECT_EQ(buildSteelOffer(head, 0, 1500, 0).last()->kind, 0);
+    EXPECT_EQ(BuildSteelOffer(head, 0, 1500, 0).last()->kind, 0);
 }
 
 TEST(PrecastOffer, PickedItemsJoinUnlessTheyAreOfferedAlready) {
@@ -134,7 +134,7 @@ TEST(PrecastOffer, PickedItemsJoinUnlessTheyAreOfferedAlready) {
     at(catalogue, 6)->width = 1;
     std::vector<const CPreklItem*> picked;
     for (const int place : {1, 2, 3, 5, 6, 6, 7}) picked.push_back(at(catalogue, place));
-    RezChain offer = buildPrecastOffer(catalogue.get(), 0, 1200, 1200, picked);
+    RezChain offer = BuildPrecastOffer(catalogue.get(), 0, 1200, 1200, picked);
     EXPECT_EQ(shown(offer), "0:1200 1:3000 2:3500 ");
     addPicked(offer, picked);
     EXPECT_EQ(shown(offer), "0:1200 1:3000 2:3500 0:1200 ");

@@ -48,7 +48,7 @@ TEST(StoredForm, CutShortAnywhereKeepsWhatWasRead) {
         const std::size_t start = size < 87 ? 0 : size < 146 ? 87 : size < 196 ? 146 : 196;
         const int whole = size < 87 ? 0 : size < 146 ? 1 : size < 196 ? 2 : 3;
         const CRez* head = read.design.head();
-        ASSERT_EQ(head ? layerCount(*head) + 1 : 0, whole + (size >= start + 8 ? 1 : 0)) << size;
+        ASSERT_EQ(head ? LayerCount(*head) + 1 : 0, whole + (size >= start + 8 ? 1 : 0)) << size;
         EXPECT_EQ(read.damaged, size != start) << size;
         EXPECT_EQ(designBytes(head).substr(0, start), bytes.substr(0, start)) << size;
         EXPECT_TRUE(size < 16 || head->width == 300) << size;

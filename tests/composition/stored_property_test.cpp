@@ -24,8 +24,8 @@ TEST(StoredProperties, DesignsAreReadAsTheyWereWritten) {
         ASSERT_EQ(designBytes(read.design.head()), bytes) << "seed " << seed;
 
         MemoryFiles files;
-        ASSERT_EQ(writeHandOver("h", made.head(), 0, files), 1);
-        const RezChain taken = readHandOver("h", files).design;
+        ASSERT_EQ(WriteHandOver("h", made.head(), 0, files), 1);
+        const RezChain taken = ReadHandOver("h", files).design;
         ASSERT_EQ(readable(taken.head()), readable(made.head())) << "seed " << seed;
         ASSERT_EQ(handOverBytes(taken.head()), files.content["h"]) << "seed " << seed;
     }

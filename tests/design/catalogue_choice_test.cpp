@@ -43,10 +43,10 @@ constexpr CatalogueKind steel = CatalogueKind::steel;
 TEST_F(CatalogueOpening, APageOpensItsOwnCatalogueOnTheSelectedElement) {
     model.precastOffer().select(1);
     EXPECT_EQ(offer(page::precast).element, (CatalogueElement{precast, 0, 1, "K"}));
-    EXPECT_TRUE(offer(page::precast, 257).pick);
-    EXPECT_FALSE(offer(page::precast, 1).pick);
+    EXPECT_TRUE(offer(page::precast, 257).pickMode);
+    EXPECT_FALSE(offer(page::precast, 1).pickMode);
     EXPECT_EQ(offer(page::steel, 257).kind, steel);
-    EXPECT_FALSE(offer(page::steel, 257).pick);
+    EXPECT_FALSE(offer(page::steel, 257).pickMode);
     EXPECT_EQ(offer(page::steel).element, std::nullopt);
     // Elsewhere the catalogue shown last, on the element shown last if it is one of it.
     last = CatalogueElement{steel, 4, 2, "E"};
@@ -60,7 +60,7 @@ TEST_F(CatalogueOpening, TheCurrentRecordNamesItsCatalogue) {
     EXPECT_EQ(preview().element, std::nullopt) << "the head is no element";
     add(kind::channelMirrored, 3, 7);
     EXPECT_EQ(preview(257).kind, steel);
-    EXPECT_FALSE(preview(257).pick) << "picked sections would become lintels";
+    EXPECT_FALSE(preview(257).pickMode) << "picked sections would become lintels";
     EXPECT_EQ(preview().element, (CatalogueElement{steel, 3, 7, "L"}));
     model.browserKind = steel;
     add(kind::precast, 1, 2);

@@ -73,7 +73,7 @@ TEST_F(LayerCommands, LintelsAndSectionsAreNotMixed) {
         }
         EXPECT_EQ(one.command({other, place}, element.get()), one.answer);
         const bool done = one.answer == CommandAnswer::done;
-        EXPECT_EQ(layerCount(*other.head()), done ? 4 : 3);
+        EXPECT_EQ(LayerCount(*other.head()), done ? 4 : 3);
         if (!done) {
             EXPECT_EQ(one.command({other, place}, nullptr), CommandAnswer::wrongType);
             EXPECT_EQ(other.head()->maxOpening, 0);

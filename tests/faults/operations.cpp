@@ -182,7 +182,7 @@ Answer store(const Path& folder) {
         if (entry.label == "A  ") replaced = entry.label;
     }
     if (!replaced.empty() &&
-        !findStoredSame(path, libraryProject, replaced, *design.head(), {}, systemFiles())) {
+        !FindStoredSame(path, libraryProject, replaced, *design.head(), {}, systemFiles())) {
         return Answer::failed;
     }
     return answer(appendDesign(path, libraryProject, *design.head(), replaced, systemFiles()));
@@ -283,7 +283,7 @@ Operation confirmation() {
 void addHandOverOperations(std::vector<Operation>& all) {
     const auto write = [](const Path& folder) {
         const RezChain design = sampleDesign("A", 500);
-        return answer(writeHandOver(folder + Path(handOverFileName), design.head(), 1000,
+        return answer(WriteHandOver(folder + Path(handOverFileName), design.head(), 1000,
                                     systemFiles()) == 1);
     };
     const auto old = [](const Path& folder) {
@@ -293,7 +293,7 @@ void addHandOverOperations(std::vector<Operation>& all) {
     all.push_back({"hand-over", old, write});
     all.push_back({"hand-over taken", old, [](const Path& folder) {
                        const Path path = folder + Path(handOverFileName);
-                       readHandOver(path, systemFiles());
+                       ReadHandOver(path, systemFiles());
                        return answer(systemFiles().remove(path));
                    }});
 }

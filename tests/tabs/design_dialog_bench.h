@@ -53,7 +53,7 @@ struct DesignDialog : testing::Test {
     // Lays out the design and hands it over, as a host does.
     void give(const RezChain& design) {
         layOut(*design.head());
-        writeHandOver(handOver(), design.head(), 1200, bench.files());
+        WriteHandOver(handOver(), design.head(), 1200, bench.files());
     }
     // The message that comes next; the user answers it.
     void told(const char* text, const char* icon = "stop", const char* caption = "Upozornění") {
@@ -98,7 +98,7 @@ struct DesignDialog : testing::Test {
     Path handOver() const { return bench.temporaryFolder() + Path(handOverFileName); }
     // Removes it, as a host that picks it up.
     RezChain takeHandOver() {
-        HandOverRead read = readHandOver(handOver(), bench.files());
+        HandOverRead read = ReadHandOver(handOver(), bench.files());
         bench.files().remove(handOver());
         return std::move(read.design);
     }
