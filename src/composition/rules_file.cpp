@@ -24,7 +24,8 @@ std::map<std::int32_t, std::int32_t> listedWalls(const Profile& rules) {
     std::map<std::int32_t, std::int32_t> walls;
     for (const ProfileEntry& entry : rules.entries(indexSection)) {
         const std::int32_t number = leadingInt(entry.key);
-        if (entry.key == formatInt(number)) walls.emplace(number, profileInt(entry.value, 0));
+        if (entry.key != formatInt(number)) continue;
+        walls.emplace(number, profileInt(entry.value.value_or(Text()), 0));
     }
     return walls;
 }

@@ -156,7 +156,9 @@ std::optional<std::vector<ProfileEntry>> Profile::readableEntries(std::string_vi
     std::vector<ProfileEntry> result;
     const EncodedText text(file.bytes);
     for (const KeyLine& line : keyLines(text.text(), section)) {
-        result.push_back({Text(line.name), Text(withoutQuotes(*line.value))});
+        ProfileEntry& entry = result.emplace_back();
+        entry.key = line.name;
+        if (line.value) entry.value = Text(withoutQuotes(*line.value));
     }
     return result;
 }

@@ -21,7 +21,7 @@ struct ProfileChange {
 
 struct ProfileEntry {
     Text key;
-    Text value;  // without quotes around it
+    std::optional<Text> value;  // without quotes around it; none without "="
 };
 
 // The leading number of a value (its first 29 bytes; 0x, 0o and 0b as the platform's function takes
@@ -49,7 +49,8 @@ public:
     }
     // none when the key is missing.
     std::optional<Text> find(std::string_view section, std::string_view key) const;
-    // The keys of a section with their values in file order, doubled ones too.
+    // The keys of a section with their values in file order, doubled ones too: the first of them is
+    // the one that is read.
     std::vector<ProfileEntry> entries(std::string_view section) const {
         return readableEntries(section).value_or(std::vector<ProfileEntry>());
     }

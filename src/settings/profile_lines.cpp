@@ -117,7 +117,7 @@ std::vector<KeyLine> keyLines(std::string_view text, std::string_view section) {
     std::vector<KeyLine> lines;
     walkSection(text, section, [&](const Line& line) {
         const KeyLine key = keyLine(text, line);
-        if (key.value && !key.name.empty() && key.name.front() != ';') lines.push_back(key);
+        if (!key.name.empty() && key.name.front() != ';') lines.push_back(key);
         return true;
     });
     return lines;

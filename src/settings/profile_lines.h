@@ -30,7 +30,7 @@ struct KeyPlace {
 };
 
 KeyPlace findKey(std::string_view text, std::string_view section, std::string_view key);
-// Lines of the first section of that name that have a name and a value and are no comments.
+// Lines of the first section of that name that have a name and are no comments.
 std::vector<KeyLine> keyLines(std::string_view text, std::string_view section);
 
 }  // namespace lx

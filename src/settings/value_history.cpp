@@ -1,6 +1,7 @@
 #include "settings/value_history.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/numbers.h"
 
@@ -16,20 +17,22 @@ constexpr std::int32_t mostValues = 10000;
 }  // namespace
 
 std::optional<ValueHistory::Values> ValueHistory::load() const {
-    const auto entries = m_profile.readableEntries(m_section);
+    auto entries = m_profile.readableEntries(m_section);
     if (!entries) return std::nullopt;
     const auto nr = std::find_if(entries->begin(), entries->end(), [](const ProfileEntry& entry) {
         return equalIgnoringCase(entry.key, countKey);
     });
-    const std::int32_t count = nr == entries->end() ? 0 : leadingInt(nr->value);
+    const bool counted = nr != entries->end() && nr->value;
+    const std::int32_t count = counted ? leadingInt(*nr->value) : 0;
     Values values(static_cast<std::size_t>(std::clamp(count, 0, mostValues)));
-    for (const ProfileEntry& entry : *entries) {
-        const std::int32_t number = leadingInt(entry.key);
+    // Backwards: of doubled keys the first one counts.
+    for (auto entry = entries->rbegin(); entry != entries->rend(); ++entry) {
+        const std::int32_t number = leadingInt(entry->key);
         if (number < 0 || static_cast<std::size_t>(number) >= values.size()) continue;
+        if (entry->key != formatInt(number)) continue;
         std::optional<Text>& value = values[static_cast<std::size_t>(number)];
-        if (!value && entry.key == formatInt(number)) {
-            value = entry.value.substr(0, bufferSize - 1);
-        }
+        value = std::move(entry->value);
+        if (value) value->resize(std::min(value->size(), bufferSize - 1));
     }
     return values;
 }

@@ -177,7 +177,7 @@ Bytes settingsAgain(std::string_view bytes) {
           std::string_view("DLG_SET"), settings::lintelOverhang}) {
         for (const ProfileEntry& entry : profile.entries(section)) {
             profile.write(section, entry.key, "another");
-            profile.write(section, entry.key, entry.value);
+            profile.write(section, entry.key, *entry.value);
         }
     }
     return files.content["set"];

@@ -52,6 +52,10 @@ TEST_F(ValueHistoryTest, BearsADamagedCount) {
     EXPECT_EQ(history.shown(), Texts{});
     EXPECT_TRUE(history.add("7"));
     EXPECT_EQ(history.shown(), Texts{"7"});
+    hold("nr\nnr=2\n0\n0=5\n");
+    EXPECT_EQ(history.shown(), Texts{}) << "of doubled lines the first counts";
+    EXPECT_TRUE(history.add("7"));
+    EXPECT_EQ(history.shown(), Texts{"7"});
     hold("nr=2000000000\n0=5\n");
     EXPECT_LE(history.shown().size(), 10000U);
     EXPECT_TRUE(history.remove("5"));
