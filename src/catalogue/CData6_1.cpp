@@ -66,6 +66,7 @@ int CData6_1::runOn(Catalogue& items, CatalogueState& state, const BrowserReques
 int CData6_1::run(Catalogue& items, CatalogueState& state) {
     m_items = &items;
     m_session = std::make_unique<CatalogueSession>(m_files, m_host, m_request.kind, items, state);
+    if (!m_session->reloaded()) m_requestedType = typeAt(items.get(), m_request.type);
     m_window = m_platform.createDialog(browserTemplate, m_owner);
     m_types =
         std::make_unique<CList1>(*m_window, m_window->get<ListBox>(id::types), m_request.kind);
@@ -164,7 +165,7 @@ void CData6_1::selectByName() {
 }
 
 void CData6_1::selectStart(const ColumnSettings& stored) {
-    if (!m_standAlone && reloaded()) return selectByName();
+    if (!m_standAlone && m_session->reloaded()) return selectByName();
     const auto has = [this](int type) { return type >= 0 && type < m_types->count(); };
     int type = m_standAlone ? stored.type : m_request.type;
     int row = m_standAlone ? stored.row : 0;

@@ -52,8 +52,9 @@ public:
 
     // What the user chose for the caller, in list order; records of the items. Empty for nothing.
     const std::vector<const CPreklItem*>& picked() const { return m_picked; }
-    // The items were loaded anew, somebody else having changed their file.
-    bool reloaded() const { return m_session && m_session->reloaded(); }
+    // The type of the request; null when it was deleted, or the items were loaded anew, somebody
+    // else having changed their file.
+    const CPreklItem* requestedType() const { return m_requestedType; }
 
 private:
     bool steel() const { return m_request.kind == CatalogueKind::steel; }
@@ -111,6 +112,7 @@ private:
     // None until the items are known.
     Catalogue* m_items = nullptr;
     std::unique_ptr<CatalogueSession> m_session;
+    const CPreklItem* m_requestedType = nullptr;
     // These serve the window to its end.
     std::unique_ptr<CList1> m_types;
     std::unique_ptr<CList2Ctrl> m_list;

@@ -111,6 +111,7 @@ void CData6_1::deleteType() {
     if (!type || m_types->count() < 2) return;
     if (!mayDelete(*type, text::askDeleteType)) return;
     const int position = m_types->selected();
+    if (position > 0 && type == m_requestedType) m_requestedType = nullptr;
     lx::deleteType(*m_items, position);
     if (position > 0) {
         m_types->remove(position);

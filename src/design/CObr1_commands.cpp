@@ -15,7 +15,7 @@ namespace lx {
 
 namespace {
 
-// -1 when that record is no longer a type of the catalogue.
+// -1 for none.
 int typePosition(CPreklItem* catalogue, const CPreklItem* type) {
     const std::vector<CPreklItem*> types = typeRecords(catalogue);
     const auto found = std::find(types.begin(), types.end(), type);
@@ -57,7 +57,6 @@ void CObr1::OpenCatalogue(int request) {
     ModuleValues& values = m_context.values;
     Catalogue& catalogue = steel ? values.steel : values.precast;
     OfferPage& page = steel ? *m_steel : *m_precast;
-    const CPreklItem* selected = typeAt(catalogue.get(), page.selectedType());
 
     BrowserRequest opened;
     opened.kind = choice.kind;
@@ -74,7 +73,7 @@ void CObr1::OpenCatalogue(int request) {
                      Owner{m_window.get(), m_owner.hostWindow});
     browser.runOn(catalogue, steel ? values.steelState : values.precastState, opened);
 
-    refillTypes(page, catalogue.get(), browser.reloaded() ? nullptr : selected);
+    refillTypes(page, catalogue.get(), browser.requestedType());
     // The picked records belong to the catalogue: the offer takes copies of them before it can
     // change again.
     m_model.rebuildPrecastOffer(m_precast->selectedType(), browser.picked());

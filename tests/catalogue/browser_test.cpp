@@ -55,6 +55,7 @@ struct Browser : testing::Test {
     Catalogue items;
     CatalogueState state;
     std::string picked;
+    std::string requestedType;  // as it is when the browser closes
 
     Path file(CatalogueKind kind = precast) { return cataloguePath(kind, bench.host()); }
     Bytes bytes() { return bench.read(file()).value_or("none"); }
@@ -112,6 +113,8 @@ struct Browser : testing::Test {
         CData6_1 browser(bench.platform(), bench.files(), bench.host(), widths, {});
         const int result = browser.runOn(items, state, asked);
         EXPECT_EQ(bench.user().failure(), "");
+        const CPreklItem* type = browser.requestedType();
+        requestedType = type ? toUtf8(type->nameOrEmpty()) : "none";
         picked.clear();
         for (const CPreklItem* item : browser.picked()) picked += toUtf8(*item->designation) + " ";
         return result;
@@ -328,7 +331,7 @@ TEST_F(Browser, TypesAreDeletedUpToTheLast) {
             std::string("Opravdu si přejete vymazat celou databázi překladů \"") + type + "\" ?",
             "Upozornění", button);
     };
-    erase(alfa, 2, "Delta", "No");
+    erase(capi, 2, "Delta", "No");
     erase(delta, 2, "Delta", "Yes");
     erase(capi, 0, "Alfa", "Yes");
     in(alfa, [](Driver& d) { EXPECT_EQ(rows(d), ""); });
@@ -339,11 +342,13 @@ TEST_F(Browser, TypesAreDeletedUpToTheLast) {
         d.closePopup();
     });
     press(alfa, "Zrušit");
-    EXPECT_EQ(open(), 2);
+    EXPECT_EQ(open({precast, false, {}, 1, {}, {}}), 2);
+    EXPECT_EQ(requestedType, "none");
     EXPECT_EQ(shown(items), "-1:Alfa");
     EXPECT_EQ(stored(), sampleText);
     press(alfa, "OK");
     EXPECT_EQ(open(), 1);
+    EXPECT_EQ(requestedType, "Alfa");
     EXPECT_EQ(stored(), "-1:Alfa");
 }
 
