@@ -14,17 +14,34 @@ void refuse() {
     MessageBeep(MB_OK);
 }
 
-std::wstring clipboardText(HWND owner) {
-    std::wstring text;
-    if (!IsClipboardFormatAvailable(CF_UNICODETEXT) || !OpenClipboard(owner)) return text;
-    const HANDLE data = GetClipboardData(CF_UNICODETEXT);
-    if (const auto* units = static_cast<const wchar_t*>(data ? GlobalLock(data) : nullptr)) {
-        const std::size_t most = GlobalSize(data) / sizeof(wchar_t);
-        while (text.size() < most && units[text.size()]) text.push_back(units[text.size()]);
-        GlobalUnlock(data);
+// Holds the clipboard while it lives: no other program gets at it meanwhile.
+class ClipboardText {
+public:
+    explicit ClipboardText(HWND owner) : m_open(OpenClipboard(owner) != 0) {
+        if (m_open) m_data = GetClipboardData(CF_UNICODETEXT);
+        if (m_data) m_units = static_cast<const wchar_t*>(GlobalLock(m_data));
     }
-    CloseClipboard();
-    return text;
+    ClipboardText(const ClipboardText&) = delete;
+    ClipboardText& operator=(const ClipboardText&) = delete;
+    ~ClipboardText() {
+        if (m_units) GlobalUnlock(m_data);
+        if (m_open) CloseClipboard();
+    }
+    std::wstring copy() const {
+        if (!m_units) return {};
+        const wchar_t* const end = m_units + GlobalSize(m_data) / sizeof(wchar_t);
+        return {m_units, std::find(m_units, end, L'\0')};
+    }
+
+private:
+    bool m_open;
+    HANDLE m_data = nullptr;
+    const wchar_t* m_units = nullptr;
+};
+
+std::wstring clipboardText(HWND owner) {
+    if (!IsClipboardFormatAvailable(CF_UNICODETEXT)) return {};
+    return ClipboardText(owner).copy();
 }
 
 // A single-line field takes the text up to the first line break, as the system pastes it.
