@@ -85,8 +85,10 @@ HFONT FontCache::get(const Font& font, bool upright) {
     return made;
 }
 
-GdiCanvas::GdiCanvas(HDC dc, const DrawingTools& tools)
-    : m_dc(dc), m_tools(tools), m_saved(SaveDC(dc)) {
+GdiCanvas::GdiCanvas(HDC dc, const DrawingTools& tools) : m_dc(dc), m_tools(tools) {
+    // May throw: asked for before there is anything to give back.
+    const HFONT font = native(false);
+    m_saved = SaveDC(dc);
     m_outerClip = CreateRectRgn(0, 0, 0, 0);
     if (m_outerClip && GetClipRgn(dc, m_outerClip) != 1) {
         DeleteObject(m_outerClip);
@@ -94,7 +96,7 @@ GdiCanvas::GdiCanvas(HDC dc, const DrawingTools& tools)
     }
     SetBkMode(dc, TRANSPARENT);
     SetTextAlign(dc, TA_LEFT | TA_TOP | TA_NOUPDATECP);
-    SelectObject(dc, native(false));
+    SelectObject(dc, font);
 }
 
 GdiCanvas::~GdiCanvas() {

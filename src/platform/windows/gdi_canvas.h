@@ -63,7 +63,7 @@ private:
 
     HDC m_dc;
     DrawingTools m_tools;
-    int m_saved;
+    int m_saved = 0;
     HRGN m_outerClip = nullptr;
     HPEN m_pen = nullptr;
     Font m_font;
