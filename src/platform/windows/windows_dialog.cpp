@@ -277,8 +277,13 @@ void WindowsDialog::end(int result) {
     m_running = false;
     m_posted.clear();
     captureMouse(false);
-    // The loop may be waiting inside the call that brought us here.
-    if (m_window) PostMessageW(m_window, WM_NULL, 0, 0);
+    // The loop may be waiting inside the call that brought us here. What is posted to a window that
+    // is being destroyed goes with it.
+    if (m_closed) {
+        PostThreadMessageW(GetCurrentThreadId(), WM_NULL, 0, 0);
+    } else if (m_window) {
+        PostMessageW(m_window, WM_NULL, 0, 0);
+    }
 }
 
 int WindowsDialog::runModal() {
