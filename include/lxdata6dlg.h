@@ -39,12 +39,12 @@ extern "C" {
  * that are not finite or do not fit the module's 32-bit millimetres are brought to 0 or to the end
  * of the range. */
 typedef struct OpeningBlock {
-    int16_t openingKind; /* 0: 8 = the wider of two opening widths counts (see width1, width2) */
+    int16_t openingKind; /* 0: 8 = there are two opening widths, width1 and width2 */
     uint8_t gap2[6];
     double triple1[3];    /* 8 */
     double width1;        /* 32: mm */
     double unread40;      /* 40 */
-    double width2;        /* 48: mm; for kind 8 the opening width when width1 is smaller */
+    double width2;        /* 48: mm; for kind 8 counts for openingWidth when width1 is smaller */
     double triple3[3];    /* 56 */
     double bend1Step;     /* 80: units */
     double unread88;      /* 88 */
