@@ -22,6 +22,7 @@ constexpr int setUpDelay = 50;       // ms
 constexpr int narrowestItems = 150;  // px
 constexpr int newMenu = 0;
 
+constexpr int failed = -1;
 constexpr int nothingChosen = 1;
 constexpr int notOpened = 2;
 
@@ -45,6 +46,7 @@ MessageAnswer CData6_1::message(std::string_view text, std::string_view caption,
 int CData6_1::runStandAlone() {
     m_standAlone = true;
     const int choice = CBaseDlg(m_platform, m_owner).DoModal();
+    if (choice == failed) return failed;
     if (choice == id::cancel) return nothingChosen;
     m_request.kind = choice == id::choosePrecast ? CatalogueKind::precast : CatalogueKind::steel;
     LoadedCatalogue loaded =
