@@ -7,6 +7,7 @@ namespace {
 bool watching = false;
 Trouble trouble;
 Course course;
+bool waiting = false;  // bytes that were written and not flushed
 
 std::optional<Refusal> refuse(bool refused, Refusal with) {
     if (!refused) return std::nullopt;
@@ -19,6 +20,7 @@ std::optional<Refusal> refuse(bool refused, Refusal with) {
 void begin(const Trouble& wanted) {
     trouble = wanted;
     course = {};
+    waiting = false;
     watching = true;
 }
 
@@ -58,7 +60,16 @@ bool fails(Call call) {
     return refused.has_value();
 }
 
+void flushed() {
+    waiting = false;
+}
+
+void leaving() {
+    if (waiting) course.unflushed = true;
+}
+
 WritePlan planWrite(std::size_t size) {
+    waiting = true;
     const bool cutting = trouble.fault == Fault::shortWrite || trouble.fault == Fault::gone ||
                          trouble.fault == Fault::killedInWrite;
     if (watching) course.writes.push_back(course.calls + 1);

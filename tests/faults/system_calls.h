@@ -32,6 +32,7 @@ struct Course {
     std::vector<int> writes;   // which calls were writes
     std::vector<int> changes;  // which calls changed files, writes among them
     bool struck = false;       // the trouble came
+    bool unflushed = false;    // a file was left, or written elsewhere, before a flush
 };
 
 // Exit status of a process that the trouble ended.
@@ -63,6 +64,9 @@ struct WritePlan {
     bool cut = false;
 };
 WritePlan planWrite(std::size_t size);
+// Told of a flush that was made, and before a file is closed or its place for writing moved.
+void flushed();
+void leaving();
 // Told when the part of a cut write is stored; ends the process when that is the trouble.
 void cutWriteDone();
 

@@ -43,7 +43,6 @@ extern "C" {
     }
 
 LX_CALL(reading, ssize_t, read, (int file, void* buffer, size_t size), (file, buffer, size))
-LX_CALL(reading, off_t, lseek, (int file, off_t offset, int from), (file, offset, from))
 LX_CALL(reading, int, stat, (const char* path, struct stat* about), (path, about))
 LX_CALL(reading, int, fstat, (int file, struct stat* about), (file, about))
 LX_CALL(changing, int, ftruncate, (int file, off_t length), (file, length))
@@ -54,6 +53,7 @@ LX_CALL(changing, int, fchmod, (int file, mode_t mode), (file, mode))
 int __real_open(const char* path, int flags, ...);
 ssize_t __real_write(int file, const void* bytes, size_t size);
 int __real_close(int file);
+off_t __real_lseek(int file, off_t offset, int from);
 
 int __wrap_open(const char* path, int flags, ...) {
     va_list arguments;
@@ -76,10 +76,17 @@ ssize_t __wrap_write(int file, const void* bytes, size_t size) {
 
 // What reached the system is enough here; waiting for the disk would take most of the time.
 int __wrap_fdatasync(int) {
+    flushed();
     return fails(Call::reading) ? -1 : 0;
 }
 
+off_t __wrap_lseek(int file, off_t offset, int from) {
+    leaving();
+    return fails(Call::reading) ? -1 : __real_lseek(file, offset, from);
+}
+
 int __wrap_close(int file) {
+    leaving();
     const bool failing = fails(Call::reading);
     const int result = __real_close(file);
     return failing ? -1 : result;

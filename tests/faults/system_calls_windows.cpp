@@ -53,9 +53,6 @@ void endProcess() {
 LX_CALL(reading, GetFileInformationByHandle, (HANDLE file, LPBY_HANDLE_FILE_INFORMATION about),
         (file, about));
 LX_CALL(reading, GetFileSizeEx, (HANDLE file, PLARGE_INTEGER size), (file, size));
-LX_CALL(reading, SetFilePointerEx,
-        (HANDLE file, LARGE_INTEGER distance, PLARGE_INTEGER now, DWORD from),
-        (file, distance, now, from));
 LX_CALL(reading, ReadFile,
         (HANDLE file, LPVOID buffer, DWORD size, LPDWORD got, LPOVERLAPPED overlapped),
         (file, buffer, size, got, overlapped));
@@ -65,6 +62,7 @@ LX_CALL(changing, DeleteFileA, (LPCSTR path), (path));
 
 LX_REAL(CreateFileA);
 LX_REAL(CloseHandle);
+LX_REAL(SetFilePointerEx);
 LX_REAL(WriteFile);
 LX_REAL(GetFileAttributesA);
 
@@ -77,7 +75,13 @@ HANDLE WINAPI createFile(LPCSTR path, DWORD access, DWORD sharing, LPSECURITY_AT
     return __real___imp_CreateFileA(path, access, sharing, security, disposition, attributes, like);
 }
 
+BOOL WINAPI seek(HANDLE file, LARGE_INTEGER distance, PLARGE_INTEGER now, DWORD from) {
+    leaving();
+    return !fails(Call::reading) && __real___imp_SetFilePointerEx(file, distance, now, from);
+}
+
 BOOL WINAPI closeHandle(HANDLE handle) {
+    leaving();
     const auto refused = refusal(Call::reading);
     const BOOL closed = __real___imp_CloseHandle(handle);
     if (!refused) return closed;
@@ -99,6 +103,7 @@ BOOL WINAPI writeFile(HANDLE file, LPCVOID bytes, DWORD size, LPDWORD written,
 
 // What reached the system is enough here; waiting for the disk would take most of the time.
 BOOL WINAPI flushFile(HANDLE) {
+    flushed();
     return fails(Call::reading) ? FALSE : TRUE;
 }
 
@@ -110,6 +115,7 @@ DWORD WINAPI attributesOf(LPCSTR path) {
 
 LX_WRAPPED(CreateFileA, createFile);
 LX_WRAPPED(CloseHandle, closeHandle);
+LX_WRAPPED(SetFilePointerEx, seek);
 LX_WRAPPED(WriteFile, writeFile);
 LX_WRAPPED(FlushFileBuffers, flushFile);
 LX_WRAPPED(GetFileAttributesA, attributesOf);
