@@ -249,6 +249,8 @@ std::string Faults::libraryLossIn(const State& now, const Outcome& outcome) cons
         if (failed && entry.first == own && count != before) return "changed, but told as failed";
         const bool done = outcome.answer == Answer::done;
         if (done && stored && count == 0) return "told as stored, but it is not there";
+        if (done && !stored && entry.first == own && count == before && before > after)
+            return "told as deleted, but it is there";
     }
     return {};
 }
