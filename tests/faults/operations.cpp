@@ -18,6 +18,7 @@
 #include "entry/erase_choice.h"
 #include "entry/merge_call.h"
 #include "settings/keys.h"
+#include "settings/store.h"
 #include "settings/value_history.h"
 #include "tests/support/bench.h"
 #include "tests/support/catalogues.h"
@@ -356,6 +357,12 @@ void addSettingsOperations(std::vector<Operation>& all) {
     }));
     all.push_back(setting("annotation style", saveStyle));
     all.push_back(setting("columns", saveColumns));
+    all.push_back(setting("window placement", [](const Path& file) {
+        constexpr std::int32_t placement[] = {10, 20, 640, 480, 96, 1, 2, 40};
+        prf_store store(systemFiles());
+        store.open(file, section);
+        return answer(store.set_int_array("POS", placement));
+    }));
     all.push_back(setting("remembered value added", addValue));
     all.push_back(setting("remembered value removed", [](const Path& file) {
         Profile profile(systemFiles(), file);
