@@ -36,7 +36,9 @@ public:
                               Limits::lowest(),
                               Limits::denorm_min(),
                               0.1,
-                              Limits::infinity()};
+                              Limits::infinity(),
+                              -Limits::infinity(),
+                              Limits::quiet_NaN()};
         if (oneIn(2)) return odd[below(std::size(odd))];
         const std::uint64_t high = m_random();
         return std::bit_cast<double>(high << 32U | m_random());
