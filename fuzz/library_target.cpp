@@ -67,6 +67,14 @@ void readLibrary(std::string_view input) {
         promise(torn ? sameButForTail(before[project], now) : before[project] == now);
         before[project] = std::move(now);
     }
+    promise(appendDesign(path, stored, *design.head(), "A  ", files));
+    std::erase_if(before[stored], [](const Bytes& one) { return one.starts_with("A  "); });
+    for (int times = 0; times < 2; ++times) {
+        before[stored].push_back("Z  " + designBytes(design.head()));
+    }
+    for (const std::int32_t project : projects) {
+        promise(designsOf(files, project) == before[project]);
+    }
     promise(deleteEntries(path, stored, std::nullopt, files));
     promise(designsOf(files, stored).empty());
     promise(designsOf(files, 0) == before[0] && designsOf(files, 2) == before[2]);

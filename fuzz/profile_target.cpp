@@ -1,4 +1,6 @@
 // Settings files, which people edit by hand and other programs write.
+#include <algorithm>
+
 #include "catalogue/column_settings.h"
 #include "design/annotation_style.h"
 #include "entry/erase_choice.h"
@@ -8,6 +10,16 @@
 #include "tests/support/memory_files.h"
 
 namespace lx::fuzz {
+
+namespace {
+
+bool onlyInserted(const Bytes& before, const Bytes& now) {
+    const auto differs = std::mismatch(before.begin(), before.end(), now.begin(), now.end()).first;
+    const auto rest = static_cast<std::size_t>(before.end() - differs);
+    return now.size() >= before.size() && now.ends_with(before.substr(before.size() - rest));
+}
+
+}  // namespace
 
 void readProfile(std::string_view input) {
     MemoryFiles files;
@@ -23,7 +35,10 @@ void readProfile(std::string_view input) {
     storeStyle(profile, style);
     promise(storedStyle(profile).edges == style.edges);
     const std::optional<Text> before = profile.find("TAB_PREFA", "ORD0");
+    const bool isNew = !profile.find("SETTINGS", "new key");
+    const Bytes content = files.content["set"];
     promise(profile.write("SETTINGS", "new key", "12 34"));
+    promise(!isNew || onlyInserted(content, files.content["set"]));
     promise(profile.find("SETTINGS", "new key") == "12 34");
     promise(profile.find("TAB_PREFA", "ORD0") == before);
     promise(profile.erase("SETTINGS", "new key"));
