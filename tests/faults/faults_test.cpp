@@ -70,6 +70,7 @@ void printRow(const std::string& name, Row& row) {
 using Entry = std::pair<Text, Bytes>;  // label with its project, design
 struct State {
     std::map<std::string, Bytes> files;  // by name, the library's own apart
+    bool hasLibrary = false;
     Bytes library;
     std::vector<Entry> entries;
 
@@ -92,6 +93,7 @@ State stateOf(const Path& folder) {
     }
     const auto library = state.files.find(std::string(libraryFileName));
     if (library == state.files.end()) return state;
+    state.hasLibrary = true;
     state.library = library->second;
     for (const std::int32_t project : {libraryProject, otherProject, 0}) {
         for (const LibraryEntry& entry : parseLibrary(state.library, project).entries) {
@@ -230,6 +232,8 @@ Outcome Faults::runInOwnProcess(const Trouble& trouble) {
 
 // Empty when every stored design is there as before or as after.
 std::string Faults::libraryLossIn(const State& now, const Outcome& outcome) const {
+    const bool failed = !outcome.ended && outcome.answer == Answer::failed;
+    if (failed && now.hasLibrary != m_before.hasLibrary) return "left by an act that failed";
     const Text own = labelKey(GetParam().project, GetParam().label);
     std::set<Entry> all = m_before.distinct();
     all.merge(m_after.distinct());
@@ -245,7 +249,6 @@ std::string Faults::libraryLossIn(const State& now, const Outcome& outcome) cons
         if (count < std::min(before, after) || count > most) {
             return std::to_string(count) + " designs under " + entry.first;
         }
-        const bool failed = !outcome.ended && outcome.answer == Answer::failed;
         if (failed && entry.first == own && count != before) return "changed, but told as failed";
         const bool done = outcome.answer == Answer::done;
         if (done && stored && count == 0) return "told as stored, but it is not there";

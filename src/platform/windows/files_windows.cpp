@@ -183,12 +183,12 @@ public:
         if (!file) return false;
         const bool existed = file.error() == ERROR_ALREADY_EXISTS;
         std::uint64_t length = 0;
-        if (!file.size(length)) return false;
-        const bool done = file.seek(length) && file.write(bytes) && file.flush() &&
+        const bool measured = file.size(length);
+        const bool done = measured && file.seek(length) && file.write(bytes) && file.flush() &&
                           (seal.bytes.empty() || (file.seek(length + seal.offset) &&
                                                   file.write(seal.bytes) && file.flush()));
         if (done) return true;
-        file.truncate(length);
+        if (measured) file.truncate(length);
         file.close();
         if (!existed) DeleteFileA(path.c_str());
         return false;
