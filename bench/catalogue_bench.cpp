@@ -118,7 +118,7 @@ void saveYardstick(benchmark::State& state) {
     for (auto _ : state) {
         const int file = ::open(filePath.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0666);
         const ssize_t written = ::write(file, bytes.data(), bytes.size());
-        if (written != static_cast<ssize_t>(bytes.size()) || ::fsync(file) != 0) {
+        if (written != static_cast<ssize_t>(bytes.size()) || ::fdatasync(file) != 0) {
             state.SkipWithError("the file could not be written");
         }
         ::close(file);
