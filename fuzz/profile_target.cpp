@@ -28,10 +28,11 @@ void readProfile(std::string_view input) {
     ColumnWidths widths;
     const ColumnSettings columns = loadColumnSettings(profile, CatalogueKind::precast, widths);
     promise(columns.order.size() == 9 && columns.widths.size() == 9 && columns.type >= 0);
-    const AnnotationStyle style = storedStyle(profile);
+    AnnotationStyle style = storedStyle(profile);
     storedChoice(profile);
 
     // What is written is read, and what was there stays, whatever the file held.
+    style.edges = "12";
     storeStyle(profile, style);
     promise(storedStyle(profile).edges == style.edges);
     const std::optional<Text> before = profile.find("TAB_PREFA", "ORD0");
