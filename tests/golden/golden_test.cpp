@@ -37,6 +37,10 @@ struct Golden {
     Bytes (*again)(std::string_view bytes);
 };
 
+void PrintTo(const Golden& golden, std::ostream* output) {
+    *output << golden.name;
+}
+
 // ---- catalogues
 
 template <CatalogueKind kind>
