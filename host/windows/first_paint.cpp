@@ -12,7 +12,6 @@ namespace lx::host {
 namespace {
 
 constexpr wchar_t watcherClass[] = L"VORDANLT.watcher";
-constexpr UINT painted = WM_APP;
 constexpr UINT tickMilliseconds = 10;
 constexpr ULONG_PTR dialogClass = 0x8002;  // as the system numbers its own class
 
@@ -24,15 +23,15 @@ double milliseconds() {
     return static_cast<double>(now.QuadPart) * 1000 / static_cast<double>(perSecond.QuadPart);
 }
 
-BOOL CALLBACK cancelDialog(HWND window, LPARAM) {
+BOOL CALLBACK takeDialog(HWND window, LPARAM found) {
     const bool dialog = GetClassLongPtrW(window, GCW_ATOM) == dialogClass;
     if (!dialog || !IsWindowVisible(window)) return TRUE;
-    PostMessageW(window, WM_CLOSE, 0, 0);
+    *reinterpret_cast<HWND*>(found) = window;
     return FALSE;
 }
 
-// Listens in the module's message loop. Paints are sent, or retrieved: a message posted then comes
-// back right after the paint is done. A timer's comes only when there is nothing left to paint.
+// Listens in the module's message loop. A timer's message is the last one that a loop is given:
+// when one comes, nothing is left to be painted. It tells up to a tick too late.
 class Watcher {
 public:
     Watcher() {
@@ -43,55 +42,31 @@ public:
         RegisterClassW(&look);
         m_window = CreateWindowExW(0, watcherClass, L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr,
                                    look.hInstance, nullptr);
-        s_window = m_window;
         s_painted = 0;
-        m_retrieved = SetWindowsHookExW(WH_GETMESSAGE, retrieved, nullptr, GetCurrentThreadId());
-        m_sent = SetWindowsHookExW(WH_CALLWNDPROCRET, sent, nullptr, GetCurrentThreadId());
         SetTimer(m_window, 1, tickMilliseconds, nullptr);
     }
-    ~Watcher() {
-        UnhookWindowsHookEx(m_sent);
-        UnhookWindowsHookEx(m_retrieved);
-        DestroyWindow(m_window);
-    }
+    ~Watcher() { DestroyWindow(m_window); }
     Watcher(const Watcher&) = delete;
     Watcher& operator=(const Watcher&) = delete;
 
-    // When the last paint had been done; 0 = there was none.
-    double lastPaint() const { return s_painted; }
+    // When the dialog was painted; 0 = there was none.
+    double painted() const { return s_painted; }
 
 private:
-    static LRESULT CALLBACK retrieved(int code, WPARAM removed, LPARAM lParam) {
-        const auto& message = *reinterpret_cast<const MSG*>(lParam);
-        if (code == HC_ACTION && (removed & PM_REMOVE) != 0 && message.message == WM_PAINT) {
-            PostMessageW(s_window, painted, 0, 0);
-        }
-        return CallNextHookEx(nullptr, code, removed, lParam);
-    }
-
-    static LRESULT CALLBACK sent(int code, WPARAM wParam, LPARAM lParam) {
-        const auto& message = *reinterpret_cast<const CWPRETSTRUCT*>(lParam);
-        if (code == HC_ACTION && message.message == WM_PAINT) s_painted = milliseconds();
-        return CallNextHookEx(nullptr, code, wParam, lParam);
-    }
-
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-        if (message == painted) s_painted = milliseconds();
-        const bool busy = HIWORD(GetQueueStatus(QS_PAINT | QS_POSTMESSAGE)) != 0;
-        if (message == WM_TIMER && !busy && s_painted != 0) {
-            EnumThreadWindows(GetCurrentThreadId(), cancelDialog, 0);
-        }
-        return DefWindowProcW(window, message, wParam, lParam);
+        if (message != WM_TIMER) return DefWindowProcW(window, message, wParam, lParam);
+        HWND dialog = nullptr;
+        EnumThreadWindows(GetCurrentThreadId(), takeDialog, reinterpret_cast<LPARAM>(&dialog));
+        if (!dialog) return 0;
+        if (s_painted == 0) s_painted = milliseconds();
+        PostMessageW(dialog, WM_CLOSE, 0, 0);
+        return 0;
     }
 
-    static HWND s_window;
     static double s_painted;
     HWND m_window = nullptr;
-    HHOOK m_retrieved = nullptr;
-    HHOOK m_sent = nullptr;
 };
 
-HWND Watcher::s_window = nullptr;
 double Watcher::s_painted = 0;
 
 // What other windows still have to do belongs to no call.
@@ -105,8 +80,8 @@ double firstPaint(const ModuleCalls& calls, const CallRequest& request, void* pa
     const Watcher watcher;
     const double begin = milliseconds();
     run(calls, request, parentWindow);
-    if (watcher.lastPaint() == 0) throw std::runtime_error("the dialog was not painted");
-    return watcher.lastPaint() - begin;
+    if (watcher.painted() == 0) throw std::runtime_error("the dialog was not painted");
+    return watcher.painted() - begin;
 }
 
 }  // namespace
