@@ -139,11 +139,9 @@ std::string optionsHelp(const std::string& programName) {
            "  --data DIR                            LXDATA6.DAT, LXDATA6S.DAT, VDLINTEL.TXT "
            "(data beside the program)\n"
            "  --temp DIR                            the folder for temporary files\n"
-           "  --first-paint N                       calls CallLXdata6 N times, cancels and tells "
-           "how "
-           "long\n"
-           "                                        its dialog took to be painted "
-           "(VORDANLT.EXE)\n\n"
+           "  --first-paint N                       how long N dialogs of CallLXdata6 take to be "
+           "painted\n"
+           "                                        (VORDANLT.EXE); they are cancelled\n\n"
            "The host (a scenario sets the folders and may set the rest):\n" +
            HostSettings::help() + "\nThe opening of CallLXdata6:\n" + Opening::help();
 }
