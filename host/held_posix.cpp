@@ -13,7 +13,7 @@ namespace lx::host {
 
 namespace {
 
-constexpr long long heapNoise = 64 * 1024;
+constexpr long long heapNoise = 65536;
 
 long long openFiles() {
     const std::filesystem::directory_iterator open("/proc/self/fd");

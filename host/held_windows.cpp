@@ -9,7 +9,7 @@ namespace lx::host {
 
 namespace {
 
-constexpr long long heapNoise = 64 * 1024;
+constexpr long long heapNoise = 65536;
 constexpr long long privateNoise = 2 * 1024 * 1024;
 // Handles of windows, menus and drawing objects are known by their low word alone.
 constexpr UINT_PTR mostHandles = 0x10000;
