@@ -10,61 +10,26 @@ namespace {
 
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 
-struct DesignCall : testing::Test {
+TEST(DesignCall, RefusesTheWallBeforeTheOpening) {
+    const int tooWide = refusedBy(1200, 3000);
+    const int tooThin = refusedBy(1200, 20);
+    const int tooNarrow = refusedBy(200, 300);
+    EXPECT_EQ(refusedBy(100, 2000.001), tooWide);
+    EXPECT_EQ(refusedBy(100, 69.999), tooThin);
+    EXPECT_EQ(refusedBy(1200, nan), tooThin);
+    EXPECT_EQ(refusedBy(299.999, 70), tooNarrow);
+    EXPECT_EQ(refusedBy(nan, 2000), tooNarrow);
+    EXPECT_EQ(refusedBy(300, 2000) + refusedBy(12000, 70), 0);
+}
+
+TEST(DesignCall, NullPointersAreNotFollowed) {
     LoadedModule module;
-    std::string text = std::string(LX_RESULT_TEXT_SIZE, '#');
-    std::int32_t a = 6;
-    std::int32_t b = 1;
-
-    int call(double opening, double wall, std::int32_t exterior = 0) {
-        OpeningBlock block{};
-        block.headShape = block.unread188 = -1;
-        return CallLXdata6(nullptr, 0, 0, 0, opening, wall, 0.0, text.data(), &a, &b, block,
-                           exterior);
-    }
-    Session& user() { return module.bench.user(); }
-};
-
-TEST_F(DesignCall, RefusesTheWallBeforeTheOpening) {
-    const struct {
-        double opening, wall;
-        const char* refused;
-    } cases[] = {{100, 2000.001, "Šířka stěny je větší než 2.0 m"},
-                 {100, 69.9, "Šířka stěny je menší než 0.07 m"},
-                 {299.999, 70, "Šířka otvoru je menší než 0.30 m"},
-                 {1200, nan, "Šířka stěny je menší"},
-                 {nan, 300, "Šířka otvoru je menší"},
-                 {-1e300, 2000, "Šířka otvoru je menší"}};
-    for (const auto& one : cases) {
-        user().then([&one](Driver& d) {
-            EXPECT_TRUE(d.messageBox().text.starts_with(one.refused)) << d.messageBox().text;
-            d.answer("OK");
-        });
-        EXPECT_EQ(call(one.opening, one.wall), LX_DIALOG_CANCEL);
-        EXPECT_EQ(user().failure(), "");
-    }
-    EXPECT_EQ(text, std::string(LX_RESULT_TEXT_SIZE, '#'));
-    EXPECT_EQ(a, 6);
-    EXPECT_EQ(module.app.context().values.wallThickness, 0.0);
-}
-
-TEST_F(DesignCall, TheBoundsPassAndCancelHandsBackWhatCameIn) {
-    for (const auto& [opening, wall] : {std::pair{300.0, 2000.0}, {12000.0, 70.0}}) {
-        user().inDialog("Návrh překladu", [](Driver& d) { d.press("Zrušit"); });
-        EXPECT_EQ(call(opening, wall), LX_DIALOG_CANCEL);
-        EXPECT_EQ(user().failure(), "");
-        EXPECT_STREQ(text.c_str(), "nezad\xE1no");
-        EXPECT_TRUE(a == 6 && b == 1);
-        EXPECT_EQ(module.app.context().values.openingWidth, opening);
-    }
-}
-
-TEST_F(DesignCall, NullPointersAreNotFollowed) {
-    user().inDialog("Návrh překladu", [](Driver& d) { d.press("Zrušit"); });
+    module.bench.user().inDialog("Návrh překladu", [](Driver& d) { d.press("Zrušit"); });
     EXPECT_EQ(CallLXdata6(nullptr, 0, 0, 0, 1200, 300, nan, nullptr, nullptr, nullptr, {}, 0),
               LX_DIALOG_CANCEL);
-    EXPECT_EQ(user().failure(), "");
+    EXPECT_EQ(module.bench.user().failure(), "");
     EXPECT_EQ(module.app.context().values.level, 0.0);
+    EXPECT_EQ(mergeLibraryFiles(nullptr, nullptr, nullptr, 3), LX_MERGE_NO_SOURCE);
 }
 
 TEST(ResultText, IsCutToItsBuffer) {

@@ -1,12 +1,13 @@
 // The merge as an installation calls it: which files it takes, what it asks of the host and when,
 // what is left when something goes wrong.
 #include <gtest/gtest.h>
+#include <lxdata6dlg.h>
 
 #include <functional>
 
 #include "catalogue/catalogue_file.h"
 #include "entry/merge_call.h"
-#include "tests/entry/fake_modules.h"
+#include "tests/support/bench.h"
 #include "tests/support/catalogues.h"
 #include "tests/support/memory_files.h"
 
@@ -168,28 +169,6 @@ TEST_F(MergeCall, ADamagedCatalogueIsKeptAside) {
     EXPECT_EQ(call("new/LXDATA6.DAT", "", LX_MERGE_CATALOGUE), LX_MERGE_DONE);
     EXPECT_EQ(files.content[precast + ".bak"], damaged);
     EXPECT_EQ(files.content[precast], updated);
-}
-
-// ---- through the export, on real files
-
-TEST(MergeExport, ALibraryIsNotReplacedByItself) {
-    LoadedModule module;
-    Bench& bench = module.bench;
-    hostSide().sizesGiven.clear();
-    const Path target = bench.catalogueFolder() + "preklady.bk6";
-    bench.write(target, "library");
-    const Path sameFile = bench.catalogueFolder() + ".." + folderSeparator + "catalogue" +
-                          folderSeparator + "preklady.bk6";
-    EXPECT_EQ(mergeLibraryFiles(nullptr, sameFile.c_str(), nullptr, 2), LX_MERGE_NO_TARGET);
-    EXPECT_EQ(hostSide().sizesGiven, std::vector<int>{1024});
-    const Path other = bench.folder() + "preklady.bk6";
-    bench.write(other, std::string("new\0library", 11));
-    EXPECT_EQ(mergeLibraryFiles(nullptr, other.c_str(), "", 2), LX_MERGE_DONE)
-        << "an empty folder is none";
-    EXPECT_EQ(bench.read(target), std::string("new\0library", 11));
-    EXPECT_EQ(mergeLibraryFiles(nullptr, bench.folder().c_str(), nullptr, 2), LX_MERGE_NO_SOURCE)
-        << "a folder is no file";
-    EXPECT_EQ(mergeLibraryFiles(nullptr, nullptr, nullptr, 3), LX_MERGE_NO_SOURCE);
 }
 
 }  // namespace

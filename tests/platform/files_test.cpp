@@ -78,6 +78,8 @@ TEST_F(FilesTest, TellsMissingFromUnreadable) {
     EXPECT_TRUE(files.exists(in("empty")));
     EXPECT_FALSE(files.exists(in("none")));
     EXPECT_FALSE(files.exists(m_folder));
+    EXPECT_TRUE(files.same(in("empty"), in("./empty")));
+    EXPECT_FALSE(files.same(in("empty"), m_folder));
 }
 
 TEST_F(FilesTest, ReplacesWholeFilesAndLeavesNothingBeside) {
