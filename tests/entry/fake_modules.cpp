@@ -29,16 +29,11 @@ int LX_CDECL folder(int id, char* buffer, int size) {
     return hostSide().folderAnswer;
 }
 
-const char* LX_CDECL variable(const char* name) {
-    return std::strcmp(name, "DWGNAME") == 0 ? "plan.dwg" : nullptr;
+const char* LX_CDECL variable(const char*) {
+    return nullptr;
 }
 
-int LX_CDECL units() {
-    return 1000;
-}
-
-int LX_CDECL lock(int resource, int mode) {
-    hostSide().lockCalls.emplace_back(resource, mode);
+int LX_CDECL lock(int, int) {
     return 1;
 }
 
@@ -46,10 +41,6 @@ const char* const* LX_CDECL styles(int* count) {
     static const char* const names[] = {"Standard", nullptr, "Iso"};
     *count = 3;
     return names;
-}
-
-const char* LX_CDECL title() {
-    return "Stand-in 7";
 }
 
 int help(std::uintptr_t owner, const char* file, std::uintptr_t command, std::uintptr_t topic) {
@@ -70,10 +61,8 @@ void installHost(FakeModules& modules, const char* name, const Path& folderName)
     auto& table = hostSide().table;
     table[LX_SERVICE_FOLDER] = address(folder);
     table[LX_SERVICE_VARIABLE] = address(variable);
-    table[LX_SERVICE_UNITS_PER_METRE] = address(units);
     table[LX_SERVICE_LOCK] = address(lock);
     table[LX_SERVICE_TEXT_STYLES] = address(styles);
-    table[LX_SERVICE_TITLE] = address(title);
     modules.loadedModules[name] = {
         folderName + name,
         {{"GetProfilePath", address(getProfilePath)}, {"GetExport2D", address(getExport2D)}}};

@@ -57,14 +57,12 @@ struct HostSide {
     Path libraryFolder;
     Path catalogueFolder;
     int folderAnswer = 1;
-    std::vector<int>
-        sizesGiven;  // buffer sizes that GetProfilePath and the folder service were told
-    std::vector<std::pair<int, int>> lockCalls;
-    std::string helpRequest;  // "owner file command topic"
+    std::vector<int> sizesGiven;  // to GetProfilePath and the folder service for their buffers
+    std::string helpRequest;      // "owner file command topic"
 };
 HostSide& hostSide();
 
-// Fresh answers, every service of the table there, and the program loaded from that folder.
+// Fresh answers, the services that are needed, and the program loaded from that folder.
 void installHost(FakeModules& modules, const char* name, const Path& folder);
 
 // The module as loaded into a host whose folders are those of a bench; the exported functions work
