@@ -26,16 +26,6 @@ struct ItemEditor : testing::Test {
     static std::string focusedNumber(Driver& d) {
         return d.focusedControl().substr(0, d.focusedControl().find(' '));
     }
-    // Presses Tab from field to field up to OK.
-    static void expectTabOrder(Driver& d, const std::vector<const char*>& fields) {
-        for (const char* field : fields) {
-            const std::string at = focusedNumber(d);
-            d.focus(field);
-            EXPECT_EQ(focusedNumber(d), at) << field;
-            d.key("Tab");
-        }
-        EXPECT_EQ(focusedNumber(d), "#1");
-    }
     static std::string joined(const EditorTexts& t) {
         std::string all;
         for (const Text* text : {&t.designation, &t.length, &t.width, &t.height, &t.maxOpening,
@@ -55,7 +45,6 @@ TEST_F(ItemEditor, OpensWithItsTextsAndKeepsThemOnCancel) {
     precast.texts.mark = "A"_cz;
     EXPECT_FALSE(run(precast, title, [](Driver& d) {
         EXPECT_EQ(d.editSelection("Označení"), "0-8");
-        expectTabOrder(d, {std::begin(precastFields), std::end(precastFields)});
         retype(d, "Označení", "P1");
         d.press("Nápověda");
         d.press("Zrušit");
@@ -71,8 +60,15 @@ TEST_F(ItemEditor, SteelHasNoLengthAndNoOpeningAndKeepsTheirValues) {
     ASSERT_TRUE(run(steel, "Upravit průřez", [&](Driver& d) {
         EXPECT_EQ(d.layoutFaults(), std::vector<std::string>{});
         EXPECT_FALSE(d.exists(maxOpening) && d.visible(maxOpening));
-        expectTabOrder(d, {precastFields[0], precastFields[2], precastFields[3], "Hmotnost [kg/m]",
-                           precastFields[6], precastFields[7], precastFields[8]});
+        for (const char* field :
+             {precastFields[0], precastFields[2], precastFields[3], "Hmotnost [kg/m]",
+              precastFields[6], precastFields[7], precastFields[8]}) {
+            const std::string at = focusedNumber(d);
+            d.focus(field);
+            EXPECT_EQ(focusedNumber(d), at) << field;
+            d.key("Tab");
+        }
+        EXPECT_EQ(focusedNumber(d), "#1");
         retype(d, "Hmotnost [kg/m]", "12.25");
         d.press("OK");
     }));
