@@ -1,10 +1,13 @@
-// Random catalogues through their file and through the merge. A failure names its seed.
+// Random catalogues through their file and through the merge, and many items through it. A failure
+// names its seed.
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <chrono>
 
 #include "catalogue/catalogue_file.h"
 #include "catalogue/merge.h"
+#include "platform/numbers.h"
 #include "tests/support/random_records.h"
 #include "tests/support/readable.h"
 
@@ -122,6 +125,17 @@ TEST(CatalogueProperties, TheMergeDoesWhatTheSlowOneDoes) {
         if (anyNumbers) continue;
         ASSERT_EQ(readable(merged(result, nullptr).get()), text) << "seed " << seed;
     }
+}
+
+// Comparing every item with every other one would take minutes.
+TEST(MergeFigure, AHundredThousandItemsMeetAsMany) {
+    std::vector<CatalogueLine> lines{{-1, "T"}};
+    for (int i = 0; i < 100'000; ++i) lines.push_back({1, "KPM " + formatInt(i), 1});
+    const Catalogue once = catalogueOf(lines);
+    const auto start = std::chrono::steady_clock::now();
+    const Catalogue result = merged(once, once);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
+    EXPECT_EQ(catalogueBytes(result.get()), catalogueBytes(once.get()));
 }
 
 }  // namespace
