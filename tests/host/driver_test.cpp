@@ -12,25 +12,19 @@ namespace lx {
 namespace {
 
 constexpr int nameField = 10;
-constexpr int notesField = 12;
-constexpr int bubbleBox = 20;
-constexpr int firstRadio = 21;
-constexpr int secondRadio = 22;
-constexpr int lockedButton = 23;
 constexpr int iconButton = 24;
-constexpr int hiddenButton = 41;
 
 constexpr ControlTemplate controls[] = {
     {ControlKind::label, 9, "&Název:"_cz, {5, 5, 40, 8}},
     {ControlKind::edit, nameField, "", {50, 4, 80, 12}},
     {ControlKind::label, 11, "Popis:"_cz, {5, 22, 40, 8}},
-    {ControlKind::multilineEdit, notesField, "", {50, 20, 80, 24}, style::verticalScroll},
-    {ControlKind::checkBox, bubbleBox, "&Bublinu"_cz, {140, 4, 60, 10}},
-    {ControlKind::radioButton, firstRadio, "z náhledu"_cz, {140, 18, 60, 10}},
-    {ControlKind::radioButton, secondRadio, "z nabídky"_cz, {140, 30, 60, 10}},
-    {ControlKind::button, lockedButton, "Zamčeno"_cz, {140, 44, 50, 14}, style::disabled},
+    {ControlKind::multilineEdit, 12, "", {50, 20, 80, 24}, style::verticalScroll},
+    {ControlKind::checkBox, 20, "&Bublinu"_cz, {140, 4, 60, 10}},
+    {ControlKind::radioButton, 21, "z náhledu"_cz, {140, 18, 60, 10}},
+    {ControlKind::radioButton, 22, "z nabídky"_cz, {140, 30, 60, 10}},
+    {ControlKind::button, 23, "Zamčeno"_cz, {140, 44, 50, 14}, style::disabled},
     {ControlKind::iconButton, iconButton, "", {195, 44, 16, 14}},
-    {ControlKind::button, hiddenButton, "Skryté"_cz, {140, 150, 50, 14}, style::hidden},
+    {ControlKind::button, 41, "Skryté"_cz, {140, 150, 50, 14}, style::hidden},
     {ControlKind::button, id::ok, "OK", {140, 176, 40, 14}, style::defaultButton},
     {ControlKind::button, id::cancel, "Zrušit"_cz, {184, 176, 40, 14}},
 };

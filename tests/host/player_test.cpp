@@ -33,26 +33,18 @@ constexpr DialogTemplate sampleTemplate{"sample", "Ukázka"_cz, 180, 100, sample
 Platform* g_platform = nullptr;
 int g_loads = 0;
 
-void append(ListBox& list, std::string_view text, std::optional<Color> color = {},
-            std::optional<Color> background = {}) {
-    ListRow row;
-    row.text = text;
-    row.textColor = color;
-    row.selectedBackground = background;
-    list.append(row);
-}
-
 // LintelErase of the small module: a dialog whose "Další..." asks whether another one is to open.
 int runSample(Dialog* owner) {
     const auto dialog = g_platform->createDialog(sampleTemplate, {owner, nullptr});
     auto& list = dialog->get<ListBox>(listId);
-    append(list, "jedna", Color{233, 17, 12}, Color{1, 2, 3});
-    append(list, "dvě"_cz);
+    list.append({"jedna", {}, {}});
+    list.append({Text("dvě"_cz), {}, {}});
     dialog->get<Button>(moreId).onClick = [&] {
         const MessageAnswer answer =
             g_platform->messageBox({dialog.get(), nullptr}, "Opravdu?", "Otázka"_cz,
                                    MessageIcon::question, MessageButtons::yesNo);
-        if (answer == MessageAnswer::yes) append(list, std::to_string(runSample(dialog.get())));
+        if (answer == MessageAnswer::yes)
+            list.append({std::to_string(runSample(dialog.get())), {}, {}});
     };
     const int result = dialog->runModal();
     return dialog->get<CheckBox>(boxId).checked() ? 10 + result : result;
