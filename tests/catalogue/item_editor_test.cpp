@@ -79,14 +79,14 @@ TEST_F(ItemEditor, SteelHasNoLengthAndNoOpeningAndKeepsTheirValues) {
 TEST_F(ItemEditor, EnterChecksEachFieldAndGoesOnToOk) {
     ASSERT_TRUE(run(precast, title, [](Driver& d) {
         for (const char* text :
-             {"Žď 5-", "1500", "-5", "7.6", "8", "12.25", "0.0005", "vně", "B"}) {
+             {"Žď 5-", "1500", "-5", "7.6", "9", "12.25", "0.0005", "vně", "B"}) {
             d.type(text);
             d.key("Enter");
         }
         EXPECT_EQ(focusedNumber(d), "#1");
         d.key("Enter");
     }));
-    EXPECT_EQ(joined(precast.texts), "Žď 5-|1500|-5|8|8|12.3|0.001|vně|B|");
+    EXPECT_EQ(joined(precast.texts), "Žď 5-|1500|-5|8|9|12.3|0.001|vně|B|");
 }
 
 TEST_F(ItemEditor, WhatIsNoNumberIsReportedAndBecomesZero) {

@@ -107,6 +107,8 @@ TEST_F(PlayerTest, AFailureSaysWhereAndWhatWasThereAndEndsTheCall) {
     const std::string unknown = play("call LintelErase\npress \"Nic takového\"\nreturns 1\n");
     EXPECT_EQ(unknown.rfind("test.scenario:2: ", 0), 0U) << unknown;
     EXPECT_NE(unknown.find("Nic takového"), std::string::npos) << unknown;
+    const std::string noRow = play("call LintelErase\nselect-at \"Seznam\" 2\nreturns 1\n");
+    EXPECT_EQ(noRow.rfind("test.scenario:2: ", 0), 0U) << noRow;
     EXPECT_EQ(play("expect file data:x is present\n"),
               "test.scenario:1: expected \"file\" \"data:x\" is \"present\", there is \"absent\"");
 }
