@@ -96,6 +96,8 @@ TEST_F(DriverTest, TypesAndPressesKeysThroughTheirHandlers) {
     then([](Driver& d) {
         d.type("ře 150,");
         EXPECT_EQ(d.text("Název"), "ře 10,");
+        for (const char* key : {"Home", "Shift+Right"}) d.key(key);
+        EXPECT_EQ(d.editSelection("Název"), "0-1");
         EXPECT_EQ(d.defaultButton(), "OK");
 
         d.key("Tab");
