@@ -129,8 +129,13 @@ TEST_F(DriverTest, AFailedStepIsKeptAndEverythingCancelled) {
                                     MessageIcon::question, MessageButtons::yesNo);
     };
     at<Button>(id::cancel).enable(false);
-    then([](Driver& d) { d.press("Vložit překlad"); });
-    then([](Driver& d) {
+    bool returned = false;
+    then([&](Driver& d) {
+        d.press("Vložit překlad");
+        returned = true;
+    });
+    then([&](Driver& d) {
+        EXPECT_FALSE(returned) << "what the press opened still stands";
         EXPECT_THROW(d.answer("Cancel"), DriverError);
         EXPECT_THROW(d.press("OK"), DriverError);
         throw DriverError("cannot go on");
