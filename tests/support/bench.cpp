@@ -9,19 +9,6 @@ namespace lx {
 
 namespace fs = std::filesystem;
 
-class Bench::OwnTemporaryFolder {
-public:
-    explicit OwnTemporaryFolder(const Path& own) : m_before(systemFiles().temporaryFolder()) {
-        setTemporaryFolder(own);
-    }
-    ~OwnTemporaryFolder() { setTemporaryFolder(m_before); }
-    OwnTemporaryFolder(const OwnTemporaryFolder&) = delete;
-    OwnTemporaryFolder& operator=(const OwnTemporaryFolder&) = delete;
-
-private:
-    Path m_before;
-};
-
 namespace {
 
 Path freshFolder() {
@@ -34,12 +21,12 @@ Path freshFolder() {
 
 }  // namespace
 
-Bench::Bench() : m_folder(freshFolder()) {
+Bench::Bench() : m_before(systemFiles().temporaryFolder()), m_folder(freshFolder()) {
     for (const Path& folder :
          {dataFolder(), libraryFolder(), catalogueFolder(), temporaryFolder()}) {
         fs::create_directories(folder);
     }
-    m_temporary = std::make_unique<OwnTemporaryFolder>(temporaryFolder());
+    setTemporaryFolder(temporaryFolder());
     m_host.data = dataFolder();
     m_host.library = libraryFolder();
     m_host.catalogue = catalogueFolder();
@@ -52,7 +39,7 @@ Bench::~Bench() {
     m_user.reset();
     m_driver.reset();
     m_platform.reset();
-    m_temporary.reset();
+    setTemporaryFolder(m_before);
     std::error_code ignored;
     fs::remove_all(m_folder, ignored);
 }

@@ -109,11 +109,10 @@ public:
     std::optional<Bytes> read(const Path& path);
 
 private:
-    class OwnTemporaryFolder;
     Path subfolder(const char* name) const { return m_folder + name + std::string(separator); }
 
+    Path m_before;  // the temporary folder
     Path m_folder;
-    std::unique_ptr<OwnTemporaryFolder> m_temporary;
     FakeHost m_host;
     std::unique_ptr<Platform> m_platform;
     std::unique_ptr<Driver> m_driver;
