@@ -49,24 +49,12 @@ struct DrawnDesign {
 
 inline std::string fieldName(const HitRegion& region) {
     if (region.kind == region::layerName) return "";
-    const std::string bend = std::to_string(region.target.bend);
-    switch (region.target.field) {
-        case EditField::width:
-            return " width";
-        case EditField::height:
-            return " height";
-        case EditField::maxOpening:
-            return " maxOpening";
-        case EditField::kind:
-            return " kind";
-        case EditField::bendRun:
-            return " run of bend " + bend;
-        case EditField::bendStep:
-            return " step of bend " + bend;
-        case EditField::length:
-            break;
-    }
-    return " ?";
+    // In the order of EditField.
+    constexpr const char* names[] = {" width", " height",       " length",       " maxOpening",
+                                     " kind",  " run of bend ", " step of bend "};
+    const EditField field = region.target.field;
+    const bool ofBend = field == EditField::bendRun || field == EditField::bendStep;
+    return names[static_cast<int>(field)] + (ofBend ? std::to_string(region.target.bend) : "");
 }
 
 inline std::string asText(const HitRegion& region, const CRez* head) {
