@@ -1,5 +1,4 @@
-// Random designs through the stored form, the hand-over, the library and its projects. A failure
-// names its seed.
+// Random designs through the stored form, the hand-over and the library. A failure names its seed.
 #include <gtest/gtest.h>
 
 #include "composition/hand_over.h"
@@ -28,22 +27,6 @@ TEST(StoredProperties, DesignsAreReadAsTheyWereWritten) {
         const RezChain taken = ReadHandOver("h", files).design;
         ASSERT_EQ(readable(taken.head()), readable(made.head())) << "seed " << seed;
         ASSERT_EQ(handOverBytes(taken.head()), files.content["h"]) << "seed " << seed;
-    }
-}
-
-TEST(StoredProperties, ProjectsAreReadAsTheyWereWritten) {
-    for (unsigned seed = 1; seed <= rounds; ++seed) {
-        RandomRecords random(seed);
-        ProjectList made;
-        for (int left = 1 + random.below(6); left > 0; --left) {
-            const std::int32_t id = random.number();
-            made.projects.push_back({id == deletedProject ? 7 : id, random.text(projectNameLimit)});
-        }
-        made.selected = random.below(static_cast<int>(made.projects.size()));
-        const Bytes bytes = projectBytes(made);
-        const ProjectList read = parseProjects(bytes);
-        ASSERT_EQ(readable(read), readable(made)) << "seed " << seed;
-        ASSERT_EQ(projectBytes(read), bytes) << "seed " << seed;
     }
 }
 
