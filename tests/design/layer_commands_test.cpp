@@ -214,6 +214,7 @@ TEST_F(LayerCommands, ButtonsAreOfferedByTheFreeSpace) {
     EXPECT_EQ(at(70, filler), (Availability{true, true, false, true, true, true}));
     EXPECT_EQ(at(69, head), (Availability{false, false, false, true, true, true}));
     EXPECT_EQ(at(29, nullptr), (Availability{false, false, false, false, true, true}));
+    EXPECT_EQ(at(20, filler), (Availability{true, false, false, false, true, true}));
     EXPECT_EQ(at(19, filler), (Availability{true, false, false, false, false, true}));
     EXPECT_EQ(at(9, filler), (Availability{true, false, false, false, false, false}));
     EXPECT_TRUE(availability(head, filler, nullptr, layer(kind::beam, 9).get()).addSteel);
