@@ -7,6 +7,7 @@ namespace lx {
 namespace {
 
 constexpr std::size_t fixedRecordSize = 39;  // bytes of a record without texts
+constexpr std::size_t pieceSize = 262144;    // bytes that are written at a time
 
 std::optional<Text> readText(BinaryReader& reader, bool& damaged) {
     std::string_view text = reader.zeroTerminated();
@@ -117,14 +118,25 @@ LoadedCatalogue loadCatalogue(CatalogueKind kind, const Path& path, Files& files
     return result;
 }
 
-int saveCatalogueAs(const CPreklItem* head, const Path& path, Files& files, bool keepOld) {
-    return writeCatalogue(catalogueBytes(head), path, files, keepOld);
-}
-
-int writeCatalogue(std::string_view bytes, const Path& path, Files& files, bool keepOld) {
+// Piece by piece: fresh memory for the whole file would cost more than what is put into it.
+int saveCatalogueAs(const CPreklItem* head, const Path& path, Files& files, bool keepOld,
+                    CatalogueState* written) {
     constexpr int notAccessible = -5;
     if (keepOld && !files.keepAsBackup(path)) return notAccessible;
-    return files.replace(path, bytes) ? 0 : notAccessible;
+    const CPreklItem* record = head;
+    BinaryWriter piece;
+    CatalogueHash hash;
+    const bool done = files.replaceByPieces(path, [&] {
+        piece.clear();
+        for (; record && piece.bytes().size() < pieceSize; record = record->next.get()) {
+            writeRecord(*record, piece);
+        }
+        if (written) hash.add(piece.bytes());
+        return std::string_view(piece.bytes());
+    });
+    if (!done) return notAccessible;
+    if (written) *written = hash.state(false);
+    return 0;
 }
 
 Catalogue copyCatalogue(const CPreklItem* head) {

@@ -45,10 +45,9 @@ LoadedCatalogue loadCatalogue(CatalogueKind kind, const Path& path, Files& files
 
 // 0 after writing, -5 when the file could not be put in place (the old one then stays whole).
 // keepOld: the file on disk loaded with damage and is kept as .bak first; when that fails nothing
-// is written, -5.
-int saveCatalogueAs(const CPreklItem* head, const Path& path, Files& files, bool keepOld = false);
-// The same with the file's bytes.
-int writeCatalogue(std::string_view bytes, const Path& path, Files& files, bool keepOld);
+// is written, -5. written, unless null, tells then what the file holds.
+int saveCatalogueAs(const CPreklItem* head, const Path& path, Files& files, bool keepOld = false,
+                    CatalogueState* written = nullptr);
 
 Catalogue copyCatalogue(const CPreklItem* head);
 

@@ -30,10 +30,8 @@ CatalogueSession::CatalogueSession(Files& files, Host& host, CatalogueKind kind,
 
 void CatalogueSession::save() {
     if (m_readOnly) return;
-    const Bytes bytes = catalogueBytes(m_items.get());
-    if (writeCatalogue(bytes, m_path, m_files, m_state.damaged) != 0) return;
-    m_state = stateOf(bytes, false);
-    m_written = true;
+    const bool keepOld = m_state.damaged;
+    if (saveCatalogueAs(m_items.get(), m_path, m_files, keepOld, &m_state) == 0) m_written = true;
 }
 
 void CatalogueSession::putBack() {

@@ -15,6 +15,18 @@ struct CatalogueState {
     bool holds(std::string_view bytes) const;
 };
 
+// The state of a file whose bytes come piece by piece, of whatever lengths.
+class CatalogueHash {
+public:
+    void add(std::string_view bytes);
+    CatalogueState state(bool damaged) const;
+
+private:
+    std::uint64_t m_size = 0;
+    std::uint64_t m_hash = 0;
+    std::uint64_t m_word = 0;  // the bytes behind the last whole eight
+};
+
 CatalogueState stateOf(std::string_view bytes, bool damaged);
 
 }  // namespace lx

@@ -82,6 +82,8 @@ public:
         m_bytes.push_back('\0');
     }
     void reserve(std::size_t size) { m_bytes.reserve(size); }
+    // Keeps the memory for what comes next.
+    void clear() { m_bytes.clear(); }
     const Bytes& bytes() const { return m_bytes; }
     Bytes take() { return std::move(m_bytes); }
 

@@ -4,7 +4,9 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string_view>
+#include <utility>
 
 #include "platform/text.h"
 
@@ -30,6 +32,9 @@ struct Seal {
     std::string_view bytes;
 };
 
+// Answers the next bytes of a file to be written, good until the next call; none at its end.
+using NextPiece = std::function<std::string_view()>;
+
 class Files {
 public:
     Files() = default;
@@ -47,8 +52,12 @@ public:
     // Makes an empty file; false when it cannot be made or is already there.
     virtual bool createEmpty(const Path& path) = 0;
     // Puts a file with these bytes in the place of path: written beside it, flushed, renamed over
-    // it in one step. On failure the old file is untouched and nothing is left beside it.
-    virtual bool replace(const Path& path, std::string_view bytes) = 0;
+    // it in one step. On failure, also when next throws, the old file is untouched and nothing is
+    // left beside it.
+    virtual bool replaceByPieces(const Path& path, const NextPiece& next) = 0;
+    bool replace(const Path& path, std::string_view bytes) {
+        return replaceByPieces(path, [&bytes] { return std::exchange(bytes, {}); });
+    }
     // Writes at the end, flushes, then sets the seal and flushes again; creates a missing file. On
     // failure the file has its old length again. When the process dies a part of the bytes may
     // stand there, but never under the seal.

@@ -68,5 +68,29 @@ TEST(CatalogueFile, OpeningCreatesAMissingFileAndNothingElse) {
     EXPECT_EQ(saveCatalogueAs(nullptr, "R", files), -5);
 }
 
+// Larger than what is written at a time, and than its multiples.
+TEST(CatalogueFile, IsWrittenPieceByPieceAndKnownAgainAsAWhole) {
+    MemoryFiles files;
+    CatalogueState state;
+    for (const int items : {0, 1, 6000, 20001}) {
+        const Catalogue made = madeCatalogue(1, items);
+        ASSERT_EQ(saveCatalogueAs(made.get(), "C", files, false, &state), 0);
+        Bytes& file = files.content.at("C");
+        EXPECT_TRUE(file == catalogueBytes(made.get())) << items;
+        EXPECT_TRUE(state.holds(file) && !state.damaged) << items;
+        const CatalogueState before = state;
+        files.readOnly = true;
+        EXPECT_EQ(saveCatalogueAs(nullptr, "C", files, false, &state), -5);
+        files.readOnly = false;
+        EXPECT_EQ(state.hash, before.hash) << "nothing was written";
+        for (const std::size_t at : {std::size_t{0}, file.size() / 2, file.size() - 1}) {
+            file[at] = static_cast<char>(file[at] ^ 1);
+            EXPECT_FALSE(state.holds(file)) << items << ' ' << at;
+            file[at] = static_cast<char>(file[at] ^ 1);
+        }
+        EXPECT_FALSE(state.holds(file + '\0'));
+    }
+}
+
 }  // namespace
 }  // namespace lx

@@ -90,6 +90,18 @@ TEST_F(FilesTest, ReplacesWholeFilesAndLeavesNothingBeside) {
     EXPECT_EQ(bytesOf("f"), "short");
     EXPECT_FALSE(files.replace(in("none/f"), "x"));
     EXPECT_FALSE(files.replace(m_folder, "x")) << "a folder cannot be replaced";
+    std::vector<std::string_view> pieces = {"", "three", "two", "one"};
+    const auto next = [&pieces] {
+        const std::string_view piece = pieces.back();
+        pieces.pop_back();
+        return piece;
+    };
+    EXPECT_TRUE(files.replaceByPieces(in("f"), next));
+    EXPECT_EQ(bytesOf("f"), "onetwothree");
+    pieces = {"some"};
+    const auto runOut = [&] { return pieces.empty() ? throw std::bad_alloc() : next(); };
+    EXPECT_THROW(files.replaceByPieces(in("f"), runOut), std::bad_alloc);
+    EXPECT_EQ(bytesOf("f"), "onetwothree");
     EXPECT_EQ(names(), Names{"f"});
     EXPECT_FALSE(fs::exists(m_folder + ".new0"));
 }

@@ -21,8 +21,8 @@ public:
     bool same(const Path& a, const Path& b) override { return m_files.same(a, b); }
     bool writable(const Path& path) override { return !fails() && m_files.writable(path); }
     bool createEmpty(const Path& path) override { return !fails() && m_files.createEmpty(path); }
-    bool replace(const Path& path, std::string_view bytes) override {
-        return !fails() && m_files.replace(path, bytes);
+    bool replaceByPieces(const Path& path, const NextPiece& next) override {
+        return !fails() && m_files.replaceByPieces(path, next);
     }
     bool append(const Path& path, std::string_view bytes, const Seal& seal) override {
         return !fails() && m_files.append(path, bytes, seal);

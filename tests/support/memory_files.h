@@ -30,8 +30,10 @@ public:
         content[path];
         return true;
     }
-    bool replace(const Path& path, std::string_view bytes) override {
+    bool replaceByPieces(const Path& path, const NextPiece& next) override {
         if (readOnly || locked.count(path) != 0) return false;
+        Bytes bytes;
+        for (std::string_view piece = next(); !piece.empty(); piece = next()) bytes += piece;
         content[path] = bytes;
         return true;
     }

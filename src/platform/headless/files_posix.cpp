@@ -50,6 +50,12 @@ public:
         }
         return true;
     }
+    bool writeAll(const NextPiece& next) const {
+        for (std::string_view piece = next(); !piece.empty(); piece = next()) {
+            if (!write(piece)) return false;
+        }
+        return true;
+    }
     bool readAll(Bytes& bytes) const {
         char buffer[16384];
         for (;;) {
@@ -79,6 +85,23 @@ void flushFolderOf(const Path& path) {
     // Some file systems cannot flush a folder; the file itself is in its place either way.
     if (opened.open()) opened.flush();
 }
+
+// A file that goes away again unless it is kept.
+class Unfinished {
+public:
+    explicit Unfinished(Path path) : m_path(std::move(path)) {}
+    ~Unfinished() {
+        if (made) ::unlink(m_path.c_str());
+    }
+    Unfinished(const Unfinished&) = delete;
+    Unfinished& operator=(const Unfinished&) = delete;
+
+    const Path& path() const { return m_path; }
+    bool made = false;
+
+private:
+    Path m_path;
+};
 
 class PosixFiles final : public Files {
 public:
@@ -125,17 +148,18 @@ public:
         return true;
     }
 
-    bool replace(const Path& path, std::string_view bytes) override {
+    bool replaceByPieces(const Path& path, const NextPiece& next) override {
         if (readOnly(path)) return false;
         // A name that a killed process left behind is passed over.
         for (int attempt = 0; attempt < 100; ++attempt) {
-            const Path beside = path + ".new" + std::to_string(attempt);
-            Descriptor file(beside, O_WRONLY | O_CREAT | O_EXCL);
+            Unfinished beside(path + ".new" + std::to_string(attempt));
+            Descriptor file(beside.path(), O_WRONLY | O_CREAT | O_EXCL);
             if (!file.open() && errno == EEXIST) continue;
             if (!file.open()) return false;
-            const bool done = keepMode(path, file) && file.write(bytes) && file.flush() &&
-                              file.close() && ::rename(beside.c_str(), path.c_str()) == 0;
-            if (!done) ::unlink(beside.c_str());
+            beside.made = true;
+            const bool done = keepMode(path, file) && file.writeAll(next) && file.flush() &&
+                              file.close() && ::rename(beside.path().c_str(), path.c_str()) == 0;
+            beside.made = !done;
             if (done) flushFolderOf(path);
             return done;
         }

@@ -54,6 +54,12 @@ public:
         }
         return true;
     }
+    bool writeAll(const NextPiece& next) {
+        for (std::string_view piece = next(); !piece.empty(); piece = next()) {
+            if (!write(piece)) return false;
+        }
+        return true;
+    }
     // Up to the file's end; false on a read error.
     bool readAll(Bytes& bytes) {
         std::uint64_t expected = 0;
@@ -114,6 +120,24 @@ bool readOnly(const Path& path) {
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY);
 }
 
+// A file that goes away again unless it is kept. To be made before its handle: an open file cannot
+// be deleted.
+class Unfinished {
+public:
+    explicit Unfinished(Path path) : m_path(std::move(path)) {}
+    ~Unfinished() {
+        if (made) DeleteFileA(m_path.c_str());
+    }
+    Unfinished(const Unfinished&) = delete;
+    Unfinished& operator=(const Unfinished&) = delete;
+
+    const Path& path() const { return m_path; }
+    bool made = false;
+
+private:
+    Path m_path;
+};
+
 class WindowsFiles final : public Files {
 public:
     FileRead read(const Path& path) override {
@@ -158,21 +182,20 @@ public:
         return static_cast<bool>(FileHandle(path, GENERIC_WRITE, shareRead, CREATE_NEW));
     }
 
-    bool replace(const Path& path, std::string_view bytes) override {
+    bool replaceByPieces(const Path& path, const NextPiece& next) override {
         if (readOnly(path)) return false;
         for (unsigned attempt = 0; attempt < 100; ++attempt) {
-            const Path temporary = nameBeside(path, attempt);
-            FileHandle file(temporary, GENERIC_WRITE, 0, CREATE_NEW);
+            Unfinished temporary(nameBeside(path, attempt));
+            FileHandle file(temporary.path(), GENERIC_WRITE, 0, CREATE_NEW);
             if (!file && file.error() == ERROR_FILE_EXISTS) continue;
             if (!file) return false;
-            const bool written = file.write(bytes) && file.flush();
-            if (file.close() && written &&
-                MoveFileExA(temporary.c_str(), path.c_str(),
-                            MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
-                return true;
-            }
-            DeleteFileA(temporary.c_str());
-            return false;
+            temporary.made = true;
+            const bool written = file.writeAll(next) && file.flush();
+            const bool done = file.close() && written &&
+                              MoveFileExA(temporary.path().c_str(), path.c_str(),
+                                          MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH);
+            temporary.made = !done;
+            return done;
         }
         return false;
     }
