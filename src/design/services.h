@@ -30,14 +30,11 @@ public:
     virtual void RefreshAll() = 0;
     // Null means the head. Redraws both previews; refreshes availability and properties.
     virtual void SelectRecord(CRez* record) = 0;
-    virtual void ShowTab(int index) = 0;
     virtual void RefreshProperties() = 0;
     virtual void RefreshAvailability() = 0;
     // For the type selected in the page's "Typ:" box.
     virtual void RebuildPrecastOffer() = 0;
     virtual void RebuildSteelOffer() = 0;
-    // The "Typ:" boxes show the types of the design's last precast and last steel layer.
-    virtual void ShowDesignTypes() = 0;
     // The commands that pages and the command menu share. Each ends a pending edit first and lays
     // the design out. shape: number of the bend preset, 0 = straight.
     virtual void SetBends(int shape) = 0;
@@ -57,7 +54,6 @@ public:
     virtual bool editVisible() const = 0;
     // What was edited last; its record may be gone.
     virtual EditTarget lastEdited() const = 0;
-    virtual void RedrawPreviews() = 0;
     // The properties text becomes that bearing length at each end, mm.
     virtual void ShowBearing(std::int32_t bearing) = 0;
     // Whether the design may be confirmed.

@@ -5,11 +5,10 @@
 #include <cstring>
 
 #include "catalogue/CData6_1.h"
-#include "design/CObr1.h"
+#include "dialog/CObr1.h"
 #include "entry/CLintelErase.h"
 #include "entry/merge_call.h"
 #include "resources/strings.h"
-#include "tabs/page_factory.h"
 
 namespace lx {
 
@@ -47,8 +46,7 @@ struct DesignOutcome {
 
 // What came in stays in the outcome when the dialog fails.
 void runDialog(CLXdata6dlgApp& app, const DesignArguments& arguments, DesignOutcome& outcome) {
-    TabFactory factory;
-    CObr1 dialog(app.context(), Owner{nullptr, arguments.parent}, factory);
+    CObr1 dialog(app.context(), Owner{nullptr, arguments.parent});
     dialog.resultA = outcome.a;
     dialog.resultB = outcome.b;
     dialog.exteriorSide = arguments.exteriorSide;

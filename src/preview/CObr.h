@@ -1,20 +1,21 @@
 // The section preview of the design dialog.
 #pragma once
 
-#include "design/pages.h"
+#include "design/services.h"
 #include "preview/hit_regions.h"
 #include "preview/section_mouse.h"
 
 namespace lx {
 
-class CObr : public SectionPreview {
+class CObr {
 public:
     // Takes the picture's events; services and picture must outlive the preview.
     CObr(DesignServices& services, Picture& picture);
 
-    Size size() const override { return m_picture.size(); }
-    void redraw() override;
-    void setExteriorSide(bool left) override { m_exteriorLeft = left; }
+    Size size() const { return m_picture.size(); }  // px
+    void redraw();
+    // True: the left edge of the section is the exterior face of the wall.
+    void setExteriorSide(bool left) { m_exteriorLeft = left; }
 
 private:
     void paint(Canvas& canvas);

@@ -5,27 +5,32 @@
 #include <memory>
 
 #include "catalogue/my_edit.h"
-#include "design/pages.h"
+#include "design/annotation.h"
 #include "design/services.h"
 #include "preview/CObrP.h"
+#include "tabs/design_page.h"
 
 namespace lx {
 
-class CTabGeometrie : public GeometryPage {
+class CTabGeometrie : public DesignPage {
 public:
     explicit CTabGeometrie(DesignServices& services);
 
     Dialog& window() override { return *m_window; }
     void showAvailability(const Availability&) override {}
-    void initialise() override;
-    void RefreshDescription() override;
-    Text bubbleName() const override { return m_bubble.text(); }
-    Text description() const override { return m_description.text(); }
-    void setDescription(std::string_view text) override { m_description.setText(text); }
-    void setAnnotation(const Annotation& annotation) override;
-    Annotation annotation() const override;
-    void focusBubble() override;
-    void redrawPlan() override { m_plan.redraw(); }
+    // Once, when settings and check boxes have been filled.
+    void initialise();
+    // Replaces the description by the summary of the layers and the bubble field by the design's
+    // label (or the proposed name when it has none yet).
+    void RefreshDescription();
+    Text bubbleName() const { return m_bubble.text(); }
+    Text description() const { return m_description.text(); }
+    void setDescription(std::string_view text) { m_description.setText(text); }
+    void setAnnotation(const Annotation& annotation);
+    Annotation annotation() const;
+    // The bubble field takes the focus, its text selected.
+    void focusBubble();
+    void redrawPlan() { m_plan.redraw(); }
 
 private:
     void bubbleChanged();

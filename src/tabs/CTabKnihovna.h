@@ -4,24 +4,27 @@
 
 #include <memory>
 
-#include "design/pages.h"
 #include "design/services.h"
 #include "tabs/CBookBox.h"
 #include "tabs/CBookList.h"
+#include "tabs/design_page.h"
 
 namespace lx {
 
-class CTabKnihovna : public LibraryPage {
+class CTabKnihovna : public DesignPage {
 public:
     explicit CTabKnihovna(DesignServices& services);
 
     Dialog& window() override { return *m_window; }
     void showAvailability(const Availability&) override {}
-    void showProjects() override;
-    void showDesigns() override { m_designs.fill(); }
-    void refreshDesignLooks() override { m_designs.refreshLooks(); }
-    void setBearingCheck(bool on) override { m_bearingCheck.check(on); }
-    bool bearingCheck() const override { return m_bearingCheck.checked(); }
+    // From the library session: the projects and which one is selected.
+    void showProjects();
+    // From the model: "<výchozí>" and the stored designs of the project; selects the one shown.
+    void showDesigns() { m_designs.fill(); }
+    // After a change of the design being edited: it may suit the opening no longer.
+    void refreshDesignLooks() { m_designs.refreshLooks(); }
+    void setBearingCheck(bool on) { m_bearingCheck.check(on); }
+    bool bearingCheck() const { return m_bearingCheck.checked(); }
 
 private:
     void useStored(int entry);

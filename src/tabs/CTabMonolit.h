@@ -3,12 +3,12 @@
 
 #include <memory>
 
-#include "design/pages.h"
 #include "design/services.h"
+#include "tabs/design_page.h"
 
 namespace lx {
 
-class CTabMonolit : public MonolithPage {
+class CTabMonolit : public DesignPage {
 public:
     explicit CTabMonolit(DesignServices& services);
 

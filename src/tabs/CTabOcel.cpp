@@ -14,6 +14,6 @@ constexpr OfferPageControls controls{id::steelType,  id::steelOffer,    id::stee
 }  // namespace
 
 CTabOcel::CTabOcel(DesignServices& services)
-    : OfferPageWindow(services, steelTemplate, controls, texts::addSection) {}
+    : OfferPage(services, steelTemplate, controls, texts::addSection) {}
 
 }  // namespace lx

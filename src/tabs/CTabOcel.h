@@ -5,7 +5,7 @@
 
 namespace lx {
 
-class CTabOcel : public OfferPageWindow {
+class CTabOcel : public OfferPage {
 public:
     explicit CTabOcel(DesignServices& services);
 

@@ -6,7 +6,7 @@
 
 namespace lx {
 
-class CTabPrefa : public OfferPageWindow {
+class CTabPrefa : public OfferPage {
 public:
     explicit CTabPrefa(DesignServices& services);
 

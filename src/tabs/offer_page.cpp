@@ -6,8 +6,8 @@
 
 namespace lx {
 
-OfferPageWindow::OfferPageWindow(DesignServices& services, const DialogTemplate& layout,
-                                 const OfferPageControls& controls, std::string_view addTooltip)
+OfferPage::OfferPage(DesignServices& services, const DialogTemplate& layout,
+                     const OfferPageControls& controls, std::string_view addTooltip)
     : m_services(services),
       m_window(makePageWindow(services, layout)),
       m_types(m_window->get<ComboBox>(controls.typeBox)),
@@ -19,7 +19,7 @@ OfferPageWindow::OfferPageWindow(DesignServices& services, const DialogTemplate&
     connect(controls, addTooltip);
 }
 
-void OfferPageWindow::connect(const OfferPageControls& controls, std::string_view addTooltip) {
+void OfferPage::connect(const OfferPageControls& controls, std::string_view addTooltip) {
     dress(m_add, icon::add, addTooltip);
     dress(m_remove, icon::remove, texts::removeLayer);
     dress(m_insulation, icon::insulation, texts::addInsulation);
@@ -53,7 +53,7 @@ void OfferPageWindow::connect(const OfferPageControls& controls, std::string_vie
     };
 }
 
-void OfferPageWindow::showAvailability(const Availability& available) {
+void OfferPage::showAvailability(const Availability& available) {
     ListBox& list = m_offer.list();
     enableOrLeave(m_add, addAvailable(available), list);
     enableOrLeave(m_remove, available.remove, list);
@@ -61,30 +61,30 @@ void OfferPageWindow::showAvailability(const Availability& available) {
     enableOrLeave(m_space, available.insertSpace, list);
 }
 
-void OfferPageWindow::addSelected() {
+void OfferPage::addSelected() {
     m_services.EndEdit();
     finish(addElement(m_services.model().edit(), offer().selectedRecord()));
 }
 
-void OfferPageWindow::fillTypes(const std::vector<Text>& names) {
+void OfferPage::fillTypes(const std::vector<Text>& names) {
     m_types.clear();
     for (const Text& name : names) m_types.add(name);
 }
 
-void OfferPageWindow::selectType(int type) {
+void OfferPage::selectType(int type) {
     const bool known = type >= 0 && type < m_types.count();
     m_types.select(known ? type : m_types.count() > 0 ? 0 : -1);
 }
 
-void OfferPageWindow::showOffer() {
+void OfferPage::showOffer() {
     m_offer.fill(offer(), m_services.model().FreeSpace());
 }
 
-void OfferPageWindow::refreshOfferLooks() {
+void OfferPage::refreshOfferLooks() {
     m_offer.refreshLooks(offer(), m_services.model().FreeSpace());
 }
 
-void OfferPageWindow::finish(CommandAnswer answer) {
+void OfferPage::finish(CommandAnswer answer) {
     if (answer == CommandAnswer::wrongType) {
         m_services.showMessage(texts::wrongType, MessageIcon::stop);
         return;
@@ -93,7 +93,7 @@ void OfferPageWindow::finish(CommandAnswer answer) {
     Refresh();
 }
 
-void OfferPageWindow::Refresh() {
+void OfferPage::Refresh() {
     m_services.RefreshAvailability();
     m_services.RefreshProperties();
 }

@@ -4,9 +4,9 @@
 
 #include <memory>
 
-#include "design/pages.h"
 #include "design/services.h"
 #include "tabs/CNabidka.h"
+#include "tabs/design_page.h"
 
 namespace lx {
 
@@ -22,21 +22,26 @@ struct OfferPageControls {
     int catalogue = 0;
 };
 
-class OfferPageWindow : public OfferPage {
+class OfferPage : public DesignPage {
 public:
     Dialog& window() override { return *m_window; }
     void showAvailability(const Availability& available) override;
-    void fillTypes(const std::vector<Text>& names) override;
-    void selectType(int type) override;
-    int selectedType() const override { return m_types.selected(); }
-    Text selectedTypeName() const override { return m_types.text(); }
-    void showOffer() override;
-    void refreshOfferLooks() override;
+    void fillTypes(const std::vector<Text>& names);
+    // A type outside the box selects the first one.
+    void selectType(int type);
+    // From 0; -1 when the box is empty.
+    int selectedType() const { return m_types.selected(); }
+    // Its name; empty when the box is.
+    Text selectedTypeName() const { return m_types.text(); }
+    // Fills the list with the model's offer anew and selects the entry that the model has selected.
+    void showOffer();
+    // Which entries are drawn red depends on the free space.
+    void refreshOfferLooks();
 
 protected:
     // addTooltip: a text that lasts.
-    OfferPageWindow(DesignServices& services, const DialogTemplate& layout,
-                    const OfferPageControls& controls, std::string_view addTooltip);
+    OfferPage(DesignServices& services, const DialogTemplate& layout,
+              const OfferPageControls& controls, std::string_view addTooltip);
 
     DesignServices& services() { return m_services; }
     // The model's offer that this page lists.

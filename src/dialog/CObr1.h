@@ -4,20 +4,25 @@
 
 #include <array>
 
-#include "design/CRoletka.h"
 #include "design/catalogue_choice.h"
 #include "design/dialog_settings.h"
 #include "design/library_session.h"
 #include "design/page_index.h"
-#include "design/pages.h"
 #include "design/services.h"
+#include "dialog/CRoletka.h"
+#include "preview/CObr.h"
+#include "tabs/CTabGeometrie.h"
+#include "tabs/CTabKnihovna.h"
+#include "tabs/CTabMonolit.h"
+#include "tabs/CTabOcel.h"
+#include "tabs/CTabPrefa.h"
 
 namespace lx {
 
 class CObr1 : private DesignServices {
 public:
     // Everything given must outlive the dialog.
-    CObr1(const Context& context, Owner owner, PageFactory& factory);
+    CObr1(const Context& context, Owner owner);
     ~CObr1() override;
 
     // The call's values, in and out. A and B change only when the user confirms, also when that
@@ -43,12 +48,10 @@ private:
     int Relayout() override;
     void RefreshAll() override;
     void SelectRecord(CRez* record) override;
-    void ShowTab(int index) override;
     void RefreshProperties() override;
     void RefreshAvailability() override;
     void RebuildPrecastOffer() override;
     void RebuildSteelOffer() override;
-    void ShowDesignTypes() override;
     void SetBends(int shape) override;
     void ComposePrecast() override;
     void ComposeSteel() override;
@@ -60,11 +63,16 @@ private:
     }
     bool editVisible() const override { return m_roletka->visible(); }
     EditTarget lastEdited() const override { return m_roletka->lastTarget(); }
-    void RedrawPreviews() override;
     void ShowBearing(std::int32_t bearing) override;
     void EnableConfirmation(bool on) override;
     MessageAnswer showMessage(std::string_view text, MessageIcon icon,
                               MessageButtons buttons) override;
+
+    // ---- what the services are made of
+    void ShowTab(int index);
+    // The "Typ:" boxes show the types of the design's last precast and last steel layer.
+    void ShowDesignTypes();
+    void RedrawPreviews();
 
     // ---- opening (CObr1_open.cpp), in the order of its steps
     void connect();
@@ -97,19 +105,18 @@ private:
 
     Context m_context;
     Owner m_owner;
-    PageFactory& m_factory;
     DesignModel m_model;
     DialogSettings m_settings;
     LibrarySession m_library;
     std::unique_ptr<Dialog> m_window;
     std::unique_ptr<CRoletka> m_roletka;
     // Children of the window, none until it opens; none at all when a catalogue is missing.
-    std::unique_ptr<SectionPreview> m_section;
-    std::unique_ptr<GeometryPage> m_geometry;
-    std::unique_ptr<OfferPage> m_precast;
-    std::unique_ptr<OfferPage> m_steel;
-    std::unique_ptr<MonolithPage> m_monolith;
-    std::unique_ptr<LibraryPage> m_libraryPage;
+    std::unique_ptr<CObr> m_section;
+    std::unique_ptr<CTabGeometrie> m_geometry;
+    std::unique_ptr<CTabPrefa> m_precast;
+    std::unique_ptr<CTabOcel> m_steel;
+    std::unique_ptr<CTabMonolit> m_monolith;
+    std::unique_ptr<CTabKnihovna> m_libraryPage;
     std::optional<CatalogueElement> m_browserElement;  // that the last browser showed first
     // The offers are made several times while the dialog opens; their lists are filled at its end.
     bool m_opening = false;

@@ -6,8 +6,8 @@
 #include "catalogue/catalogue_edit.h"
 #include "composition/offers.h"
 #include "composition/rules_file.h"
-#include "design/CObr1.h"
 #include "design/bend_presets.h"
+#include "dialog/CObr1.h"
 #include "resources/ids.h"
 #include "resources/menus.h"
 
@@ -56,7 +56,7 @@ void CObr1::OpenCatalogue(int request) {
     const bool steel = choice.kind == CatalogueKind::steel;
     ModuleValues& values = m_context.values;
     Catalogue& catalogue = steel ? values.steel : values.precast;
-    OfferPage& page = steel ? *m_steel : *m_precast;
+    OfferPage& page = steel ? static_cast<OfferPage&>(*m_steel) : *m_precast;
 
     BrowserRequest opened;
     opened.kind = choice.kind;

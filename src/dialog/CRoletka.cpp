@@ -1,4 +1,4 @@
-#include "design/CRoletka.h"
+#include "dialog/CRoletka.h"
 
 #include <algorithm>
 #include <utility>

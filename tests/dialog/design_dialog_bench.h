@@ -5,10 +5,9 @@
 
 #include "composition/hand_over.h"
 #include "composition/layout.h"
-#include "design/CObr1.h"
+#include "dialog/CObr1.h"
 #include "resources/icons.h"
 #include "settings/profile.h"
-#include "tabs/page_factory.h"
 #include "tests/support/bench.h"
 #include "tests/support/designs.h"
 
@@ -32,9 +31,8 @@ struct DesignDialog : testing::Test {
     }
     // Runs the dialog against the steps that bench.user() has been given.
     int run() {
-        TabFactory factory;
         const Context context{bench.platform(), bench.files(), bench.host(), values};
-        const int answer = CObr1(context, Owner{}, factory).DoModal();
+        const int answer = CObr1(context, Owner{}).DoModal();
         EXPECT_EQ(bench.user().failure(), "");
         EXPECT_EQ(values.precast, nullptr);
         return answer;

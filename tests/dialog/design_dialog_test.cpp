@@ -1,5 +1,5 @@
 // What of the design dialog no scenario tells.
-#include "tests/tabs/design_dialog_bench.h"
+#include "tests/dialog/design_dialog_bench.h"
 
 #include <filesystem>
 

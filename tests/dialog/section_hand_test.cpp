@@ -1,6 +1,6 @@
 // The user's hand in the section preview: dragging, and values typed in place.
 #include "composition/section_scale.h"
-#include "tests/tabs/design_dialog_bench.h"
+#include "tests/dialog/design_dialog_bench.h"
 
 namespace lx {
 namespace {

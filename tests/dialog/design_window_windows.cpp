@@ -2,7 +2,7 @@
 #include <windows.h>
 
 #include "resources/templates.h"
-#include "tests/tabs/design_dialog_bench.h"
+#include "tests/dialog/design_dialog_bench.h"
 
 namespace lx {
 namespace {

@@ -1,4 +1,4 @@
-#include "design/CObr1.h"
+#include "dialog/CObr1.h"
 
 #include <algorithm>
 
@@ -31,10 +31,9 @@ constexpr int propertyControls[] = {id::propertiesLabel, id::properties, id::fro
 
 }  // namespace
 
-CObr1::CObr1(const Context& context, Owner owner, PageFactory& factory)
+CObr1::CObr1(const Context& context, Owner owner)
     : m_context(context),
       m_owner(owner),
-      m_factory(factory),
       m_model(context.values),
       m_settings(context.files, context.host.dataFolder()),
       m_library(context.host, context.files) {}

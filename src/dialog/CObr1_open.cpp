@@ -3,8 +3,8 @@
 #include "catalogue/catalogue_file.h"
 #include "composition/hand_over.h"
 #include "composition/offers.h"
-#include "design/CObr1.h"
 #include "design/bubble_name.h"
+#include "dialog/CObr1.h"
 #include "resources/icons.h"
 #include "resources/ids.h"
 #include "resources/strings.h"
@@ -94,20 +94,21 @@ bool CObr1::loadCatalogueOf(CatalogueKind kind, Catalogue& catalogue, CatalogueS
 }
 
 void CObr1::makePages() {
+    DesignServices& services = *this;
     Picture& picture = m_window->get<Picture>(id::sectionPreview);
-    m_section = m_factory.makeSection(*this, picture);
+    m_section = std::make_unique<CObr>(services, picture);
     m_section->setExteriorSide(exteriorSide);
     m_context.values.sectionSize = m_section->size();
 
-    m_geometry = m_factory.makeGeometry(*this);
+    m_geometry = std::make_unique<CTabGeometrie>(services);
     m_context.values.proposedBubble = proposeBubbleName(m_settings.bubbleName());
-    m_precast = m_factory.makePrecast(*this);
-    m_steel = m_factory.makeSteel(*this);
-    m_monolith = m_factory.makeMonolith(*this);
+    m_precast = std::make_unique<CTabPrefa>(services);
+    m_steel = std::make_unique<CTabOcel>(services);
+    m_monolith = std::make_unique<CTabMonolit>(services);
     // The lock comes before the first look into the library: nobody else may then change what this
     // dialog has read.
     m_library.readOnly();
-    m_libraryPage = m_factory.makeLibrary(*this);
+    m_libraryPage = std::make_unique<CTabKnihovna>(services);
     // The area for a page is known when all tabs are there: they may take several rows.
     TabControl& tabs = m_window->get<TabControl>(id::tabs);
     for (DesignPage* one : pages()) tabs.addTab(one->window().title());
