@@ -2,11 +2,11 @@
 // input is the value.
 #include <algorithm>
 
-#include "catalogue/placement_list.h"
-#include "catalogue/resize_rules.h"
 #include "fuzz/targets.h"
 #include "settings/store.h"
 #include "tests/support/memory_files.h"
+#include "widgets/placement_list.h"
+#include "widgets/resize_rules.h"
 
 namespace lx::fuzz {
 

@@ -2,7 +2,7 @@
 // preview.
 #include <algorithm>
 
-#include "catalogue/CData6_1.h"
+#include "browser/CData6_1.h"
 #include "catalogue/catalogue_edit.h"
 #include "composition/offers.h"
 #include "composition/rules_file.h"

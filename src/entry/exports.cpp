@@ -4,7 +4,7 @@
 #include <cmath>
 #include <cstring>
 
-#include "catalogue/CData6_1.h"
+#include "browser/CData6_1.h"
 #include "dialog/CObr1.h"
 #include "entry/CLintelErase.h"
 #include "entry/merge_call.h"

@@ -4,11 +4,11 @@
 
 #include <memory>
 
-#include "catalogue/my_edit.h"
 #include "design/annotation.h"
 #include "design/services.h"
 #include "preview/CObrP.h"
 #include "tabs/design_page.h"
+#include "widgets/my_edit.h"
 
 namespace lx {
 

@@ -1,6 +1,6 @@
 #include "tabs/CTabKnihovna.h"
 
-#include "catalogue/CAddVyrobce.h"
+#include "browser/CAddVyrobce.h"
 #include "design/opening.h"
 #include "resources/strings.h"
 #include "resources/templates.h"

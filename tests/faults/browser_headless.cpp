@@ -1,6 +1,6 @@
 // A whole session of the catalogue browser. On headless windows alone: what differs on the real
 // ones is tried by the other acts, and the real ones take a hundred times as long.
-#include "catalogue/CData6_1.h"
+#include "browser/CData6_1.h"
 #include "tests/faults/operations.h"
 #include "tests/support/bench.h"
 #include "tests/support/catalogues.h"

@@ -1,4 +1,4 @@
-#include "catalogue/placement_list.h"
+#include "widgets/placement_list.h"
 
 #include <algorithm>
 

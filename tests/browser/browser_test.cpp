@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <chrono>
 
-#include "catalogue/CData6_1.h"
+#include "browser/CData6_1.h"
 #include "platform/numbers.h"
 #include "tests/support/bench.h"
 #include "tests/support/catalogues.h"

@@ -2,10 +2,10 @@
 // at once, all else on OK.
 #include <algorithm>
 
-#include "catalogue/CAddVyrobce.h"
-#include "catalogue/CData6_1.h"
-#include "catalogue/CEdDlg1.h"
-#include "catalogue/CTypPrurez.h"
+#include "browser/CAddVyrobce.h"
+#include "browser/CData6_1.h"
+#include "browser/CEdDlg1.h"
+#include "browser/CTypPrurez.h"
 #include "resources/ids.h"
 #include "resources/strings.h"
 

@@ -1,11 +1,11 @@
-#include "catalogue/CList1.h"
+#include "browser/CList1.h"
 
 #include <utility>
 
-#include "catalogue/popup_key.h"
 #include "resources/icons.h"
 #include "resources/ids.h"
 #include "resources/menus.h"
+#include "widgets/popup_key.h"
 
 namespace lx {
 

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "catalogue/catalogue_edit.h"
-#include "catalogue/field_dialog.h"
 #include "resources/strings.h"
+#include "widgets/field_dialog.h"
 
 namespace lx {
 

@@ -1,8 +1,8 @@
-#include "catalogue/CData6_1.h"
+#include "browser/CData6_1.h"
 
 #include <utility>
 
-#include "catalogue/CBaseDlg.h"
+#include "browser/CBaseDlg.h"
 #include "resources/icons.h"
 #include "resources/menus.h"
 #include "resources/strings.h"

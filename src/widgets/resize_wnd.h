@@ -4,9 +4,9 @@
 
 #include <string_view>
 
-#include "catalogue/resize_rules.h"
 #include "platform/platform.h"
 #include "settings/store.h"
+#include "widgets/resize_rules.h"
 
 namespace lx {
 

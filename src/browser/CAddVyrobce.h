@@ -1,7 +1,7 @@
 // The small dialog that asks for a name: of a catalogue type, of a project.
 #pragma once
 
-#include "catalogue/field_dialog.h"
+#include "widgets/field_dialog.h"
 
 namespace lx {
 

@@ -1,4 +1,4 @@
-#include "catalogue/CBaseDlg.h"
+#include "browser/CBaseDlg.h"
 
 #include "resources/icons.h"
 #include "resources/templates.h"

@@ -6,8 +6,8 @@
 #include <functional>
 #include <span>
 
-#include "catalogue/my_edit.h"
 #include "platform/host.h"
+#include "widgets/my_edit.h"
 
 namespace lx {
 

@@ -1,4 +1,4 @@
-#include "catalogue/my_edit.h"
+#include "widgets/my_edit.h"
 
 #include "platform/numbers.h"
 #include "resources/strings.h"

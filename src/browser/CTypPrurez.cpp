@@ -1,4 +1,4 @@
-#include "catalogue/CTypPrurez.h"
+#include "browser/CTypPrurez.h"
 
 #include <iterator>
 

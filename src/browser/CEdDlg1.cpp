@@ -1,4 +1,4 @@
-#include "catalogue/CEdDlg1.h"
+#include "browser/CEdDlg1.h"
 
 #include "resources/templates.h"
 

@@ -1,13 +1,13 @@
-#include "catalogue/CList2Ctrl.h"
+#include "browser/CList2Ctrl.h"
 
 #include <algorithm>
 #include <numeric>
 
 #include "catalogue/item_cells.h"
-#include "catalogue/popup_key.h"
 #include "resources/ids.h"
 #include "resources/menus.h"
 #include "resources/strings.h"
+#include "widgets/popup_key.h"
 
 namespace lx {
 

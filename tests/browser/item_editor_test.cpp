@@ -1,8 +1,8 @@
 // The item editor and the dialog for a new steel type as a user meets them.
 #include <gtest/gtest.h>
 
-#include "catalogue/CEdDlg1.h"
-#include "catalogue/CTypPrurez.h"
+#include "browser/CEdDlg1.h"
+#include "browser/CTypPrurez.h"
 #include "tests/support/bench.h"
 
 namespace lx {

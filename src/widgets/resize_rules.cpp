@@ -1,4 +1,4 @@
-#include "catalogue/resize_rules.h"
+#include "widgets/resize_rules.h"
 
 #include <algorithm>
 #include <utility>

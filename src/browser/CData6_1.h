@@ -6,12 +6,12 @@
 #include <optional>
 #include <vector>
 
-#include "catalogue/CList1.h"
-#include "catalogue/CList2Ctrl.h"
+#include "browser/CList1.h"
+#include "browser/CList2Ctrl.h"
 #include "catalogue/catalogue_edit.h"
 #include "catalogue/catalogue_session.h"
 #include "catalogue/column_settings.h"
-#include "catalogue/resize_wnd.h"
+#include "widgets/resize_wnd.h"
 
 namespace lx {
 

@@ -1,4 +1,4 @@
-#include "catalogue/field_dialog.h"
+#include "widgets/field_dialog.h"
 
 #include <list>
 

@@ -1,5 +1,5 @@
 // Edge rules, dividers and stored placements in numbers.
-#include "catalogue/resize_rules.h"
+#include "widgets/resize_rules.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@
 #include <map>
 #include <set>
 
-#include "catalogue/placement_list.h"
+#include "widgets/placement_list.h"
 
 namespace lx {
 

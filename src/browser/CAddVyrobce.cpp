@@ -1,4 +1,4 @@
-#include "catalogue/CAddVyrobce.h"
+#include "browser/CAddVyrobce.h"
 
 #include "resources/templates.h"
 

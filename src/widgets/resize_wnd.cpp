@@ -1,7 +1,7 @@
-#include "catalogue/resize_wnd.h"
+#include "widgets/resize_wnd.h"
 
-#include "catalogue/placement_list.h"
 #include "platform/numbers.h"
+#include "widgets/placement_list.h"
 
 namespace lx {
 

@@ -2,7 +2,7 @@
 // keeps the shape.
 #pragma once
 
-#include "catalogue/field_dialog.h"
+#include "widgets/field_dialog.h"
 
 namespace lx {
 
