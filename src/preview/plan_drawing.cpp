@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "preview/plan_records.h"
+#include "preview/plan_sheet.h"
 #include "resources/strings.h"
 
 namespace lx {

@@ -2,14 +2,13 @@
 
 #include "design/value_commit.h"
 #include "platform/numbers.h"
-#include "preview/plan_records.h"
+#include "preview/plan_sheet.h"
 
 namespace lx {
 
 namespace {
 
 constexpr Pen wallPen{previewMagenta, 1};
-constexpr Pen dimensionPen{previewGrey, 1};
 
 constexpr int wallMargin = 10;  // px from the ends of the wall to the sides of the preview
 constexpr int secondFace = 3;   // px that the second face is drawn below its place
@@ -73,13 +72,7 @@ void drawLevel(PlanSheet& sheet, const CRez& head, int x, int face) {
     const Size size = sheet.canvas.measure(text);
     const Point p{x - 40 - size.height, face + 40};
     sheet.canvas.drawText(p, text);
-    sheet.regions.push_back({true,
-                             region::planLevel,
-                             {&head, EditField::height},
-                             p.x,
-                             p.y - size.width,
-                             size.height,
-                             size.width});
+    sheet.addUprightRegion(true, region::planLevel, {&head, EditField::height}, p, size);
 }
 
 void drawFoldedHead(PlanSheet& sheet, const CRez& head) {
@@ -122,8 +115,7 @@ void drawOverhang(PlanSheet& sheet, const CRez& head) {
     const Point p{sheet.jamb.x - size.width, sheet.client.height - overhangText};
     sheet.canvas.drawText(p, text);
     if (!sheet.overhangEditable) return;
-    sheet.regions.push_back(
-        {true, region::number, {&head, EditField::maxOpening}, p.x, p.y, size.width, size.height});
+    sheet.addRegion(true, region::number, {&head, EditField::maxOpening}, p, size);
 }
 
 }  // namespace

@@ -1,5 +1,4 @@
-#include "preview/plan_records.h"
-#include "preview/plan_zigzag.h"
+#include "preview/plan_sheet.h"
 
 namespace lx {
 
@@ -134,7 +133,7 @@ void PlanLayer::drawInsulation() {
     m_sheet.line(
         {start, m_sheet.folded(m_bottom, m_far), m_sheet.folded(m_top, m_far), end, start});
     const int step = truncatedPixel(m_layer.width * m_sheet.scale / 2.0);
-    drawPlanZigzag(m_sheet.canvas, start, end.x, step, m_sheet.client.width);
+    m_sheet.zigzag(start, end.x, step, m_sheet.client.width, false);
 }
 
 // Edges along the upper wall face stay a pixel clear of it.

@@ -1,5 +1,5 @@
-// What the parts of the plan drawing share beside the sheet: what is to be seen, and the ways from
-// millimetres to pixels.
+// What the parts of the plan drawing share beside the sheet: what is to be seen, the ways from
+// millimetres to pixels, and the records drawn those ways.
 #pragma once
 
 #include "preview/plan_drawing.h"
@@ -26,5 +26,12 @@ struct PlanSheet : Sheet {
 };
 
 PlanSheet planSheet(Canvas& canvas, const PlanInput& input);
+
+// Wall faces, jambs and dimensions; in the folded section the bent bottom and the level. Regions of
+// the level and the overhang.
+void drawPlanHead(PlanSheet& sheet, const CRez& head);
+
+// The layer's strip along the wall, and its shape in the folded section.
+void drawPlanLayer(PlanSheet& sheet, const CRez& layer, bool current);
 
 }  // namespace lx

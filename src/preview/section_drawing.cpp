@@ -7,7 +7,7 @@
 #include "design/designation.h"
 #include "design/opening.h"
 #include "platform/numbers.h"
-#include "preview/section_records.h"
+#include "preview/section_sheet.h"
 #include "resources/strings.h"
 
 namespace lx {
@@ -70,8 +70,7 @@ void drawLayerNames(SectionSheet& sheet, const CRez& head) {
         const int y = saturated(sheet.height - line * linesUp--);
         sheet.canvas.drawText({left, y}, name);
         const Size size = sheet.canvas.measure(name);
-        sheet.regions.push_back(
-            {false, region::layerName, {layer}, left, y, size.width, size.height});
+        sheet.addRegion(false, region::layerName, {layer}, {left, y}, size);
     }
 }
 

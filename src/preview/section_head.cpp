@@ -1,5 +1,5 @@
 #include "platform/numbers.h"
-#include "preview/section_records.h"
+#include "preview/section_sheet.h"
 
 namespace lx {
 
@@ -7,7 +7,6 @@ namespace {
 
 constexpr Pen breakPen{previewMagenta, 1};
 constexpr Pen outlinePen{previewMagenta, 3};
-constexpr Pen dimensionPen{previewGrey, 1};
 
 // Pixels from the top: where the wall breaks off, over the first and over the second face.
 constexpr int breakLeft = 10;
@@ -77,7 +76,7 @@ void drawRun(SectionSheet& sheet, const CZalom& bend, const EditTarget& target, 
     sheet.canvas.drawText(p, text);
     // A flagged run always reaches the second wall face.
     if (bend.flag) return;
-    sheet.regions.push_back({true, region::number, target, p.x, p.y, size.width, size.height});
+    sheet.addRegion(true, region::number, target, p, size);
 }
 
 void drawStep(SectionSheet& sheet, const CZalom& bend, const EditTarget& target, std::int64_t end) {
@@ -87,8 +86,7 @@ void drawStep(SectionSheet& sheet, const CZalom& bend, const EditTarget& target,
     const Size size = sheet.canvas.measure(text);
     const Point p{sheet.x(end) - size.height / 2, sheet.height - stepText};
     sheet.canvas.drawText(p, std::string_view(text).substr(bend.step < 0 ? 1 : 0));
-    sheet.regions.push_back(
-        {false, region::number, target, p.x, p.y - size.width, size.height, size.width});
+    sheet.addUprightRegion(false, region::number, target, p, size);
 }
 
 void drawBendDimensions(SectionSheet& sheet, const CRez& head, const CZalom& bend, int index,

@@ -1,6 +1,5 @@
 #include "platform/numbers.h"
-#include "preview/section_records.h"
-#include "preview/section_zigzag.h"
+#include "preview/section_sheet.h"
 #include "resources/icons.h"
 #include "resources/strings.h"
 
@@ -108,7 +107,7 @@ void LayerDrawing::drawInsulation() {
     const auto& [left, top, right, bottom] = m_area;
     m_sheet.line({{left, bottom}, {right, bottom}, {right, top}, {left, top}, {left, bottom}});
     const int step = truncatedPixel(m_layer.width * m_sheet.scale.scale / 2.0);
-    drawZigzag(m_sheet.canvas, {left, bottom}, top, step, m_sheet.height);
+    m_sheet.zigzag({left, bottom}, top, step, m_sheet.height, true);
 }
 
 void LayerDrawing::drawMirrorButton(Size size) {
@@ -118,8 +117,7 @@ void LayerDrawing::drawMirrorButton(Size size) {
                                  static_cast<double>(middle) * m_sheet.scale.scale - half);
     const int y = m_area.top - mirrorAbove;
     m_sheet.canvas.drawIcon(icon::mirror, {x, y}, size);
-    m_sheet.regions.push_back(
-        {false, region::mirror, {&m_layer, EditField::kind}, x, y, size.width, size.height});
+    m_sheet.addRegion(false, region::mirror, {&m_layer, EditField::kind}, {x, y}, size);
 }
 
 // Answers the height of the line.
@@ -130,7 +128,7 @@ int LayerDrawing::drawValue(int y, int word, std::int32_t value, int kind, EditF
     const Text number = formatInt(value);
     const Size size = canvas.measure(number);
     canvas.drawText({x, y}, number);
-    m_sheet.regions.push_back({true, kind, {&m_layer, field}, x, y, size.width, size.height});
+    m_sheet.addRegion(true, kind, {&m_layer, field}, {x, y}, size);
     return size.height;
 }
 

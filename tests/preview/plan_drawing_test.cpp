@@ -3,7 +3,7 @@
 #include "composition/layout.h"
 #include "composition/section_scale.h"
 #include "design/overhang.h"
-#include "preview/plan_zigzag.h"
+#include "preview/sheet.h"
 #include "tests/preview/drawings.h"
 
 namespace lx {
@@ -111,7 +111,7 @@ TEST(PlanDrawing, NoNumberMakesItLong) {
 
 std::string zigzag(int start, int end, int step) {
     RecordingCanvas canvas;
-    drawPlanZigzag(canvas, {start, 90}, end, step, 300);
+    Sheet{canvas, {}}.zigzag({start, 90}, end, step, 300, false);
     return canvas.asText();
 }
 

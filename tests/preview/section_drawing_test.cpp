@@ -2,7 +2,7 @@
 
 #include "composition/layout.h"
 #include "composition/section_scale.h"
-#include "preview/section_zigzag.h"
+#include "preview/sheet.h"
 #include "tests/preview/drawings.h"
 
 namespace lx {
@@ -110,7 +110,7 @@ TEST(SectionDrawing, NoNumberMakesItLong) {
 
 std::string zigzag(int start, int top, int step) {
     RecordingCanvas canvas;
-    drawZigzag(canvas, {5, start}, top, step, 300);
+    Sheet{canvas, {}}.zigzag({5, start}, top, step, 300, true);
     return canvas.asText();
 }
 
