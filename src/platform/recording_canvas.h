@@ -1,4 +1,5 @@
-// A canvas that keeps what is drawn on it, with fixed text metrics, and can tell it as text or SVG.
+// A canvas that keeps what is drawn on it, with the text metrics of font_metrics.h, and can tell it
+// as text (recording_text.cpp) or SVG (recording_svg.cpp).
 #pragma once
 
 #include <functional>
@@ -28,12 +29,8 @@ public:
     void lineTo(Point p) override;
     void fillRect(const Rect& area, Color color) override;
     void drawText(Point p, std::string_view text) override;
-    Size measure(std::string_view text) override { return measure(m_font, text); }
+    Size measure(std::string_view text) override;
     void drawIcon(int number, Point p, Size size) override;
-
-    // What measure answers for a font: each character has its share of the height, narrow, normal
-    // or wide; a font with a width of its own scales them.
-    static Size measure(const Font& font, std::string_view text);
 
     // UTF-8, one operation a line, such as
     //   pen 255,153,153 width 4 solid

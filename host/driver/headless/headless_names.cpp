@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "platform/recording_canvas.h"
+#include "platform/font_metrics.h"
 
 namespace lx::host {
 
@@ -121,7 +121,7 @@ bool isFrame(const HeadlessControl& control) {
 int neededWidth(const HeadlessControl& control) {
     Font font;
     font.dialogFont = true;
-    const int text = RecordingCanvas::measure(font, control.plainText()).width;
+    const int text = measuredText(font, control.plainText()).width;
     switch (control.kind()) {
         case ControlKind::label:
             return text;

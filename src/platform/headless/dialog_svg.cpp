@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/font_metrics.h"
 #include "platform/headless/headless_platform.h"
 #include "platform/numbers.h"
 
@@ -24,7 +25,7 @@ Font dialogFont() {
 }
 
 int textWidth(std::string_view text) {
-    return RecordingCanvas::measure(dialogFont(), text).width;
+    return measuredText(dialogFont(), text).width;
 }
 
 // Draws in the coordinates of the area that it was made for; what sticks out is cut off.
