@@ -5,6 +5,7 @@
 #include "composition/layout.h"
 #include "composition/section_scale.h"
 #include "design/availability.h"
+#include "design/description.h"
 #include "platform/recording_canvas.h"
 #include "preview/section_drawing.h"
 #include "tests/support/designs.h"
@@ -21,14 +22,19 @@ RezChain designOf(std::int64_t layers) {
     RezChain design;
     CRez& head = *design.append(headOf(static_cast<std::int32_t>(layers) * width, "001"));
     head.length = 1200;
+    std::unique_ptr<CZalom>* end = &head.bends;
+    const auto addBend = [&end](std::int32_t run, std::int32_t step, bool flag) {
+        *end = std::make_unique<CZalom>(run, step, flag);
+        end = &(*end)->next;
+    };
     for (std::int64_t i = 0; i < layers; ++i) {
-        if (i % 2 == 1) head.addBend(2 * width, i % 4 == 1 ? 50 : -50, false);
+        if (i % 2 == 1) addBend(2 * width, i % 4 == 1 ? 50 : -50, false);
         const std::int32_t kind = i % 5 == 4 ? kind::insulation : i % 5 == 2 ? kind::beam : 0;
         CRez& added = *design.append(layer(kind, width, "KPV 7/145"));
         added.height = 238;
         added.length = 1450;
     }
-    head.addBend(0, 60, true);
+    addBend(0, 60, true);
     layOut(head);
     settleSection(head, preview);
     return design;
@@ -58,6 +64,31 @@ void layout(benchmark::State& state) {
     }
 }
 
+// A layer under each bend, the runs in no order, as no user has them but a file may.
+void hugeLayout(benchmark::State& state) {
+    RezChain design = designOf(2 * state.range(0));
+    CRez& head = *design.head();
+    std::uint32_t random = 1;
+    for (CZalom* bend = head.bends.get(); bend; bend = bend->next.get()) {
+        random = random * 1664525 + 1013904223;
+        bend->run = static_cast<std::int32_t>(random >> 22) - 512 + 140;
+    }
+    for (CRez* one = head.next; one; one = one->next) {
+        if (one->kind == kind::precast) one->kind = kind::monolith;
+    }
+    for (auto _ : state) {
+        layOut(head);
+        settleSection(head, preview);
+        benchmark::DoNotOptimize(descriptionSummary(head));
+        benchmark::ClobberMemory();
+    }
+}
+
+void manyBends(benchmark::internal::Benchmark* measured) {
+    measured->Unit(benchmark::kMillisecond);
+    for (const int size : {1000, 10000, 100000}) measured->Arg(size);
+}
+
 void manyLayers(benchmark::internal::Benchmark* measured) {
     measured->Unit(benchmark::kMicrosecond);
     for (const int size : {5, 10, 20, 40, 80, 160}) measured->Arg(size);
@@ -65,5 +96,6 @@ void manyLayers(benchmark::internal::Benchmark* measured) {
 
 BENCHMARK(draw)->Name("draw/module")->Apply(manyLayers);
 BENCHMARK(layout)->Name("layout/module")->Apply(manyLayers);
+BENCHMARK(hugeLayout)->Name("huge/module")->Apply(manyBends);
 
 }  // namespace

@@ -1,6 +1,8 @@
 #include "composition/layout.h"
 
 #include <algorithm>
+#include <limits>
+#include <numeric>
 
 #include "composition/saturate.h"
 
@@ -29,9 +31,74 @@ std::int64_t nesting(const CRez& layer, const CRez* previous) {
     }
 }
 
+// The head up to a bend, from the one before.
+struct HeadPart {
+    std::int64_t end = 0;       // mm from the first wall face; runs of a file may lead back
+    std::int64_t farthest = 0;  // of the ends up to this one
+    std::int32_t level = 0;     // mm
+};
+
+std::size_t bendCount(const CZalom* bend) {
+    std::size_t count = 0;
+    for (; bend; bend = bend->next.get()) ++count;
+    return count;
+}
+
+// The last part, behind all bends, ends behind every layer.
+std::vector<HeadPart> headParts(const CZalom* bends) {
+    constexpr std::int64_t endless = std::numeric_limits<std::int64_t>::max();
+    std::vector<HeadPart> parts;
+    parts.reserve(bendCount(bends) + 1);
+    std::int64_t end = 0;
+    std::int64_t farthest = std::numeric_limits<std::int64_t>::min();
+    std::int64_t level = 0;
+    for (const CZalom* bend = bends; bend; bend = bend->next.get()) {
+        end += bend->run;
+        farthest = std::max(farthest, end);
+        parts.push_back({end, farthest, saturated(level)});
+        level += bend->step;
+    }
+    parts.push_back({endless, endless, saturated(level)});
+    return parts;
+}
+
+// The highest level put in at any of the places up to one, each in a logarithm of their number
+// (a Fenwick tree).
+class HighestUpTo {
+public:
+    explicit HighestUpTo(std::size_t places) : m_highest(places, lowest) {}
+
+    void put(std::size_t place, std::int32_t level) {
+        for (; place < m_highest.size(); place |= place + 1) {
+            m_highest[place] = std::max(m_highest[place], level);
+        }
+    }
+    std::int32_t upTo(std::size_t place) const {
+        std::int32_t highest = lowest;
+        for (++place; place > 0; place &= place - 1) {
+            highest = std::max(highest, m_highest[place - 1]);
+        }
+        return highest;
+    }
+
+private:
+    static constexpr std::int32_t lowest = -9999;  // mm; no level is found below it
+    std::vector<std::int32_t> m_highest;
+};
+
+// Indices in the order of decreasing values.
+template <class ValueAt>
+std::vector<std::uint32_t> fromTheFarthest(std::size_t count, ValueAt valueAt) {
+    std::vector<std::uint32_t> order(count);
+    std::iota(order.begin(), order.end(), 0U);
+    std::sort(order.begin(), order.end(),
+              [&](std::uint32_t a, std::uint32_t b) { return valueAt(a) > valueAt(b); });
+    return order;
+}
+
 }  // namespace
 
-void layOut(CRez& head) {
+void placeLayers(CRez& head) {
     std::int64_t x = 0;
     std::int64_t floor = 0;  // no catalogue element starts before it
     const CRez* previous = nullptr;
@@ -40,26 +107,42 @@ void layOut(CRez& head) {
         x -= nesting(*layer, previous);
         if (x < floor && layer->kind < kind::special) x = floor;
         layer->offset = saturated(x);
-        layer->level = levelAbove(head.bends.get(), layer->offset, layer->width);
         x += layer->width;
         previous = layer;
     }
 }
 
-std::int32_t levelAbove(const CZalom* bends, std::int32_t x, std::int32_t width) {
-    const std::int64_t end = std::int64_t{x} + width;
-    std::int64_t level = 0;
-    std::int64_t best = -9999;
-    std::int64_t position = 0;
-    for (const CZalom* bend = bends; bend; bend = bend->next.get()) {
-        position += bend->run;
-        if (position > x) {
-            best = std::max(best, level);
-            if (position >= end) return saturated(best);
+// A layer lies under the parts that end behind its beginning, up to the first one that reaches its
+// end. Layers are taken from the last in the wall to the first, and parts join from the farthest
+// on, so that those that have joined are those that end behind the beginning.
+std::vector<std::int32_t> levelsAbove(const CRez& head) {
+    std::vector<const CRez*> layers;
+    for (const CRez* layer = head.next; layer; layer = layer->next) layers.push_back(layer);
+    const std::vector<HeadPart> parts = headParts(head.bends.get());
+    const auto ends = fromTheFarthest(parts.size(), [&](std::size_t i) { return parts[i].end; });
+    auto joining = ends.begin();
+    HighestUpTo joined(parts.size());
+    std::vector<std::int32_t> levels(layers.size());
+    for (const std::uint32_t i :
+         fromTheFarthest(layers.size(), [&](std::size_t k) { return layers[k]->offset; })) {
+        const std::int64_t begin = layers[i]->offset;
+        const std::int64_t end = std::max(begin + layers[i]->width, begin + 1);
+        for (; joining != ends.end() && parts[*joining].end > begin; ++joining) {
+            joined.put(*joining, parts[*joining].level);
         }
-        level += bend->step;
+        const auto reaching =
+            std::partition_point(parts.begin(), parts.end(),
+                                 [end](const HeadPart& part) { return part.farthest < end; });
+        levels[i] = joined.upTo(static_cast<std::size_t>(reaching - parts.begin()));
     }
-    return saturated(std::max(best, level));
+    return levels;
+}
+
+void layOut(CRez& head) {
+    placeLayers(head);
+    const std::vector<std::int32_t> levels = levelsAbove(head);
+    auto level = levels.begin();
+    for (CRez* layer = head.next; layer; layer = layer->next) layer->level = *level++;
 }
 
 std::int32_t freeSpace(const CRez& head) {

@@ -2,14 +2,19 @@
 // space.
 #pragma once
 
+#include <vector>
+
 #include "composition/records.h"
 
 namespace lx {
 
 // Computes offset and level of every layer behind the head. The head's own offset and level stay.
 void layOut(CRez& head);
-// Highest level of the bent head over the layer's part of the wall, mm; x and width in mm.
-std::int32_t levelAbove(const CZalom* bends, std::int32_t x, std::int32_t width);
+// The offsets alone.
+void placeLayers(CRez& head);
+// For each layer in order: the highest level of the bent head over the part of the wall where it
+// lies, mm.
+std::vector<std::int32_t> levelsAbove(const CRez& head);
 // Wall thickness minus the end of the last layer, mm; may be negative.
 std::int32_t freeSpace(const CRez& head);
 int LayerCount(const CRez& head);

@@ -30,22 +30,16 @@ std::int64_t lowestLevel(const CZalom* bends) {
     return lowest;
 }
 
-// A cast part reaches down to the lowest point of the head. The lift of a layer on a sloping step
-// depends on the size of the preview, so it does not count: the description must not.
-std::int64_t castHeight(const CRez& layer, const CZalom* bends, std::int64_t lowest) {
-    const std::int32_t level = levelAbove(bends, layer.offset, layer.width);
-    return std::int64_t{layer.height} + level - lowest;
-}
-
-// One line of the summary, without its count.
-Text layerLabel(const CRez& layer, const CZalom* bends, std::int64_t lowest) {
+// One line of the summary, without its count. A cast part reaches down to the lowest point of the
+// head, that far below the head over it, mm.
+Text layerLabel(const CRez& layer, std::int64_t downToLowest) {
     Text label = shownDesignation(layer);
     if (layer.kind == kind::insulation) {
         label += sizeSuffix(layer.width, layer.height, layer.length);
     } else if (isSteel(layer.kind)) {
         label += fillIn(lengthFormat, {formatInt(layer.length)});
     } else if (layer.kind == kind::monolith) {
-        label += sizeSuffix(layer.width, castHeight(layer, bends, lowest), layer.length);
+        label += sizeSuffix(layer.width, layer.height + downToLowest, layer.length);
     }
     return label;
 }
@@ -53,8 +47,11 @@ Text layerLabel(const CRez& layer, const CZalom* bends, std::int64_t lowest) {
 }  // namespace
 
 Text descriptionSummary(const CRez& head) {
-    const CZalom* bends = head.bends.get();
-    const std::int64_t lowest = lowestLevel(bends);
+    // The lift of a layer on a sloping step depends on the size of the preview, so it does not
+    // count: the description must not.
+    const std::vector<std::int32_t> levels = levelsAbove(head);
+    auto level = levels.begin();
+    const std::int64_t lowest = lowestLevel(head.bends.get());
     Text summary;
     Text group;
     int count = 0;
@@ -65,8 +62,9 @@ Text descriptionSummary(const CRez& head) {
         summary += group;
     };
     for (const CRez* layer = head.next; layer != nullptr; layer = layer->next) {
+        const std::int64_t downToLowest = *level++ - lowest;
         if (layer->kind == kind::space) continue;
-        Text label = layerLabel(*layer, bends, lowest);
+        Text label = layerLabel(*layer, downToLowest);
         if (count > 0 && label == group) {
             ++count;
             continue;

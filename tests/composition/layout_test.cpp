@@ -2,10 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <chrono>
 #include <limits>
 #include <vector>
 
+#include "composition/saturate.h"
+#include "composition/section_scale.h"
 #include "tests/support/designs.h"
+#include "tests/support/random_records.h"
 
 namespace lx {
 namespace {
@@ -61,20 +66,83 @@ TEST(Layout, LayersNestAsTheirShapesAllow) {
     }
 }
 
+// By the steps of the rule, one bend after another.
+std::int32_t levelByTheRule(const CZalom* bends, std::int64_t x, std::int64_t width) {
+    std::int64_t level = 0;
+    std::int64_t best = -9999;
+    std::int64_t position = 0;
+    for (const CZalom* bend = bends; bend; bend = bend->next.get()) {
+        position += bend->run;
+        if (position > x) {
+            best = std::max(best, level);
+            if (position >= x + width) return saturated(best);
+        }
+        level += bend->step;
+    }
+    return saturated(std::max(best, level));
+}
+
+std::vector<std::int32_t> levelsOf(const CRez& head) {
+    std::vector<std::int32_t> levels;
+    for (const CRez* one = head.next; one; one = one->next) levels.push_back(one->level);
+    return levels;
+}
+
 TEST(Layout, ALayerLiesAboveTheHighestPartOfTheHeadUnderIt) {
     RezChain design;
     CRez* head = design.append(headOf(300));
-    EXPECT_EQ(levelAbove(nullptr, 10, 20), 0);
-    head->addBend(150, 100, false);
-    EXPECT_EQ(levelAbove(head->bends.get(), 0, 150), 0);
-    EXPECT_EQ(levelAbove(head->bends.get(), 0, 151), 100);
-    EXPECT_EQ(levelAbove(head->bends.get(), 150, 10), 100);
-    head->addBend(50, -300, true);
     for (const int width : {160, 40, 10}) design.append(layer(kind::precast, width));
     layOut(*head);
-    EXPECT_EQ(head->next->level, 100);
-    EXPECT_EQ(head->next->next->level, 100);
-    EXPECT_EQ(design.last()->level, -200);
+    EXPECT_EQ(levelsOf(*head), (std::vector<std::int32_t>{0, 0, 0}));
+    head->addBend(160, 100, false);
+    layOut(*head);
+    EXPECT_EQ(levelsOf(*head), (std::vector<std::int32_t>{0, 100, 100}));
+    head->bends->run = 159;
+    head->addBend(41, -300, true);
+    layOut(*head);
+    EXPECT_EQ(levelsOf(*head), (std::vector<std::int32_t>{100, 100, -200}));
+    EXPECT_EQ(levelsAbove(*head), levelsOf(*head));
+
+    // Runs that lead back, widths below 0, numbers at the ends of their range.
+    RandomRecords random(14);
+    for (int round = 0; round < 3000; ++round) {
+        const int span = round % 3 == 0 ? 30 : 300;
+        const auto number = [&](int from) {
+            return round % 4 == 0 && random.oneIn(4) ? random.number() : from + random.below(span);
+        };
+        RezChain any;
+        CRez& top = *any.append(headOf(300));
+        for (int bends = random.below(9); bends > 0; --bends) {
+            top.addBend(number(round % 2 == 0 ? -span / 2 : 0), number(-span / 2), false);
+        }
+        for (int layers = random.below(7); layers > 0; --layers) {
+            any.append(layer(random.oneIn(3) ? kind::insulation : kind::angleMirrored,
+                             number(round % 5 == 0 ? -span / 2 : 0)));
+        }
+        layOut(top);
+        for (const CRez* one = top.next; one; one = one->next) {
+            ASSERT_EQ(one->level, levelByTheRule(top.bends.get(), one->offset, one->width))
+                << round << ": " << bendsOf(top) << "; " << one->offset << " " << one->width;
+        }
+    }
+}
+
+// A design as a file may hold it, a layer under each bend.
+TEST(Layout, HugeDesignsTakeNoTime) {
+    constexpr int many = 100000;
+    RezChain design;
+    CRez& head = *design.append(headOf(many));
+    std::unique_ptr<CZalom>* end = &head.bends;
+    for (int i = 0; i < many; ++i) {
+        *end = std::make_unique<CZalom>(i % 3, i % 7 - 3, i + 1 == many);
+        end = &(*end)->next;
+        design.append(layer(kind::precast, 1));
+    }
+    const auto start = std::chrono::steady_clock::now();
+    layOut(head);
+    settleSection(head, {480, 400});
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
+    EXPECT_EQ(head.bends->next->run, 1);
 }
 
 TEST(Layout, AnyNumberFromAFileIsBorne) {

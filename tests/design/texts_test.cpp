@@ -1,6 +1,8 @@
 // What the dialog writes about a design: description and properties.
 #include <gtest/gtest.h>
 
+#include <chrono>
+
 #include "composition/layout.h"
 #include "design/description.h"
 #include "design/properties_text.h"
@@ -51,6 +53,23 @@ TEST(Description, ACastPartReachesDownToTheLowestPointOfTheHead) {
     EXPECT_EQ(descriptionSummary(*head), "1 x MONOLIT 300/600 - dl.1200");
     cast->name.reset();
     EXPECT_EQ(descriptionSummary(*head), "1 x  300/600 - dl.1200");
+
+    // Each under its own part of the head, and as many as a file may hold.
+    design.insertAfter(head, layer(kind::space, 100));
+    cast->width = 100;
+    layOut(*head);
+    EXPECT_EQ(descriptionSummary(*head), "1 x  100/600 - dl.1200");
+    std::unique_ptr<CZalom>* end = &head->bends->next->next;
+    for (int i = 0; i < 100000; ++i) {
+        *end = std::make_unique<CZalom>(1, 0, false);
+        end = &(*end)->next;
+        design.append(element(kind::monolith, "MONOLIT", 1, 300, 1200));
+    }
+    layOut(*head);
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_EQ(descriptionSummary(*head),
+              "1 x  100/600 - dl.1200\r\n100000 x MONOLIT 1/300 - dl.1200");
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
 }
 
 TEST(Properties, DescribeTheCurrentRecordAndTheOfferedElement) {
