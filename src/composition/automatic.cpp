@@ -1,5 +1,6 @@
 #include "composition/automatic.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "composition/bearing.h"
@@ -15,6 +16,7 @@ namespace {
 constexpr int mostRepeated = 20;             // layers of the chosen element
 constexpr std::int64_t insulationFrom = 20;  // mm of room
 constexpr int mostDigits = 9;                // of a number in a rule
+constexpr int mostByRule = 20000;            // layers; more would keep the user waiting
 
 CRez* appendCopy(RezChain& design, const CRez& element) {
     return design.append(std::make_unique<CRez>(element));
@@ -24,12 +26,12 @@ void removeLayers(RezChain& design) {
     while (design.head()->next != nullptr) design.unlink(design.head()->next);
 }
 
-// Laid out after each copy: it has no place of its own before, and the free space would be wrong.
+// Placed after each copy: it has no place of its own before, and the free space would be wrong.
 void repeat(RezChain& design, const CRez& element) {
     CRez& head = *design.head();
     for (int i = 0; i < mostRepeated && freeSpace(head) >= element.width; ++i) {
         appendCopy(design, element);
-        layOut(head);
+        placeLayers(head);
     }
 }
 
@@ -66,9 +68,42 @@ const CRez& elementX(const CRez& chosen) {
     return *element;
 }
 
+// Adds layers to a design until there are as many as a rule may make.
+class RuleLayers {
+public:
+    explicit RuleLayers(RezChain& design) : m_design(design) {}
+
+    // Null when there are enough.
+    CRez* add(const CRez& element) {
+        if (m_count == mostByRule) return nullptr;
+        ++m_count;
+        return appendCopy(m_design, element);
+    }
+
+private:
+    RezChain& m_design;
+    int m_count = 0;
+};
+
+// The layers that a character of a rule stands for; false when there are enough.
+bool addByRule(RuleLayers& layers, char c, const CRez& x, const CRez& chosen,
+               std::span<const CRez* const> listed) {
+    if (c == 'X') return layers.add(x) != nullptr;
+    if (c == 'I' || c == 'M') {
+        CRez* added = layers.add(chosen);
+        if (added) makeSpecial(*added, c == 'I' ? kind::insulation : kind::space);
+        return added != nullptr;
+    }
+    return std::all_of(listed.begin(), listed.end(), [&](const CRez* element) {
+        return element->letter != c || layers.add(*element) != nullptr;
+    });
+}
+
+// Ends where it would add one layer too many.
 void followRule(RezChain& design, std::string_view rule, const CRez& chosen,
                 std::span<const CRez* const> listed) {
     const CRez& x = elementX(chosen);
+    RuleLayers layers(design);
     CollectedNumber number;
     for (const char c : rule) {
         if (isDigit(c)) {
@@ -77,14 +112,8 @@ void followRule(RezChain& design, std::string_view rule, const CRez& chosen,
             design.last()->width = number.take();
         } else if (c == '}') {
             design.last()->height = number.take();
-        } else if (c == 'X') {
-            appendCopy(design, x);
-        } else if (c == 'I' || c == 'M') {
-            makeSpecial(*appendCopy(design, chosen), c == 'I' ? kind::insulation : kind::space);
-        } else if (c >= 'A' && c <= 'Z') {
-            for (const CRez* element : listed) {
-                if (element->letter == c) appendCopy(design, *element);
-            }
+        } else if (c >= 'A' && c <= 'Z' && !addByRule(layers, c, x, chosen, listed)) {
+            return;
         }
     }
 }

@@ -10,9 +10,9 @@
 
 namespace lx {
 
-// By the rules file, or else the chosen lintel repeated with insulation at the first wall face.
-// chosen: in its offer chain, whose order decides which element X stands for. listed: the offer in
-// the order of its list, in which the other letters are looked for.
+// By the rules file, to 20,000 layers at most, or else the chosen lintel repeated with insulation
+// at the first wall face. chosen: in its offer chain, whose order decides which element X stands
+// for. listed: the offer in the order of its list, in which the other letters are looked for.
 CRez* composePrecast(RezChain& design, const CRez* chosen, std::span<const CRez* const> listed,
                      const Profile& rules);
 // The chosen section repeated behind insulation into which the first one nests. An open section is

@@ -189,6 +189,19 @@ TEST_F(Automatic, NumbersOfARuleGoToTheLastRecord) {
     EXPECT_EQ(design.last()->height, 0);
 }
 
+TEST_F(Automatic, ARuleEndsAtTwentyThousandLayers) {
+    for (int i = 0; i < 100; ++i) offered("K", 50, 'A');
+    for (const char* more : {"5]M7]", "5]I", "5]X7]", "5]AM7]"}) {
+        ruleFor("K", std::string(200, 'A') + more);
+        compose(listed.front());
+        EXPECT_EQ(LayerCount(*design.head()), 20000) << more;
+        EXPECT_TRUE(namesOf(design).ends_with("K 50;K 5;")) << more;
+    }
+    ruleFor("K", std::string(199, 'A') + "M7]");
+    compose(listed.front());
+    EXPECT_EQ(LayerCount(*design.head()), 19901);
+}
+
 TEST_F(Automatic, WithoutAnElementOrADesignNothingHappens) {
     const Bytes before = designBytes(design.head());
     EXPECT_FALSE(compose(nullptr) || composeSteel(design, nullptr));
