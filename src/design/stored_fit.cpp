@@ -13,10 +13,9 @@ constexpr double tolerance = 0.000001;  // mm
 bool suitsOpening(const CRez& head, double openingWidth) {
     const CRez* bearing = nullptr;
     for (const CRez* layer = head.next; layer != nullptr; layer = layer->next) {
-        if (layer->nameOrEmpty() == specialName(kind::monolith)) return true;
-        if (bearing == nullptr && layer->name && *layer->name != specialName(kind::insulation)) {
-            bearing = layer;
-        }
+        const std::string_view name = layer->nameOrEmpty();
+        if (name == specialName(kind::monolith)) return true;
+        if (bearing == nullptr && name != specialName(kind::insulation)) bearing = layer;
     }
     if (bearing == nullptr || bearing->maxOpening == 0) return true;
     return openingWidth - tolerance <= bearing->maxOpening;

@@ -17,8 +17,14 @@ TEST(StoredFit, TheFirstElementOtherThanInsulationDecides) {
     EXPECT_TRUE(suitsOpening(head, 5000));
     design.append(layer(kind::insulation, 50, "IZOLACE"))->maxOpening = 1;
     EXPECT_TRUE(suitsOpening(head, 5000));
-    design.append(layer(kind::precast, 70))->name.reset();
-    EXPECT_TRUE(suitsOpening(head, 5000));
+    // Stored and read again, a missing name is an empty one, and no insulation.
+    for (const char* name : {static_cast<const char*>(nullptr), ""}) {
+        CRez* nameless = design.append(layer(kind::precast, 70, ""));
+        if (!name) nameless->name.reset();
+        nameless->maxOpening = 1000;
+        EXPECT_FALSE(suitsOpening(head, 5000));
+        design.unlink(nameless);
+    }
     CRez* lintel = design.append(layer(kind::precast, 70, "KP"));
     EXPECT_TRUE(suitsOpening(head, 5000));
     lintel->maxOpening = 1500;
