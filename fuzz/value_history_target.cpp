@@ -14,7 +14,7 @@ void readValueHistory(std::string_view input) {
     ValueHistory history(profile, "COMBO_VYSKA");
     const std::vector<Text> before = history.shown();
     // Nobody has clicked so many together; the rest of them is not believed.
-    constexpr std::int32_t most = 10000;
+    constexpr std::int32_t most = 200000;
     const bool full = leadingInt(profile.read("COMBO_VYSKA", "nr", "0")) >= most;
     promise(before.size() <= most);
     promise(history.add("12345"));

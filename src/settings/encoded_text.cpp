@@ -66,12 +66,20 @@ void EncodedText::decodeUtf16() {
     }
 }
 
-std::size_t EncodedText::offset(std::size_t index) const {
-    if (m_form == Form::plain) return index;
-    if (m_form == Form::utf16) return utf16Mark.size() + 2 * index;
-    std::size_t at = utf8Mark.size();
-    for (; index > 0 && at < m_bytes.size(); --index) at += utf8Sequence(m_bytes, at).length;
-    return at;
+EncodedText::Place EncodedText::start() const {
+    if (m_form == Form::plain) return {};
+    return {0, m_form == Form::utf16 ? utf16Mark.size() : utf8Mark.size()};
+}
+
+EncodedText::Place EncodedText::place(std::size_t index, Place from) const {
+    if (m_form != Form::utf8) {
+        const std::size_t bytesEach = m_form == Form::utf16 ? 2 : 1;
+        return {index, from.offset + bytesEach * (index - from.index)};
+    }
+    for (; from.index < index && from.offset < m_bytes.size(); ++from.index) {
+        from.offset += utf8Sequence(m_bytes, from.offset).length;
+    }
+    return from;
 }
 
 Bytes EncodedText::encode(std::string_view text) const {

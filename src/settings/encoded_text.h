@@ -17,8 +17,14 @@ public:
 
     // A character that code page 1250 lacks reads as "?".
     std::string_view text() const { return m_form == Form::plain ? m_bytes : m_decoded; }
-    // Where the character at that index of text() stands in the file's bytes.
-    std::size_t offset(std::size_t index) const;
+    // Where a character of text() stands in the file's bytes.
+    struct Place {
+        std::size_t index = 0;
+        std::size_t offset = 0;
+    };
+    Place start() const;
+    // The place of that index, counted on from an earlier one.
+    Place place(std::size_t index, Place from) const;
     Bytes encode(std::string_view text) const;
 
 private:

@@ -1,6 +1,8 @@
 #include "settings/profile.h"
 
 #include <algorithm>
+#include <map>
+#include <vector>
 
 #include "platform/numbers.h"
 #include "settings/encoded_text.h"
@@ -23,9 +25,9 @@ std::string_view withoutQuotes(std::string_view text) {
 std::optional<Text> valueOf(std::string_view bytes, std::string_view section,
                             std::string_view key) {
     const EncodedText file(bytes);
-    const KeyPlace place = findKey(file.text(), section, key);
-    if (!place.line || !place.line->value) return std::nullopt;
-    return Text(withoutQuotes(*place.line->value));
+    const std::optional<KeyLine> line = findKey(file.text(), section, key);
+    if (!line || !line->value) return std::nullopt;
+    return Text(withoutQuotes(*line->value));
 }
 
 // Names that would not be found again, or would make another line of the file.
@@ -43,56 +45,162 @@ std::string_view lineEndOf(std::string_view text) {
     return text[end] == '\n' ? "\n" : "\r";
 }
 
-struct Change {
-    std::size_t begin = 0;  // indices of the text: what stands there gives way to
+using Changes = std::span<const ProfileChange>;
+
+// The line break that would end the value is where the platform's functions stop reading it, too.
+std::string_view storedValue(std::string_view value) {
+    return trimmedBlanks(value.substr(0, value.find_first_of(lineEnds)));
+}
+
+struct LessIgnoringCase {
+    bool operator()(std::string_view a, std::string_view b) const {
+        const auto less = [](char x, char y) {
+            return lowerCase(static_cast<unsigned char>(x)) <
+                   lowerCase(static_cast<unsigned char>(y));
+        };
+        return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(), less);
+    }
+};
+using ByKey = std::map<std::string_view, std::size_t, LessIgnoringCase>;
+
+// What stands at indices of the text gives way to another text.
+struct Edit {
+    std::size_t begin = 0;
     std::size_t end = 0;
     Text text;
+    std::size_t change = 0;  // from which it comes
 };
 
-Change newLine(std::string_view text, std::optional<std::size_t> insertAt, std::string_view section,
-               std::string_view key, std::string_view value) {
-    const std::string_view lineEnd = lineEndOf(text);
-    const std::size_t at = insertAt.value_or(text.size());
-    Change change{at, at, {}};
-    const bool openLine = at > 0 && text[at - 1] != '\n' && text[at - 1] != '\r';
-    if (openLine) change.text += lineEnd;
-    if (!insertAt) change.text.append("[").append(trimmedBlanks(section)).append("]") += lineEnd;
-    change.text.append(trimmedBlanks(key)).append("=").append(value) += lineEnd;
-    return change;
+// None when the line says it already.
+std::optional<Edit> editOf(const KeyLine& line, const ProfileChange& change) {
+    if (!change.value) return Edit{line.start, line.next, {}};
+    const std::string_view value = storedValue(*change.value);
+    if (!line.value) return Edit{line.contentEnd, line.contentEnd, "=" + Text(value)};
+    if (*line.value == value) return std::nullopt;
+    return Edit{line.valueStart, line.contentEnd, Text(value)};
 }
 
-// none when the text says it already.
-std::optional<Change> changeFor(std::string_view text, std::string_view section,
-                                std::string_view key, std::optional<std::string_view> wanted) {
-    const KeyPlace place = findKey(text, section, key);
-    if (!wanted) {
-        if (!place.line) return std::nullopt;
-        return Change{place.line->start, place.line->next, {}};
-    }
-    // A line break would end the value; the platform's functions read up to it as well.
-    const std::string_view value =
-        trimmedBlanks(wanted->substr(0, wanted->find_first_of(lineEnds)));
-    if (!place.line) return newLine(text, place.insertAt, section, key, value);
-    if (!place.line->value) {
-        return Change{place.line->contentEnd, place.line->contentEnd, "=" + Text(value)};
-    }
-    if (*place.line->value == value) return std::nullopt;
-    return Change{place.line->valueStart, place.line->contentEnd, Text(value)};
+// One walk over a section in which several changes are made.
+class SectionWalk {
+public:
+    // Takes as many of the changes as can be made together.
+    SectionWalk(std::string_view text, Changes changes);
+
+    std::size_t taken() const { return m_taken; }
+    // In the order of the text.
+    std::vector<Edit>& edits() { return m_edits; }
+
+private:
+    void gather();
+    void findLines();
+    void addLines();
+    bool deletes(const Edit& edit) const { return !m_changes[edit.change].value; }
+
+    std::string_view m_text;
+    Changes m_changes;
+    ByKey m_byKey;
+    std::size_t m_taken = 0;
+    std::vector<bool> m_found;
+    std::optional<std::size_t> m_insertAt;
+    std::vector<Edit> m_edits;
+};
+
+SectionWalk::SectionWalk(std::string_view text, Changes changes)
+    : m_text(text), m_changes(changes) {
+    gather();
+    findLines();
+    addLines();
 }
 
-std::optional<Bytes> changed(std::string_view bytes, std::string_view section, std::string_view key,
-                             std::optional<std::string_view> value) {
-    if (!storable(section, key)) return std::nullopt;
-    const EncodedText file(bytes);
-    const std::optional<Change> change = changeFor(file.text(), section, key, value);
-    if (!change) return std::nullopt;
-    const std::size_t begin = file.offset(change->begin);
-    const std::size_t end = file.offset(change->end);
-    const Bytes insert = file.encode(change->text);
+// Changes to one section, each of another key.
+void SectionWalk::gather() {
+    const std::string_view section = trimmedBlanks(m_changes.front().section);
+    for (const ProfileChange& change : m_changes) {
+        const bool joins = equalIgnoringCase(trimmedBlanks(change.section), section) &&
+                           m_byKey.emplace(trimmedBlanks(change.key), m_taken).second;
+        if (!joins) break;
+        ++m_taken;
+        // Before the first heading a deleted line may be the one that tells the line ends.
+        if (section.empty()) break;
+    }
+}
+
+void SectionWalk::findLines() {
+    m_found.resize(m_taken);
+    std::size_t missing = m_taken;
+    m_insertAt = walkSection(m_text, m_changes.front().section, [&](const KeyLine& line) {
+        const auto wanted = m_byKey.find(line.name);
+        if (wanted == m_byKey.end() || m_found[wanted->second]) return true;
+        m_found[wanted->second] = true;
+        if (auto edit = editOf(line, m_changes[wanted->second])) {
+            edit->change = wanted->second;
+            m_edits.push_back(*std::move(edit));
+        }
+        return --missing > 0;
+    });
+}
+
+// New lines go behind the section's last line, one behind the other. Where that is can be told only
+// after the lines that go before them are gone: the first new line then begins another walk.
+void SectionWalk::addLines() {
+    const std::string_view lineEnd = lineEndOf(m_text);
+    const std::size_t at = m_insertAt.value_or(m_text.size());
+    Edit added{at, at, {}};
+    for (std::size_t i = 0; i < m_taken; ++i) {
+        const ProfileChange& change = m_changes[i];
+        if (m_found[i] || !change.value) continue;
+        const auto goneBefore = [&](const Edit& edit) { return edit.change < i && deletes(edit); };
+        if (added.text.empty()) {
+            if (std::any_of(m_edits.begin(), m_edits.end(), goneBefore)) {
+                m_taken = i;
+                std::erase_if(m_edits, [i](const Edit& edit) { return edit.change > i; });
+                return;
+            }
+            if (!m_insertAt) {
+                added.text.append("[").append(trimmedBlanks(change.section)).append("]") += lineEnd;
+            }
+        }
+        added.text.append(trimmedBlanks(change.key)).append("=");
+        added.text.append(storedValue(*change.value)) += lineEnd;
+    }
+    if (added.text.empty()) return;
+    const bool openLine = at > 0 && m_text[at - 1] != '\n' && m_text[at - 1] != '\r';
+    const bool lineGoes = !m_edits.empty() && m_edits.back().end == at && deletes(m_edits.back());
+    if (openLine && !lineGoes) added.text.insert(0, lineEnd);
+    m_edits.push_back(std::move(added));
+}
+
+Bytes edited(std::string_view bytes, const EncodedText& file, std::vector<Edit>& edits) {
+    std::size_t size = bytes.size();
+    for (Edit& edit : edits) {
+        edit.text = file.encode(edit.text);
+        size += edit.text.size();
+    }
     Bytes result;
-    result.reserve(bytes.size() + insert.size());
-    result.append(bytes.substr(0, begin)).append(insert).append(bytes.substr(end));
-    return result;
+    result.reserve(size);
+    EncodedText::Place place = file.start();
+    std::size_t copied = 0;
+    for (const Edit& edit : edits) {
+        place = file.place(edit.begin, place);
+        result.append(bytes.substr(copied, place.offset - copied)).append(edit.text);
+        place = file.place(edit.end, place);
+        copied = place.offset;
+    }
+    return result.append(bytes.substr(copied));
+}
+
+// True when the bytes have become others.
+bool change(Bytes& bytes, Changes changes) {
+    bool different = false;
+    while (!changes.empty()) {
+        const EncodedText file(bytes);
+        SectionWalk walk(file.text(), changes);
+        changes = changes.subspan(walk.taken());
+        if (walk.edits().empty()) continue;
+        bytes = edited(bytes, file, walk.edits());
+        different = true;
+    }
+    return different;
 }
 
 // As the platform reads it: sign, then decimal digits or 0x, 0o, 0b with theirs; an overflow wraps.
@@ -150,17 +258,18 @@ std::optional<Text> Profile::find(std::string_view section, std::string_view key
     return valueOf(file.bytes, section, key);
 }
 
-std::optional<std::vector<ProfileEntry>> Profile::readableEntries(std::string_view section) const {
+bool Profile::eachEntry(std::string_view section, const ProfileEntryUse& use) const {
     const FileRead file = m_files.read(m_path);
-    if (file.status == ReadStatus::failed) return std::nullopt;
-    std::vector<ProfileEntry> result;
+    if (file.status == ReadStatus::failed) return false;
     const EncodedText text(file.bytes);
-    for (const KeyLine& line : keyLines(text.text(), section)) {
-        ProfileEntry& entry = result.emplace_back();
-        entry.key = line.name;
-        if (line.value) entry.value = Text(withoutQuotes(*line.value));
-    }
-    return result;
+    walkSection(text.text(), section, [&use](const KeyLine& line) {
+        if (line.name.empty() || line.name.front() == ';') return true;
+        std::optional<std::string_view> value = line.value;
+        if (value) value = withoutQuotes(*value);
+        use(line.name, value);
+        return true;
+    });
+    return true;
 }
 
 bool Profile::write(std::string_view section, std::string_view key, std::string_view value) {
@@ -178,26 +287,23 @@ bool Profile::erase(std::string_view section, std::string_view key) {
 }
 
 bool Profile::apply(std::span<const ProfileChange> changes) {
-    const FileRead file = m_files.read(m_path);
+    FileRead file = m_files.read(m_path);
     if (file.status == ReadStatus::failed) return false;
-    Bytes bytes = file.bytes;
-    bool different = false;
-    for (const ProfileChange& change : changes) {
-        if (!storable(change.section, change.key)) return false;
-        std::optional<Bytes> next = changed(bytes, change.section, change.key, change.value);
-        if (!next) continue;
-        bytes = *std::move(next);
-        different = true;
+    for (const ProfileChange& one : changes) {
+        if (!storable(one.section, one.key)) return false;
     }
-    if (!different) return true;
+    if (!change(file.bytes, changes)) return true;
     // A replacement would get past a write protection.
     if (file.status == ReadStatus::ok && !m_files.writable(m_path)) return false;
-    return m_files.replace(m_path, bytes);
+    return m_files.replace(m_path, file.bytes);
 }
 
 Bytes profileWritten(std::string_view file, std::string_view section, std::string_view key,
                      std::optional<std::string_view> value) {
-    return changed(file, section, key, value).value_or(Bytes(file));
+    Bytes bytes(file);
+    const ProfileChange one{section, key, value};
+    if (storable(section, key)) change(bytes, {&one, 1});
+    return bytes;
 }
 
 }  // namespace lx

@@ -2,10 +2,10 @@
 // implementation for all platforms. Section and key names are matched without regard to case.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <span>
 #include <string_view>
-#include <vector>
 
 #include "platform/files.h"
 #include "settings/keys.h"
@@ -19,10 +19,9 @@ struct ProfileChange {
     std::optional<std::string_view> value;
 };
 
-struct ProfileEntry {
-    Text key;
-    std::optional<Text> value;  // without quotes around it; none without "="
-};
+// What is done with a key and its value: without quotes around it, none without "=".
+using ProfileEntryUse =
+    std::function<void(std::string_view key, std::optional<std::string_view> value)>;
 
 // The leading number of a value (its first 29 bytes; 0x, 0o and 0b as the platform's function takes
 // them; 0 when there is none), fallback when the value is empty.
@@ -49,13 +48,10 @@ public:
     }
     // none when the key is missing.
     std::optional<Text> find(std::string_view section, std::string_view key) const;
-    // The keys of a section with their values in file order, doubled ones too: the first of them is
-    // the one that is read.
-    std::vector<ProfileEntry> entries(std::string_view section) const {
-        return readableEntries(section).value_or(std::vector<ProfileEntry>());
-    }
-    // The same, none when the file is there but cannot be read.
-    std::optional<std::vector<ProfileEntry>> readableEntries(std::string_view section) const;
+    // Calls use for the keys of a section in file order, doubled ones too: the first of them is the
+    // one that is read. False when the file is there but cannot be read. Nothing is kept of a file
+    // that may hold millions of them.
+    bool eachEntry(std::string_view section, const ProfileEntryUse& use) const;
     // Creates file, section and key as needed; the rest of the file keeps its bytes. Blanks around
     // the value are not kept, nor is what follows a line break in it. Writes nothing when the value
     // is there already. False when the file could not be written, or exists but cannot be read, or
@@ -63,7 +59,9 @@ public:
     bool write(std::string_view section, std::string_view key, std::string_view value);
     bool writeInt(std::string_view section, std::string_view key, std::int32_t value);
     bool erase(std::string_view section, std::string_view key);
-    // Several values in one go: the file is replaced once, with all of them or none.
+    // Several values in one go: the file is replaced once, with all of them or none, and holds what
+    // it would after one change after another. Takes time in proportion to the file and the
+    // changes, as long as those of a section stand together and each is of another key.
     bool apply(std::span<const ProfileChange> changes);
 
 private:

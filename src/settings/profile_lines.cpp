@@ -71,10 +71,16 @@ KeyLine keyLine(std::string_view text, const Line& line) {
     return result;
 }
 
-// Calls use(line) for the lines of the first section of that name until it answers false; the
-// heading itself is not handed on. Returns where a new line would go.
-template <class Use>
-std::optional<std::size_t> walkSection(std::string_view text, std::string_view section, Use use) {
+}  // namespace
+
+std::string_view trimmedBlanks(std::string_view text) {
+    const std::size_t first = text.find_first_not_of(blanks);
+    if (first == std::string_view::npos) return text.substr(0, 0);
+    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
+
+std::optional<std::size_t> walkSection(std::string_view text, std::string_view section,
+                                       const std::function<bool(const KeyLine&)>& use) {
     const std::string_view wanted = trimmedBlanks(section);
     bool inside = wanted.empty();
     std::optional<std::size_t> insertAt;
@@ -87,40 +93,21 @@ std::optional<std::size_t> walkSection(std::string_view text, std::string_view s
             if (inside) insertAt = line.next;
         } else if (inside) {
             insertAt = line.next;
-            if (!use(line)) break;
+            if (!use(keyLine(text, line))) break;
         }
     }
     return insertAt;
 }
 
-}  // namespace
-
-std::string_view trimmedBlanks(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(blanks);
-    if (first == std::string_view::npos) return text.substr(0, 0);
-    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
-
-KeyPlace findKey(std::string_view text, std::string_view section, std::string_view key) {
+std::optional<KeyLine> findKey(std::string_view text, std::string_view section,
+                               std::string_view key) {
     const std::string_view wanted = trimmedBlanks(key);
-    KeyPlace place;
-    place.insertAt = walkSection(text, section, [&](const Line& line) {
-        const KeyLine candidate = keyLine(text, line);
-        if (!equalIgnoringCase(candidate.name, wanted)) return true;
-        place.line = candidate;
-        return false;
+    std::optional<KeyLine> found;
+    walkSection(text, section, [&](const KeyLine& line) {
+        if (equalIgnoringCase(line.name, wanted)) found = line;
+        return !found;
     });
-    return place;
-}
-
-std::vector<KeyLine> keyLines(std::string_view text, std::string_view section) {
-    std::vector<KeyLine> lines;
-    walkSection(text, section, [&](const Line& line) {
-        const KeyLine key = keyLine(text, line);
-        if (!key.name.empty() && key.name.front() != ';') lines.push_back(key);
-        return true;
-    });
-    return lines;
+    return found;
 }
 
 }  // namespace lx

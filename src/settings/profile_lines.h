@@ -1,9 +1,9 @@
 // The lines of a private-profile text: where sections and keys stand, and where a new one goes.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string_view>
-#include <vector>
 
 namespace lx {
 
@@ -20,17 +20,15 @@ struct KeyLine {
     std::size_t valueStart = 0;
 };
 
-struct KeyPlace {
-    // none when the section or the key is missing. Of doubled keys and doubled sections the first
-    // one counts, even where only the second has what is looked for.
-    std::optional<KeyLine> line;
-    // Where a new line of the section goes: behind its last line that is not blank. none when the
-    // section is missing. The section "" is what stands before the first heading.
-    std::optional<std::size_t> insertAt;
-};
-
-KeyPlace findKey(std::string_view text, std::string_view section, std::string_view key);
-// Lines of the first section of that name that have a name and are no comments.
-std::vector<KeyLine> keyLines(std::string_view text, std::string_view section);
+// None when the section or the key is missing. Of doubled keys and doubled sections the first one
+// counts, even where only the second has what is looked for. The section "" is what stands before
+// the first heading.
+std::optional<KeyLine> findKey(std::string_view text, std::string_view section,
+                               std::string_view key);
+// Calls use for the lines of the first section of that name, comments too, until it answers false.
+// Returns where a new line of the section goes when all were walked: behind its last line that is
+// not blank; none when the section is missing.
+std::optional<std::size_t> walkSection(std::string_view text, std::string_view section,
+                                       const std::function<bool(const KeyLine&)>& use);
 
 }  // namespace lx

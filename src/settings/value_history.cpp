@@ -12,28 +12,29 @@ namespace {
 constexpr std::string_view countKey = "nr";
 constexpr std::size_t bufferSize = 1024;
 // A number of values that no user has clicked together; a damaged "nr" is not believed beyond it.
-constexpr std::int32_t mostValues = 10000;
+constexpr std::int32_t mostValues = 200000;
 
 }  // namespace
 
 std::optional<ValueHistory::Values> ValueHistory::load() const {
-    auto entries = m_profile.readableEntries(m_section);
-    if (!entries) return std::nullopt;
-    const auto nr = std::find_if(entries->begin(), entries->end(), [](const ProfileEntry& entry) {
-        return equalIgnoringCase(entry.key, countKey);
-    });
-    const bool counted = nr != entries->end() && nr->value;
-    const std::int32_t count = counted ? leadingInt(*nr->value) : 0;
-    Values values(static_cast<std::size_t>(std::clamp(count, 0, mostValues)));
-    // Backwards: of doubled keys the first one counts.
-    for (auto entry = entries->rbegin(); entry != entries->rend(); ++entry) {
-        const std::int32_t number = leadingInt(entry->key);
-        if (number < 0 || static_cast<std::size_t>(number) >= values.size()) continue;
-        if (entry->key != formatInt(number)) continue;
-        std::optional<Text>& value = values[static_cast<std::size_t>(number)];
-        value = std::move(entry->value);
-        if (value) value->resize(std::min(value->size(), bufferSize - 1));
-    }
+    std::optional<std::int32_t> count;
+    Values values;
+    std::vector<bool> known;  // of doubled keys the first one counts
+    const bool readable = m_profile.eachEntry(
+        m_section, [&](std::string_view key, std::optional<std::string_view> value) {
+            if (!count && equalIgnoringCase(key, countKey)) count = value ? leadingInt(*value) : 0;
+            const std::int32_t number = leadingInt(key);
+            if (number < 0 || number >= mostValues || key != formatInt(number)) return;
+            const auto place = static_cast<std::size_t>(number);
+            if (place >= values.size()) {
+                values.resize(place + 1);
+                known.resize(place + 1);
+            }
+            if (!known[place] && value) values[place] = Text(value->substr(0, bufferSize - 1));
+            known[place] = true;
+        });
+    if (!readable) return std::nullopt;
+    values.resize(static_cast<std::size_t>(std::clamp(count.value_or(0), 0, mostValues)));
     return values;
 }
 
@@ -67,7 +68,9 @@ bool ValueHistory::remove(std::string_view value) {
     const Text newCount = formatInt(static_cast<std::int64_t>(values.size()) - 1);
     std::vector<Text> keys;
     keys.reserve(values.size());
-    std::vector<ProfileChange> changes{{m_section, countKey, newCount}};
+    std::vector<ProfileChange> changes;
+    changes.reserve(values.size() - from + 1);
+    changes.push_back({m_section, countKey, newCount});
     for (std::size_t i = from; i < values.size(); ++i) {
         std::optional<std::string_view> next;
         if (i + 1 < values.size() && values[i + 1]) next = *values[i + 1];

@@ -179,9 +179,13 @@ Bytes settingsAgain(std::string_view bytes) {
     for (const std::string_view section :
          {std::string_view("SETTINGS"), settings::precastColumns, settings::steelColumns,
           std::string_view("DLG_SET"), settings::lintelOverhang}) {
-        for (const ProfileEntry& entry : profile.entries(section)) {
-            profile.write(section, entry.key, "another");
-            profile.write(section, entry.key, *entry.value);
+        std::vector<std::pair<Text, Text>> entries;
+        profile.eachEntry(section, [&](std::string_view key, auto value) {
+            entries.emplace_back(key, value.value());
+        });
+        for (const auto& [key, value] : entries) {
+            profile.write(section, key, "another");
+            profile.write(section, key, value);
         }
     }
     return files.content["set"];

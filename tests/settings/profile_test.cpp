@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <random>
 
@@ -70,7 +71,7 @@ TEST_F(ProfileTest, ReadsValuesAsThePlatformDoes) {
     }
     EXPECT_EQ(read("", "first"), "0");
     std::vector<Text> keys;
-    for (const ProfileEntry& entry : profile.entries("A")) keys.push_back(entry.key);
+    profile.eachEntry("A", [&](std::string_view key, auto) { keys.emplace_back(key); });
     EXPECT_EQ(keys, (std::vector<Text>{"a", "b", "q", "s", "m", "qq", "q1", "q2", "qb", "noeq",
                                        "noeq", "e", "A", "t", "[D"}));
 }
@@ -199,6 +200,48 @@ TEST_F(ProfileTest, SeveralChangesAreOneReplacementOrNone) {
     const ProfileChange impossible[] = {{"A", "j", "5"}, {"A", "=", "6"}};
     EXPECT_FALSE(profile.apply(impossible));
     EXPECT_EQ(files.content[path], "[A]\nj=2\n[B]\ni=3\n");
+}
+
+// Lines of sections and keys that occur twice or not at all, in every form of a file.
+TEST_F(ProfileTest, ChangesMadeTogetherAreOneAfterAnother) {
+    constexpr std::array lines = {"[A]"sv, "[ a ] ;"sv, "[B]"sv, "[]"sv,   "k=1"sv,    " K = 2"sv,
+                                  "j=3"sv, "j"sv,       "i= "sv, ";k"sv,   "\xE8=5"sv, "\xC8 = 6"sv,
+                                  ""sv,    " \t"sv,     "x=7"sv, "x= 8 "sv};
+    constexpr std::array sections = {"A"sv, "a"sv, "A"sv, "B"sv, "C"sv, ""sv};
+    constexpr std::array keys = {"k"sv,    "K"sv, "j"sv,   "i"sv, ";k"sv,
+                                 "\xE8"sv, "x"sv, "new"sv, "n"sv};
+    constexpr std::array values = {"1"sv, "3"sv, ""sv, " \xC8 "sv, "longer value"sv};
+    std::mt19937 random(14);
+    const auto one = [&random](const auto& list) { return list[random() % list.size()]; };
+    for (int round = 0; round < 8000; ++round) {
+        const std::string_view usual = round % 3 == 0 ? "\r"sv : "\n"sv;
+        std::string text;
+        for (auto left = random() % 9; left > 0; --left) {
+            text += one(lines);
+            if (left > 1 || round % 2 == 0) text += round % 3 == 1 && left % 2 ? "\r\n"sv : usual;
+        }
+        if (round % 8 == 0) text.insert(0, "\xEF\xBB\xBF");
+        if (round % 8 == 1) {
+            std::string wide = "\xFF\xFE";
+            for (const char c : text) wide.append(1, c).push_back('\0');
+            text = wide;
+        }
+        std::vector<ProfileChange> changes;
+        const std::string_view section = one(sections);
+        for (auto left = 1 + random() % 6; left > 0; --left) {
+            ProfileChange& change = changes.emplace_back();
+            change.section = random() % 8 == 0 ? one(sections) : section;
+            change.key = one(keys);
+            if (random() % 3 != 0) change.value = one(values);
+        }
+        Bytes after = text;
+        for (const ProfileChange& change : changes) {
+            after = profileWritten(after, change.section, change.key, change.value);
+        }
+        hold(text);
+        ASSERT_TRUE(profile.apply(changes));
+        ASSERT_EQ(files.content[path], after) << round << ": " << text;
+    }
 }
 
 // All bytes of before are in after, in one or two runs.
