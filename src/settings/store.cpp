@@ -8,6 +8,10 @@ namespace lx {
 
 namespace {
 
+// More numbers than any list holds; a text of nothing but separators would make as many as it has
+// bytes.
+constexpr std::size_t mostListed = 1000000;
+
 // One number from the front of a text, as strtol and strtod read it: leading whitespace belongs to
 // it, a text that starts with none is 0 and takes nothing.
 void takeNumber(std::string_view& text, std::int32_t& value) {
@@ -67,6 +71,7 @@ template <class T>
 bool parseList(std::string_view text, std::vector<T>& values) {
     std::vector<T> parsed;
     while (!text.empty()) {
+        if (parsed.size() == mostListed) return false;
         takeNumber(text, parsed.emplace_back());
         if (text.empty()) break;
         if (text.front() != ';') return false;

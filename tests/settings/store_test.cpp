@@ -7,6 +7,8 @@
 namespace lx {
 namespace {
 
+using namespace std::literals;
+
 const Path path = "settings.dat";
 
 class StoreTest : public ::testing::Test {
@@ -136,11 +138,16 @@ TEST_F(StoreTest, ReadsIntegerListsFromTextAndBinary) {
         EXPECT_TRUE(store.get_int_array("k", list)) << c.value;
         EXPECT_EQ(list, c.list) << c.value;
     }
-    for (const char* refused : {"1,2", "1;x", "1 ;2", "0000000201AB"}) {
+    const std::string most(1000000, ';');
+    hold(most);
+    List zeros;
+    EXPECT_TRUE(store.get_int_array("k", zeros));
+    EXPECT_EQ(zeros.size(), most.size());
+    for (const std::string& refused : {"1,2"s, "1;x"s, "1 ;2"s, "0000000201AB"s, most + ";"}) {
         hold(refused);
         List list{9};
-        EXPECT_FALSE(store.get_int_array("k", list)) << refused;
-        EXPECT_EQ(list, List{9}) << refused;
+        EXPECT_FALSE(store.get_int_array("k", list)) << refused.substr(0, 20);
+        EXPECT_EQ(list, List{9}) << refused.substr(0, 20);
     }
 }
 
