@@ -35,6 +35,17 @@ constexpr Goal goals[] = {
     {.work = "store_ram", .what = "where the disk takes nothing", .size = 100000, .mostTimes = 3},
     {.work = "draw", .what = "section of so many layers", .size = 20, .mostMicroseconds = 50},
     {.work = "layout", .what = "with levels, availability", .size = 20, .mostMicroseconds = 20},
+    {.work = "huge", .what = "the same for so many bends", .size = 100000, .mostMicroseconds = 1e6},
+    {.work = "forget", .what = "a remembered value", .size = 100000, .mostMicroseconds = 1e6},
+    // Six times the file and 64 MB.
+    {.work = "m_catalogue", .what = "memory for so many MB", .size = 60, .mostMegabytes = 424},
+    {.work = "m_heads", .what = "library of tiny designs", .size = 60, .mostMegabytes = 424},
+    {.work = "m_tags", .what = "library of torn designs", .size = 60, .mostMegabytes = 424},
+    {.work = "m_projects", .what = "projects", .size = 60, .mostMegabytes = 424},
+    {.work = "m_layers", .what = "hand-over of tiny layers", .size = 60, .mostMegabytes = 424},
+    {.work = "m_bends", .what = "hand-over of bends", .size = 60, .mostMegabytes = 424},
+    {.work = "m_history", .what = "remembered values", .size = 60, .mostMegabytes = 424},
+    {.work = "m_rules", .what = "index of the rules", .size = 60, .mostMegabytes = 424},
 };
 
 const char* verdict(bool met) {

@@ -28,7 +28,8 @@ struct LibraryRead {
 
 // The designs of one project in file order. An entry whose length runs past the end gives the
 // records that can be read and is the last; a length below 8 ends the reading.
-// An entry without a head record is left out. The id of deleted entries has none.
+// An entry without a head record is left out, and one that ends within it unless it is the torn
+// last one. The id of deleted entries has none.
 LibraryRead loadLibrary(const Path& path, std::int32_t project, Files& files);
 LibraryRead parseLibrary(std::string_view bytes, std::int32_t project);
 

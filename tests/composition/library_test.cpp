@@ -132,6 +132,68 @@ TEST(Library, ATornTailIsClosedOffAndTheNextEntryIsReachable) {
     }
 }
 
+// Appends as a full disk does: part of the bytes is there, or has been taken away again.
+class FullDisk : public MemoryFiles {
+public:
+    std::size_t left = 0;  // bytes behind the file
+
+    bool append(const Path& file, std::string_view bytes, const Seal&) override {
+        content[file] += bytes.substr(0, left);
+        return false;
+    }
+};
+
+TEST(Library, ARefusedEntryLeavesATornTailAsItWas) {
+    MemoryFiles whole;
+    store(whole, 1, "A", 300);
+    const std::size_t first = whole.content[path].size();
+    store(whole, 1, "B", 310);
+    const RezChain added = sampleDesign("C", 320);
+    for (const std::size_t size : {first + 3, first + 6, first + 20, first + 100}) {
+        FullDisk files;
+        const Bytes torn = whole.content[path].substr(0, size);
+        files.content[path] = torn;
+        EXPECT_FALSE(appendDesign(path, 1, *added.head(), {}, files));
+        EXPECT_EQ(files.content[path], torn) << size;
+        // What stays behind the tail must not become a part of it.
+        files.left = 15;
+        EXPECT_FALSE(appendDesign(path, 1, *added.head(), {}, files));
+        EXPECT_FALSE(files.content[path].starts_with(torn)) << size;
+    }
+}
+
+TEST(Library, OnlyATailThatIsSomebodysReplacesAnEarlierBackup) {
+    MemoryFiles files;
+    store(files, 1, "A", 300);
+    const Bytes first = files.content[path];
+    store(files, 1, "B", 310);
+    files.content[path].pop_back();
+    const Bytes torn = files.content[path];
+    const RezChain added = sampleDesign("C", 320);
+    for (const std::int32_t owner : {1, deletedProject}) {
+        files.content[path] = torn;
+        put(files.content[path], first.size() + 4, owner);
+        files.content[path + ".bak"] = "earlier";
+        ASSERT_TRUE(appendDesign(path, 1, *added.head(), {}, files));
+        EXPECT_EQ(files.content[path + ".bak"], owner == 1 ? torn : "earlier");
+    }
+}
+
+// Each would cost a record, many times what it takes in the file.
+TEST(Library, AnEntryThatEndsWithinItsHeadIsLeftOut) {
+    MemoryFiles files;
+    store(files, 1, "A", 300);
+    const Bytes first = files.content[path];
+    const std::size_t head = recordBytes(*sampleDesign("A", 300).head(), true).size();
+    for (const std::size_t size : {std::size_t{4}, std::size_t{8}, head - 1, head}) {
+        Bytes bytes = first.substr(0, 12 + size);
+        put(bytes, 0, static_cast<std::int32_t>(8 + size));
+        const LibraryRead read = parseLibrary(bytes + first, 1);
+        EXPECT_EQ(read.entries.size(), size < head ? 1U : 2U) << size;
+        EXPECT_EQ(read.damaged, size < head) << size;
+    }
+}
+
 TEST(Library, ImpossibleLengthsEndTheReading) {
     MemoryFiles files;
     store(files, 1, "A", 300);
