@@ -95,6 +95,7 @@ void manyLayers(benchmark::internal::Benchmark* measured) {
 }
 
 BENCHMARK(draw)->Name("draw/module")->Apply(manyLayers);
+BENCHMARK(draw)->Name("draw_huge/module")->Apply(manyBends);
 BENCHMARK(layout)->Name("layout/module")->Apply(manyLayers);
 BENCHMARK(hugeLayout)->Name("huge/module")->Apply(manyBends);
 
