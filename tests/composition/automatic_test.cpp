@@ -48,6 +48,11 @@ TEST_F(RulesFile, ADamagedIndexIsReadAsFarAsItGoes) {
         write("[INDEX]\n" + std::string(index) + sections);
         EXPECT_EQ(rule(300), found) << index;
     }
+    // The first of doubled numbers counts, however many there are.
+    std::string doubled = "COUNT=20\n7=400\n";
+    for (int i = 0; i < 3000; ++i) doubled += "9=299\n7=301\n";
+    write("[INDEX]\n" + doubled + "[299]\nKP 1=N\n[301]\nKP 1=D\n");
+    EXPECT_EQ(rule(300), "N");
     // A number left out is a thickness of 0, and only a thin wall is near it.
     write("[INDEX]\nCOUNT=3\n3=300\n2=5\n" + sections);
     EXPECT_EQ(rule(5) + rule(11) + rule(12) + rule(300), "OOBA");
