@@ -12,10 +12,6 @@ namespace lx {
 
 namespace {
 
-constexpr int cancelText = 1;
-constexpr int helpText = 100;
-constexpr int notAccessible = 113;
-constexpr int notCopied = 114;
 constexpr int helpTopic = 100;
 
 constexpr int setUpDelay = 50;       // ms
@@ -52,7 +48,8 @@ int CData6_1::runStandAlone() {
     LoadedCatalogue loaded =
         loadCatalogue(m_request.kind, cataloguePath(m_request.kind, m_host), m_files);
     if (!loaded.opened) {
-        message(str(notAccessible), m_host.hostTitle(), MessageIcon::stop, MessageButtons::ok);
+        message(text::catalogueNotAccessible, m_host.hostTitle(), MessageIcon::stop,
+                MessageButtons::ok);
         return notOpened;
     }
     m_ownItems = std::move(loaded.head);
@@ -103,7 +100,7 @@ void CData6_1::connect() {
     m_types->onCommand = [this](int command) { execute(command); };
     m_list->onCommand = [this](int command) { execute(command); };
     m_list->onCopyFailed = [this] {
-        message(str(notCopied), m_host.hostTitle(), MessageIcon::stop, MessageButtons::ok);
+        message(text::copyFailed, m_host.hostTitle(), MessageIcon::stop, MessageButtons::ok);
     };
 }
 
@@ -112,8 +109,6 @@ void CData6_1::open() {
     window.setIcon(icon::module);
     window.get<Button>(id::browserIcon).setIcon(icon::module);
     window.item(id::pickItems).show(m_request.pickMode);
-    window.item(id::cancel).setText(str(cancelText));
-    window.item(id::help).setText(str(helpText));
     window.setMenuBar(steel() ? steelCatalogueMenu() : precastCatalogueMenu());
     window.enableMenu(newMenu, !readOnly());
     m_types->setReadOnly(readOnly());
@@ -189,7 +184,7 @@ CPreklItem* CData6_1::selectedType() const {
 void CData6_1::refreshItems() {
     const CPreklItem* type = selectedType();
     if (!type) return;
-    const std::string_view title = steel() ? texts::steelBrowser : texts::precastBrowser;
+    const std::string_view title = steel() ? text::steelBrowser : text::precastBrowser;
     m_window->setTitle(fillIn(title, {type->nameOrEmpty()}));
     m_list->refresh(m_items->get(), m_types->selected() + 1);
 }

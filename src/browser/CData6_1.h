@@ -80,7 +80,7 @@ private:
     // ---- commands (CData6_1_commands.cpp)
     void execute(int command);
     // Asks; question: number of a text with a place for the record's name.
-    bool mayDelete(const CPreklItem& record, int question) const;
+    bool mayDelete(const CPreklItem& record, std::string_view question) const;
     void newType();
     std::optional<Text> askTypeName(int& shape);
     void renameType();

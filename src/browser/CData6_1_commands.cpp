@@ -11,24 +11,6 @@
 
 namespace lx {
 
-namespace {
-
-namespace text {
-constexpr int name = 3;
-constexpr int newType = 4;
-constexpr int askDeleteItem = 21;
-constexpr int warning = 22;
-constexpr int newOne = 23;
-constexpr int change = 24;
-constexpr int lintel = 25;
-constexpr int section = 26;
-constexpr int unnamed = 27;
-constexpr int askDeleteType = 29;
-constexpr int renameType = 30;
-}  // namespace text
-
-}  // namespace
-
 void CData6_1::execute(int command) {
     if (!m_setUp || readOnly()) return;
     switch (command) {
@@ -50,9 +32,9 @@ void CData6_1::execute(int command) {
     }
 }
 
-bool CData6_1::mayDelete(const CPreklItem& record, int question) const {
-    return message(fillIn(str(question), {record.nameOrEmpty()}), str(text::warning),
-                   MessageIcon::question, MessageButtons::yesNo) == MessageAnswer::yes;
+bool CData6_1::mayDelete(const CPreklItem& record, std::string_view question) const {
+    return message(fillIn(question, {record.nameOrEmpty()}), text::warning, MessageIcon::question,
+                   MessageButtons::yesNo) == MessageAnswer::yes;
 }
 
 // ---- types
@@ -60,9 +42,9 @@ bool CData6_1::mayDelete(const CPreklItem& record, int question) const {
 std::optional<Text> CData6_1::askTypeName(int& shape) {
     const auto accepted = [this](auto& dialog) -> std::optional<Text> {
         while (dialog.DoModal()) {
-            const int refusal = newTypeRefusal(m_items->get(), dialog.name);
-            if (refusal == 0) return dialog.name;
-            dialog.showMessage(str(refusal));
+            const std::string_view refusal = newTypeRefusal(m_items->get(), dialog.name);
+            if (refusal.empty()) return dialog.name;
+            dialog.showMessage(refusal);
         }
         return std::nullopt;
     };
@@ -73,8 +55,8 @@ std::optional<Text> CData6_1::askTypeName(int& shape) {
         return name;
     }
     CAddVyrobce dialog(m_platform, m_host, here());
-    dialog.title = str(text::newType);
-    dialog.label = str(text::name);
+    dialog.title = text::newType;
+    dialog.label = text::name;
     return accepted(dialog);
 }
 
@@ -91,12 +73,13 @@ void CData6_1::renameType() {
     CPreklItem* type = selectedType();
     if (!type) return;
     CAddVyrobce dialog(m_platform, m_host, here());
-    dialog.title = str(text::renameType);
-    dialog.label = str(text::name);
+    dialog.title = text::renameType;
+    dialog.label = text::name;
     dialog.name = type->nameOrEmpty();
     while (dialog.DoModal()) {
-        if (const int refusal = renameRefusal(m_items->get(), *type, dialog.name)) {
-            dialog.showMessage(str(refusal));
+        const std::string_view refusal = renameRefusal(m_items->get(), *type, dialog.name);
+        if (!refusal.empty()) {
+            dialog.showMessage(refusal);
             continue;
         }
         type->designation = dialog.name;
@@ -125,12 +108,12 @@ void CData6_1::deleteType() {
 // The selected item is the model of a new one, too.
 std::optional<EditorTexts> CData6_1::askItem(bool asNew) {
     CEdDlg1 editor(m_platform, m_host, here(), m_request.kind);
-    editor.title = Text(str(asNew ? text::newOne : text::change))
-                       .append(str(steel() ? text::section : text::lintel));
+    editor.title = Text(asNew ? text::newBefore : text::changeBefore)
+                       .append(steel() ? text::section : text::lintel);
     if (const CPreklItem* model = m_list->selected()) editor.texts = editorTexts(*model);
     while (editor.DoModal()) {
         if (!editor.texts.designation.empty()) return editor.texts;
-        editor.showMessage(str(text::unnamed));
+        editor.showMessage(text::nameMissing);
     }
     return std::nullopt;
 }

@@ -4,10 +4,6 @@
 
 namespace lx {
 
-namespace {
-constexpr int warningCaption = 22;
-}
-
 bool CEdDlg1::DoModal() {
     const DialogTemplate& layout =
         m_kind == CatalogueKind::steel ? steelItemTemplate : precastItemTemplate;
@@ -24,7 +20,7 @@ bool CEdDlg1::DoModal() {
 }
 
 void CEdDlg1::showMessage(std::string_view text) {
-    stop(text, str(warningCaption));
+    stop(text, text::warning);
 }
 
 }  // namespace lx

@@ -13,7 +13,7 @@ public:
     CEdDlg1(Platform& platform, Host& host, Owner parent, CatalogueKind kind)
         : FieldDialog(platform, host, parent), m_kind(kind) {}
 
-    Text title{str(74)};
+    Text title{text::newItem};
     EditorTexts texts;  // proposed; after OK what the user left
 
     // True after OK; otherwise the texts stay.

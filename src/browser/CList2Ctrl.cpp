@@ -11,13 +11,6 @@
 
 namespace lx {
 
-namespace {
-
-constexpr int warningCaption = 22;
-constexpr int readOnlyMessage = 110;
-
-}  // namespace
-
 CList2Ctrl::CList2Ctrl(Platform& platform, Dialog& window, ListView& list, CatalogueKind kind)
     : m_platform(platform), m_window(window), m_list(list), m_kind(kind), m_rows(kind) {
     m_list.cell = [this](int row, int column) {
@@ -121,7 +114,7 @@ KeyAnswer CList2Ctrl::key(const KeyEvent& event) {
 
 void CList2Ctrl::change(int command) {
     if (!m_readOnly) return onCommand(command);
-    m_platform.messageBox(Owner{&m_window, nullptr}, str(readOnlyMessage), str(warningCaption),
+    m_platform.messageBox(Owner{&m_window, nullptr}, text::catalogueReadOnly, text::warning,
                           MessageIcon::stop, MessageButtons::ok);
 }
 

@@ -12,7 +12,7 @@ namespace {
 
 constexpr int longestName = 50;
 constexpr int shownShapes = 6;
-constexpr int usableShapes = static_cast<int>(std::size(texts::shapes));
+constexpr int usableShapes = static_cast<int>(std::size(text::shapes));
 
 }  // namespace
 
@@ -27,7 +27,7 @@ void CTypPrurez::dressShapes(Dialog& window) {
         Button& button = window.get<Button>(id::firstShape + n - 1);
         button.setIcon(icon::shapeBase + n);
         if (n > usableShapes) continue;
-        button.setTooltip([n] { return Text(texts::shapes[n - 1]); });
+        button.setTooltip([n] { return Text(text::shapes[n - 1]); });
         button.onClick = [this, n] { shape = n; };
     }
 }

@@ -5,14 +5,11 @@
 #include <utility>
 
 #include "platform/numbers.h"
+#include "resources/strings.h"
 
 namespace lx {
 
 namespace {
-
-constexpr int nameTaken = 19;
-constexpr int newTypeUnnamed = 20;
-constexpr int renamedUnnamed = 27;
 
 bool hasType(const CPreklItem* chain, std::string_view name) {
     for (const CPreklItem* record = chain; record; record = record->next.get()) {
@@ -80,14 +77,16 @@ CPreklItem* typeAt(CPreklItem* chain, int position) {
     return types[static_cast<std::size_t>(position)];
 }
 
-int newTypeRefusal(const CPreklItem* chain, std::string_view name) {
-    if (name.empty()) return newTypeUnnamed;
-    return hasType(chain, name) ? nameTaken : 0;
+std::string_view newTypeRefusal(const CPreklItem* chain, std::string_view name) {
+    if (name.empty()) return text::designationMissing;
+    return hasType(chain, name) ? text::nameTaken : std::string_view();
 }
 
-int renameRefusal(const CPreklItem* chain, const CPreklItem& type, std::string_view name) {
-    if (name.empty()) return renamedUnnamed;
-    return name != type.nameOrEmpty() && hasType(chain, name) ? nameTaken : 0;
+std::string_view renameRefusal(const CPreklItem* chain, const CPreklItem& type,
+                               std::string_view name) {
+    if (name.empty()) return text::nameMissing;
+    return name != type.nameOrEmpty() && hasType(chain, name) ? text::nameTaken
+                                                              : std::string_view();
 }
 
 CPreklItem& appendType(Catalogue& chain, std::string_view name, CatalogueKind kind, int shape) {

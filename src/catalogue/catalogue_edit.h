@@ -29,11 +29,12 @@ std::vector<CPreklItem*> typeRecords(CPreklItem* chain);
 // Null when there is no type at that position of the list.
 CPreklItem* typeAt(CPreklItem* chain, int position);
 
-// Number of the text that refuses a new type's name, 0 when it is free. Names are the same without
-// regard to letter case.
-int newTypeRefusal(const CPreklItem* chain, std::string_view name);
+// The text that refuses a new type's name, empty when it is free. Names are the same without regard
+// to letter case.
+std::string_view newTypeRefusal(const CPreklItem* chain, std::string_view name);
 // The same for another name of a type, which may keep the name it has, but not change its case.
-int renameRefusal(const CPreklItem* chain, const CPreklItem& type, std::string_view name);
+std::string_view renameRefusal(const CPreklItem* chain, const CPreklItem& type,
+                               std::string_view name);
 
 // The new record, at the end of the chain. shape: number of a steel type's section shape.
 CPreklItem& appendType(Catalogue& chain, std::string_view name, CatalogueKind kind, int shape = 0);

@@ -23,19 +23,24 @@ enum class Field {
 
 struct Column {
     Field field;
-    int heading;  // number of its text
+    std::string_view heading;
 };
 
-constexpr int noText = 0;
-constexpr int notGiven = 16;
-
-constexpr Column precastColumns[] = {
-    {Field::designation, 5}, {Field::length, 11},      {Field::width, 6},
-    {Field::height, 7},      {Field::maxOpening, 12},  {Field::weight, 13},
-    {Field::qu, 9},          {Field::description, 10}, {Field::compositionMark, noText}};
-constexpr Column steelColumns[] = {{Field::designation, 5}, {Field::width, 6},
-                                   {Field::height, 7},      {Field::weight, 8},
-                                   {Field::qu, 9},          {Field::description, 10}};
+constexpr Column precastColumns[] = {{Field::designation, text::designation},
+                                     {Field::length, text::itemLength},
+                                     {Field::width, text::itemWidth},
+                                     {Field::height, text::itemHeight},
+                                     {Field::maxOpening, text::itemMaxOpening},
+                                     {Field::weight, text::itemWeight},
+                                     {Field::qu, text::itemQu},
+                                     {Field::description, text::description},
+                                     {Field::compositionMark, text::compositionMark}};
+constexpr Column steelColumns[] = {{Field::designation, text::designation},
+                                   {Field::width, text::itemWidth},
+                                   {Field::height, text::itemHeight},
+                                   {Field::weight, text::weightPerMetre},
+                                   {Field::qu, text::itemQu},
+                                   {Field::description, text::description}};
 
 std::span<const Column> columnsOf(CatalogueKind kind) {
     if (kind == CatalogueKind::steel) return steelColumns;
@@ -60,8 +65,7 @@ int itemColumnCount(CatalogueKind kind) {
 
 std::string_view itemHeading(int column, CatalogueKind kind) {
     const Column* found = findColumn(column, kind);
-    if (!found) return {};
-    return found->field == Field::compositionMark ? "X" : str(found->heading);
+    return found ? found->heading : std::string_view();
 }
 
 Text cellText(const CPreklItem& record, int column, CatalogueKind kind) {
@@ -81,7 +85,7 @@ Text cellText(const CPreklItem& record, int column, CatalogueKind kind) {
         case Field::weight:
             return formatFixed(record.weight, 1);
         case Field::qu:
-            return record.qu > 0 ? formatFixed(record.qu, 3) : Text(str(notGiven));
+            return record.qu > 0 ? formatFixed(record.qu, 3) : Text(text::notGiven);
         case Field::description:
             return record.description.value_or(Text());
         case Field::compositionMark:

@@ -2,6 +2,7 @@
 #include <iterator>
 
 #include "resources/controls.h"
+#include "resources/strings.h"
 #include "resources/templates.h"
 
 namespace lx {
@@ -12,17 +13,17 @@ namespace {
 
 // Title, label and name are set by whoever asks.
 constexpr ControlTemplate nameControls[] = {
-    label(id::nameLabel, "Název:"_cz, {7, 9, 36, 8}),
+    label(id::nameLabel, text::name, {7, 9, 36, 8}),
     plain(ControlKind::edit, id::name, {45, 7, 138, 12}),
-    defaultButton(id::ok, "OK"_cz, {19, 28, 50, 14}),
-    button(id::cancel, "Zrušit"_cz, {76, 28, 50, 14}),
-    button(id::help, "Nápověda"_cz, {133, 28, 50, 14}),
+    defaultButton(id::ok, text::ok, {19, 28, 50, 14}),
+    button(id::cancel, text::cancel, {76, 28, 50, 14}),
+    button(id::help, text::help, {133, 28, 50, 14}),
 };
 
 constexpr ControlTemplate chooserControls[] = {
     defaultButton(id::choosePrecast, "Prefa"_cz, {9, 9, 50, 14}),
     button(id::chooseSteel, "Ocel"_cz, {65, 9, 50, 14}),
-    button(id::cancel, "Zrušit"_cz, {121, 9, 50, 14}),
+    button(id::cancel, text::cancel, {121, 9, 50, 14}),
 };
 
 // The divider lies between the two lists.
@@ -31,9 +32,9 @@ constexpr ControlTemplate browserControls[] = {
     named(ControlKind::listView, id::items, "items", {143, 7, 410, 263}, style::multipleSelection),
     plain(ControlKind::icon, id::browserIcon, {252, 275, 21, 20}),
     button(id::pickItems, "Načíst do seznamu"_cz, {283, 279, 84, 14}),
-    defaultButton(id::ok, "OK"_cz, {373, 279, 56, 14}),
-    button(id::cancel, "Zrušit"_cz, {435, 279, 56, 14}),
-    button(id::help, "Nápověda"_cz, {497, 279, 56, 14}),
+    defaultButton(id::ok, text::ok, {373, 279, 56, 14}),
+    button(id::cancel, text::cancel, {435, 279, 56, 14}),
+    button(id::help, text::help, {497, 279, 56, 14}),
 };
 
 // ---- item editor
@@ -45,16 +46,15 @@ struct ItemRow {
     std::string_view steel;  // empty: no such row
 };
 constexpr ItemRow itemRows[] = {
-    {id::itemDesignationLabel, id::itemDesignation, "Označení"_cz, "Označení"_cz},
-    {id::itemLengthLabel, id::itemLength, "Délka [mm]"_cz, {}},
-    {id::itemWidthLabel, id::itemWidth, "Šířka [mm]"_cz, "Šířka [mm]"_cz},
-    {id::itemHeightLabel, id::itemHeight, "Výška [mm]"_cz, "Výška [mm]"_cz},
-    {id::itemMaxOpeningLabel, id::itemMaxOpening, "Max.otvor [mm]"_cz, {}},
-    {id::itemWeightLabel, id::itemWeight, "Hmotnost [kg]"_cz, "Hmotnost [kg/m]"_cz},
-    {id::itemQuLabel, id::itemQu, "qu [kN/m]"_cz, "qu [kN/m]"_cz},
-    {id::itemDescriptionLabel, id::itemDescription, "Popis"_cz, "Popis"_cz},
-    {id::itemMarkLabel, id::itemMark, "X (označení pro skladbu v VDLINTEL.TXT)"_cz,
-     "X (označení pro skladbu v VDLINTEL.TXT)"_cz},
+    {id::itemDesignationLabel, id::itemDesignation, text::designation, text::designation},
+    {id::itemLengthLabel, id::itemLength, text::itemLength, {}},
+    {id::itemWidthLabel, id::itemWidth, text::itemWidth, text::itemWidth},
+    {id::itemHeightLabel, id::itemHeight, text::itemHeight, text::itemHeight},
+    {id::itemMaxOpeningLabel, id::itemMaxOpening, text::itemMaxOpening, {}},
+    {id::itemWeightLabel, id::itemWeight, text::itemWeight, text::weightPerMetre},
+    {id::itemQuLabel, id::itemQu, text::itemQu, text::itemQu},
+    {id::itemDescriptionLabel, id::itemDescription, text::description, text::description},
+    {id::itemMarkLabel, id::itemMark, text::itemMark, text::itemMark},
 };
 
 constexpr int itemRowStep = 16;
@@ -85,9 +85,9 @@ constexpr auto itemControls(bool steel, int height) {
         if (!hidden) top += itemRowStep;
     }
     const int buttons = height - 21;
-    *next++ = defaultButton(id::ok, "OK"_cz, {53, buttons, 56, 14});
-    *next++ = button(id::cancel, "Zrušit"_cz, {115, buttons, 56, 14});
-    *next++ = button(id::help, "Nápověda"_cz, {177, buttons, 56, 14});
+    *next++ = defaultButton(id::ok, text::ok, {53, buttons, 56, 14});
+    *next++ = button(id::cancel, text::cancel, {115, buttons, 56, 14});
+    *next++ = button(id::help, text::help, {177, buttons, 56, 14});
     return all;
 }
 
@@ -113,33 +113,33 @@ constexpr ControlTemplate shapeButton(int shape) {
 constexpr auto sectionTypeControls = [] {
     std::array<ControlTemplate, 2 + shapeButtons + 4> all{};
     auto next = all.begin();
-    *next++ = label(id::sectionNameLabel, "Název:"_cz, {7, 9, 28, 8});
+    *next++ = label(id::sectionNameLabel, text::name, {7, 9, 28, 8});
     *next++ = plain(ControlKind::edit, id::sectionName, {37, 7, 133, 12});
     for (int shape = 1; shape <= shapeButtons; ++shape) *next++ = shapeButton(shape);
     *next++ = plain(ControlKind::icon, id::sectionIcon, {7, 54, 17, 16});
-    *next++ = defaultButton(id::ok, "OK"_cz, {30, 56, 44, 14});
-    *next++ = button(id::cancel, "Zrušit"_cz, {78, 56, 44, 14});
-    *next++ = button(id::help, "Nápověda"_cz, {126, 56, 44, 14});
+    *next++ = defaultButton(id::ok, text::ok, {30, 56, 44, 14});
+    *next++ = button(id::cancel, text::cancel, {78, 56, 44, 14});
+    *next++ = button(id::help, text::help, {126, 56, 44, 14});
     return all;
 }();
 
 }  // namespace
 
-constexpr DialogTemplate nameTemplate{"name", "Nový typ"_cz, 190,
+constexpr DialogTemplate nameTemplate{"name", text::newType, 190,
                                       49,     nameControls,  DialogStyle::modal};
-constexpr DialogTemplate chooserTemplate{"chooser", "Databáze"_cz,   180,
+constexpr DialogTemplate chooserTemplate{"chooser", text::catalogue, 180,
                                          32,        chooserControls, DialogStyle::modal};
-constexpr DialogTemplate browserTemplate{"browser", "Databáze"_cz,   560,
+constexpr DialogTemplate browserTemplate{"browser", text::catalogue, 560,
                                          300,       browserControls, DialogStyle::resizable};
 constexpr DialogTemplate precastItemTemplate{"item",
-                                             "Editace"_cz,
+                                             text::itemEditor,
                                              itemEditorWidth,
                                              precastItemHeight,
                                              precastItemControls,
                                              DialogStyle::modal};
-constexpr DialogTemplate steelItemTemplate{"item",          "Editace"_cz,      itemEditorWidth,
+constexpr DialogTemplate steelItemTemplate{"item",          text::itemEditor,  itemEditorWidth,
                                            steelItemHeight, steelItemControls, DialogStyle::modal};
-constexpr DialogTemplate sectionTypeTemplate{
-    "section type", "Přidání typu průřezu"_cz, 177, 77, sectionTypeControls, DialogStyle::modal};
+constexpr DialogTemplate sectionTypeTemplate{"section type",      text::newSectionType, 177, 77,
+                                             sectionTypeControls, DialogStyle::modal};
 
 }  // namespace lx

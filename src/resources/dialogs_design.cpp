@@ -1,4 +1,5 @@
 #include "resources/controls.h"
+#include "resources/strings.h"
 #include "resources/templates.h"
 
 namespace lx {
@@ -12,16 +13,16 @@ constexpr ControlTemplate designControls[] = {
     named(ControlKind::picture, id::sectionPreview, "section", {7, 7, 319, 243},
           style::focusable | style::border),
     plain(ControlKind::editableCombo, id::inPlaceBox, {12, 20, 48, 12}, style::hidden),
-    label(id::propertiesLabel, "Vlastnosti:"_cz, {7, 256, 60, 8}),
+    label(id::propertiesLabel, text::properties, {7, 256, 60, 8}),
     plain(ControlKind::multilineEdit, id::properties, {7, 268, 319, 35},
           style::readOnly | style::noTabStop),
-    radioButton(id::fromPreview, "z náhledu"_cz, {198, 255, 60, 10}),
-    radioButton(id::fromOffer, "z nabídky"_cz, {266, 255, 60, 10}),
+    radioButton(id::fromPreview, text::fromPreview, {198, 255, 60, 10}),
+    radioButton(id::fromOffer, text::fromOffer, {266, 255, 60, 10}),
     plain(ControlKind::tabControl, id::tabs, {333, 7, 200, 296}),
     plain(ControlKind::icon, id::moduleIcon, {7, 306, 21, 20}),
-    defaultButton(id::ok, "OK"_cz, {353, 309, 56, 14}),
-    button(id::cancel, "Zrušit"_cz, {415, 309, 56, 14}),
-    button(id::help, "Nápověda"_cz, {477, 309, 56, 14}),
+    defaultButton(id::ok, text::ok, {353, 309, 56, 14}),
+    button(id::cancel, text::cancel, {415, 309, 56, 14}),
+    button(id::help, text::help, {477, 309, 56, 14}),
 };
 
 constexpr ControlTemplate geometryControls[] = {
@@ -39,15 +40,15 @@ constexpr ControlTemplate geometryControls[] = {
     plain(ControlKind::edit, id::bubbleName, {72, 196, 40, 12}),
     groupBox(id::insertGroup, "Vložit"_cz, {4, 211, 180, 46}),
     checkBox(id::insertBubble, "Bublinu"_cz, {12, 224, 44, 10}),
-    checkBox(id::insertDescription, "Popis"_cz, {12, 240, 44, 10}),
+    checkBox(id::insertDescription, text::description, {12, 240, 44, 10}),
     checkBox(id::insertFoldedSection, "Sklopený řez"_cz, {58, 224, 58, 10}),
     checkBox(id::insertDiagonals, "Úhlopříčky"_cz, {58, 240, 58, 10}),
-    button(id::annotationSettings, "Nastavení..."_cz, {120, 230, 58, 14}),
+    button(id::annotationSettings, text::annotationSettings, {120, 230, 58, 14}),
 };
 
 constexpr ControlTemplate precastControls[] = {
-    button(id::precastCompose, "Skladba automaticky"_cz, {4, 4, 178, 14}),
-    label(id::precastTypeLabel, "Typ:"_cz, {4, 24, 30, 8}),
+    button(id::precastCompose, text::compose, {4, 4, 178, 14}),
+    label(id::precastTypeLabel, text::type, {4, 24, 30, 8}),
     plain(ControlKind::dropDownList, id::precastType, {36, 22, 146, 12}),
     named(ControlKind::listBox, id::precastOffer, "offer", {36, 40, 146, 113},
           style::verticalScroll),
@@ -59,8 +60,8 @@ constexpr ControlTemplate precastControls[] = {
 };
 
 constexpr ControlTemplate steelControls[] = {
-    button(id::steelCompose, "Skladba automaticky"_cz, {4, 4, 178, 14}),
-    label(id::steelTypeLabel, "Typ:"_cz, {4, 24, 30, 8}),
+    button(id::steelCompose, text::compose, {4, 4, 178, 14}),
+    label(id::steelTypeLabel, text::type, {4, 24, 30, 8}),
     plain(ControlKind::dropDownList, id::steelType, {36, 22, 146, 12}),
     named(ControlKind::listBox, id::steelOffer, "offer", {36, 40, 146, 113}, style::verticalScroll),
     iconButton(id::steelAdd, {4, 40, 26, 26}),
@@ -89,8 +90,8 @@ constexpr ControlTemplate libraryControls[] = {
 
 }  // namespace
 
-constexpr DialogTemplate designTemplate{"design", "Návrh překladu"_cz, 540,
-                                        330,      designControls,      DialogStyle::modal};
+constexpr DialogTemplate designTemplate{"design", text::designTitle, 540,
+                                        330,      designControls,    DialogStyle::modal};
 constexpr DialogTemplate geometryTemplate{"geometry", "Geometrie"_cz,   188,
                                           261,        geometryControls, DialogStyle::page};
 constexpr DialogTemplate precastTemplate{"precast", "Prefa překlady"_cz, 186,

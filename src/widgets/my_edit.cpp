@@ -7,7 +7,6 @@ namespace lx {
 
 namespace {
 
-constexpr int wrongNumberCaption = 75;
 constexpr int firstLimitedKey = 32;
 constexpr int lastLimitedKey = 254;
 
@@ -77,8 +76,8 @@ bool CMyEdit::checkAndFormat(Text& text, bool& invalid) {
     invalid = m_decimals >= 0 && !isPlainNumber(text);
     if (m_decimals < 0) return true;
     if (invalid) {
-        m_platform.messageBox({&m_dialog, nullptr}, text, str(wrongNumberCaption),
-                              MessageIcon::stop, MessageButtons::ok);
+        m_platform.messageBox({&m_dialog, nullptr}, text, text::wrongNumber, MessageIcon::stop,
+                              MessageButtons::ok);
         text.clear();
     }
     text = formatFixed(leadingDouble(text), m_decimals);

@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "catalogue/catalogue_file.h"
+#include "resources/strings.h"
 #include "tests/support/catalogues.h"
 #include "tests/support/readable.h"
 
@@ -27,10 +28,12 @@ Catalogue threeTypes() {
 TEST(CatalogueEdit, RefusesNamesThatAreTaken) {
     const Catalogue chain = catalogueOf({{-1, "Čedič"}, {1, "item"}, {-2, "B"}});
     const struct {
-        std::string_view name;
-        int added, renamed;  // the messages, for the first type renamed
-    } cases[] = {
-        {"", 20, 27}, {"Čedič"_cz, 19, 0}, {"čEDIČ"_cz, 19, 19}, {"b", 19, 19}, {"ITEM", 0, 0}};
+        std::string_view name, added, renamed;  // the messages, for the first type renamed
+    } cases[] = {{"", text::designationMissing, text::nameMissing},
+                 {"Čedič"_cz, text::nameTaken, ""},
+                 {"čEDIČ"_cz, text::nameTaken, text::nameTaken},
+                 {"b", text::nameTaken, text::nameTaken},
+                 {"ITEM", "", ""}};
     for (const auto& one : cases) {
         EXPECT_EQ(newTypeRefusal(chain.get(), one.name), one.added) << one.name;
         EXPECT_EQ(renameRefusal(chain.get(), *chain, one.name), one.renamed) << one.name;
