@@ -34,7 +34,7 @@ Text readName(BinaryReader& reader, bool& damaged) {
 
 ProjectList defaultProjects() {
     ProjectList list;
-    list.projects.push_back({0, Text(texts::defaultProject)});
+    list.projects.push_back({0, Text(text::defaultProject)});
     return list;
 }
 

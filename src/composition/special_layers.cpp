@@ -4,17 +4,9 @@
 
 namespace lx {
 
-namespace {
-
-constexpr int insulationName = 83;
-constexpr int spaceName = 94;
-constexpr int monolithName = 95;
-
-}  // namespace
-
 std::string_view specialName(std::int32_t kind) {
-    if (kind == kind::insulation) return str(insulationName);
-    return str(kind == kind::space ? spaceName : monolithName);
+    if (kind == kind::insulation) return text::insulation;
+    return kind == kind::space ? text::space : text::monolith;
 }
 
 void makeSpecial(CRez& layer, std::int32_t kind) {

@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "platform/numbers.h"
+#include "resources/strings.h"
 #include "settings/keys.h"
 
 namespace lx {
@@ -12,7 +13,6 @@ namespace {
 
 constexpr std::string_view usualTextStyles[] = {"ROMANC", "ROMANS", "Standard", "TABULKY"};
 
-constexpr int tooFewEdgesText = 111;
 constexpr int fewestEdges = 3;
 // Bytes of the field in which the number of edges is looked for.
 constexpr std::size_t edgesRead = 19;
@@ -89,8 +89,9 @@ void storeStyle(Profile& settings, const AnnotationStyle& style) {
     settings.apply(changes);
 }
 
-int styleRefusal(const AnnotationStyle& style) {
-    return leadingInt(style.edges.substr(0, edgesRead)) < fewestEdges ? tooFewEdgesText : 0;
+std::string_view styleRefusal(const AnnotationStyle& style) {
+    const bool tooFew = leadingInt(style.edges.substr(0, edgesRead)) < fewestEdges;
+    return tooFew ? text::tooFewEdges : std::string_view();
 }
 
 std::vector<Text> textStyleChoices(std::vector<Text> ofDrawing) {

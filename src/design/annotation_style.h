@@ -40,9 +40,9 @@ AnnotationStyle storedStyle(const Profile& settings);
 // All values or, when the file cannot be written, none; that is not reported. Texts longer than
 // their keys take are cut.
 void storeStyle(Profile& settings, const AnnotationStyle& style);
-// Number of the text that refuses the style, 0 when it may be stored. A polygon needs 3 edges, and
-// the number is looked at also while it is not in use.
-int styleRefusal(const AnnotationStyle& style);
+// The text that refuses the style, empty when it may be stored. A polygon needs 3 edges, and the
+// number is looked at also while it is not in use.
+std::string_view styleRefusal(const AnnotationStyle& style);
 
 // The text styles to choose from: those of the drawing, or a usual few when the host tells none.
 std::vector<Text> textStyleChoices(std::vector<Text> ofDrawing);

@@ -17,8 +17,6 @@ namespace lx {
 
 namespace {
 
-constexpr int defaultEntryName = 89;  // "<výchozí>"
-
 std::optional<int> lastType(const CRez* head, bool (*wanted)(std::int32_t kind)) {
     std::optional<int> type;
     const CRez* layer = head != nullptr ? head->next : nullptr;
@@ -178,7 +176,7 @@ bool DesignModel::shownFits() const {
 }
 
 std::vector<Text> DesignModel::storedLabels() const {
-    std::vector<Text> labels{Text(str(defaultEntryName))};
+    std::vector<Text> labels{Text(text::ownDesign)};
     for (const LibraryEntry& entry : m_stored) labels.push_back(entry.label);
     return labels;
 }

@@ -7,13 +7,11 @@
 #include "composition/layout.h"
 #include "composition/saturate.h"
 #include "platform/numbers.h"
+#include "resources/strings.h"
 
 namespace lx {
 
 namespace {
-
-constexpr int levelRefused = 91;
-constexpr int widthRefused = 92;
 
 constexpr double highestLevel = 150.0;   // metres, and as much below
 constexpr double levelSteps = 200.0001;  // steps per metre; the excess saves 0.005 from 0.00499...
@@ -45,7 +43,7 @@ void setBearing(CRez& head, std::int32_t typed, double openingWidth) {
     head.length = truncateToInt(opening);
 }
 
-CommitAnswer refusal(int message, Text kept) {
+CommitAnswer refusal(std::string_view message, Text kept) {
     CommitAnswer answer;
     answer.message = message;
     answer.kept = std::move(kept);
@@ -54,7 +52,7 @@ CommitAnswer refusal(int message, Text kept) {
 
 CommitAnswer commitLevel(std::int32_t& level, std::string_view typed) {
     const auto value = levelFromText(typed);
-    if (!value) return refusal(levelRefused, levelText(level));
+    if (!value) return refusal(text::levelRefused, levelText(level));
     level = *value;
     CommitAnswer answer;
     answer.changed = true;
@@ -86,7 +84,7 @@ CommitAnswer commitValue(DesignEdit design, const ValueEdit& edit, std::string_v
     if (edit.absoluteOnly) number = saturated(std::abs(std::int64_t{number}));
     if (edit.kind == edit_kind::specialWidth &&
         std::int64_t{freeSpace(head)} - number + *value < 0) {
-        return refusal(widthRefused, formatInt(*value));
+        return refusal(text::widthRefused, formatInt(*value));
     }
     *value = number;
     CommitAnswer answer;

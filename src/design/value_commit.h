@@ -32,8 +32,8 @@ struct EditRequest {
 
 struct CommitAnswer {
     bool changed = false;
-    int message = 0;  // number of the text that refuses; the value then stands as it was
-    Text kept;        // the old value, to be shown again after a refusal
+    std::string_view message;  // the text that refuses; the value then stands as it was
+    Text kept;                 // the old value, to be shown again after a refusal
     // The offers that the value bears on.
     bool precastOffer = false;
     bool steelOffer = false;

@@ -14,11 +14,6 @@ namespace lx {
 
 namespace {
 
-constexpr int warningCaption = 22;
-constexpr int bearingText = 38;
-constexpr int bubbleMissingText = 87;
-constexpr int labelTakenText = 88;
-
 constexpr int helpTopic = 99;
 constexpr int helpTopicFoldedSection = 146;
 
@@ -88,7 +83,7 @@ void CObr1::RedrawPreviews() {
 }
 
 void CObr1::ShowBearing(std::int32_t bearing) {
-    const Text text = fillIn(str(bearingText), {formatInt(bearing)});
+    const Text text = fillIn(text::bearing, {formatInt(bearing)});
     m_window->get<Edit>(id::properties).setText(text);
 }
 
@@ -151,7 +146,7 @@ void CObr1::ShowDesignTypes() {
 
 MessageAnswer CObr1::showMessage(std::string_view text, MessageIcon icon, MessageButtons buttons) {
     return m_context.platform.messageBox(Owner{m_window.get(), m_owner.hostWindow}, text,
-                                         str(warningCaption), icon, buttons);
+                                         text::warning, icon, buttons);
 }
 
 KeyAnswer CObr1::key(const KeyEvent& event) {
@@ -217,16 +212,16 @@ void CObr1::confirm() {
             return;
         case ConfirmationAnswer::bubbleMissing:
             showBubbleField();
-            showMessage(str(bubbleMissingText), MessageIcon::stop, MessageButtons::ok);
+            showMessage(text::bubbleMissing, MessageIcon::stop, MessageButtons::ok);
             return;
         case ConfirmationAnswer::labelTaken:
             m_libraryPage->showDesigns();
             showBubbleField();
-            showMessage(str(labelTakenText), MessageIcon::none, MessageButtons::ok);
+            showMessage(text::labelTaken, MessageIcon::none, MessageButtons::ok);
             return;
         case ConfirmationAnswer::storeFailed:
             m_libraryPage->showDesigns();
-            showMessage(texts::storeFailed, MessageIcon::stop, MessageButtons::ok);
+            showMessage(text::storeFailed, MessageIcon::stop, MessageButtons::ok);
             return;
     }
 }

@@ -12,11 +12,7 @@
 
 namespace lx {
 
-namespace {
-
-constexpr int cataloguesMissingText = 113;
-
-}  // namespace
+namespace {}  // namespace
 
 void CObr1::connect() {
     Dialog& window = *m_window;
@@ -84,7 +80,7 @@ bool CObr1::loadCatalogueOf(CatalogueKind kind, Catalogue& catalogue, CatalogueS
         loadCatalogue(kind, cataloguePath(kind, m_context.host), m_context.files);
     if (!loaded.opened) {
         m_context.platform.messageBox(Owner{m_window.get(), m_owner.hostWindow},
-                                      str(cataloguesMissingText), m_context.host.hostTitle(),
+                                      text::catalogueNotAccessible, m_context.host.hostTitle(),
                                       MessageIcon::stop, MessageButtons::ok);
         return false;
     }

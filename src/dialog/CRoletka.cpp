@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "resources/strings.h"
-
 namespace lx {
 
 namespace {
@@ -94,7 +92,7 @@ bool CRoletka::commit(Message message) {
     if (edit.target.record == nullptr) return message == Message::posted || !tellRefusal();
     DesignModel& model = m_services.model();
     const CommitAnswer answer = commitValue(model.edit(), edit, typed, model.values().openingWidth);
-    if (answer.message != 0) {
+    if (!answer.message.empty()) {
         refuse(answer, message);
         return false;
     }
@@ -116,9 +114,9 @@ void CRoletka::refuse(const CommitAnswer& answer, Message message) {
 }
 
 bool CRoletka::tellRefusal() {
-    const int number = std::exchange(m_untold, 0);
-    if (number == 0) return false;
-    m_services.showMessage(str(number), MessageIcon::stop);
+    const std::string_view refusal = std::exchange(m_untold, {});
+    if (refusal.empty()) return false;
+    m_services.showMessage(refusal, MessageIcon::stop);
     return true;
 }
 

@@ -51,7 +51,7 @@ private:
     ValueEdit m_edit;
     EditTarget m_lastTarget;
     Text m_historySection;
-    int m_untold = 0;              // text of a refusal whose message is posted; 0 = none
+    std::string_view m_untold;     // text of a refusal whose message is posted
     Picture* m_picture = nullptr;  // that the box stands in
     bool m_left = false;           // the event that took the focus is still being handled
 };

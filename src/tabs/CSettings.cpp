@@ -122,12 +122,12 @@ void CSettings::refreshEnabled() {
 
 void CSettings::onOk() {
     const AnnotationStyle chosen = style();
-    if (const int refusal = styleRefusal(chosen)) {
+    if (const std::string_view refusal = styleRefusal(chosen); !refusal.empty()) {
         if (m_edges.enabled()) {
             m_edges.focus();
             m_edges.selectAll();
         }
-        m_context.platform.messageBox(Owner{m_window.get(), nullptr}, str(refusal),
+        m_context.platform.messageBox(Owner{m_window.get(), nullptr}, refusal,
                                       m_context.host.hostTitle(), MessageIcon::stop,
                                       MessageButtons::ok);
         return;

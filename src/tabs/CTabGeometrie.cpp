@@ -36,7 +36,7 @@ CTabGeometrie::CTabGeometrie(DesignServices& services)
       m_annotationSettings(m_window->get<Button>(id::annotationSettings)) {
     for (std::size_t i = 0; i < std::size(bendButtons); ++i) {
         Button& button = m_window->get<Button>(bendButtons[i]);
-        dress(button, icon::bends[i], texts::bends[i]);
+        dress(button, icon::bends[i], text::bends[i]);
         button.onClick = [this, shape = static_cast<int>(i)] { m_services.SetBends(shape); };
     }
     m_annotationSettings.onClick = [this] { openAnnotationSettings(); };

@@ -10,14 +10,6 @@ namespace lx {
 
 namespace {
 
-constexpr int nameLabel = 3;
-constexpr int nameTaken = 19;
-constexpr int nameMissing = 27;
-constexpr int askDelete = 31;
-constexpr int doesNotFit = 96;
-constexpr int newProjectTitle = 97;
-constexpr int isReadOnly = 112;
-
 KeyAnswer onDelete(const KeyEvent& event, const std::function<bool()>& command) {
     const bool plain = !event.ctrl && !event.shift && !event.alt;
     if (event.key != key::del || !plain) return KeyAnswer::pass;
@@ -68,7 +60,7 @@ void CTabKnihovna::useStored(int entry) {
     m_services.ShowBearing(first != nullptr ? shownBearing(first->length, opening) : 0);
     const bool fits = model.shownFits();
     m_services.EnableConfirmation(fits);
-    if (!fits) m_services.showMessage(str(doesNotFit), MessageIcon::stop);
+    if (!fits) m_services.showMessage(text::doesNotFit, MessageIcon::stop);
 }
 
 void CTabKnihovna::changeProject() {
@@ -84,14 +76,14 @@ void CTabKnihovna::newProject() {
     LibrarySession& library = m_services.library();
     CAddVyrobce dialog(m_services.context().platform, m_services.context().host,
                        Owner{&m_services.window(), nullptr});
-    dialog.title = str(newProjectTitle);
-    dialog.label = str(nameLabel);
+    dialog.title = text::newProject;
+    dialog.label = text::name;
     dialog.name = library.proposedProjectName();
     while (dialog.DoModal()) {
         if (dialog.name.empty()) {
-            dialog.showMessage(str(nameMissing));
+            dialog.showMessage(text::nameMissing);
         } else if (library.hasProject(dialog.name)) {
-            dialog.showMessage(str(nameTaken));
+            dialog.showMessage(text::nameTaken);
         } else {
             library.addProject(dialog.name);
             showProjects();
@@ -102,11 +94,11 @@ void CTabKnihovna::newProject() {
 
 CTabKnihovna::Deletion CTabKnihovna::askDeletion() {
     if (m_services.library().readOnly()) {
-        m_services.showMessage(str(isReadOnly), MessageIcon::none);
+        m_services.showMessage(text::libraryReadOnly, MessageIcon::none);
         return Deletion::refused;
     }
     const MessageAnswer answer =
-        m_services.showMessage(str(askDelete), MessageIcon::question, MessageButtons::yesNo);
+        m_services.showMessage(text::askDeleteEntry, MessageIcon::question, MessageButtons::yesNo);
     return answer == MessageAnswer::yes ? Deletion::agreed : Deletion::declined;
 }
 

@@ -13,9 +13,9 @@ CTabMonolit::CTabMonolit(DesignServices& services)
       m_add(m_window->get<Button>(id::monolithAdd)),
       m_remove(m_window->get<Button>(id::monolithRemove)),
       m_insulation(m_window->get<Button>(id::monolithInsulation)) {
-    dress(m_add, icon::monolith, texts::addMonolith);
-    dress(m_remove, icon::remove, texts::removeLayer);
-    dress(m_insulation, icon::insulation, texts::addInsulation);
+    dress(m_add, icon::monolith, text::addMonolith);
+    dress(m_remove, icon::remove, text::removeLayer);
+    dress(m_insulation, icon::insulation, text::addInsulation);
     m_add.onClick = [this] { insert(addMonolith); };
     m_remove.onClick = [this] { m_services.RemoveCurrent(); };
     m_insulation.onClick = [this] { insert(addSteelInsulation); };

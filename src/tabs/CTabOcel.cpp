@@ -14,6 +14,6 @@ constexpr OfferPageControls controls{id::steelType,  id::steelOffer,    id::stee
 }  // namespace
 
 CTabOcel::CTabOcel(DesignServices& services)
-    : OfferPage(services, steelTemplate, controls, texts::addSection) {}
+    : OfferPage(services, steelTemplate, controls, text::addSection) {}
 
 }  // namespace lx

@@ -14,6 +14,6 @@ constexpr OfferPageControls controls{id::precastType,  id::precastOffer,    id::
 }  // namespace
 
 CTabPrefa::CTabPrefa(DesignServices& services)
-    : OfferPage(services, precastTemplate, controls, texts::addPrecast) {}
+    : OfferPage(services, precastTemplate, controls, text::addPrecast) {}
 
 }  // namespace lx

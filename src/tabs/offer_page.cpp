@@ -21,9 +21,9 @@ OfferPage::OfferPage(DesignServices& services, const DialogTemplate& layout,
 
 void OfferPage::connect(const OfferPageControls& controls, std::string_view addTooltip) {
     dress(m_add, icon::add, addTooltip);
-    dress(m_remove, icon::remove, texts::removeLayer);
-    dress(m_insulation, icon::insulation, texts::addInsulation);
-    dress(m_space, icon::space, texts::addSpace);
+    dress(m_remove, icon::remove, text::removeLayer);
+    dress(m_insulation, icon::insulation, text::addInsulation);
+    dress(m_space, icon::space, text::addSpace);
     m_add.onClick = [this] { addSelected(); };
     m_remove.onClick = [this] { m_services.RemoveCurrent(); };
     m_insulation.onClick = [this] {
@@ -86,7 +86,7 @@ void OfferPage::refreshOfferLooks() {
 
 void OfferPage::finish(CommandAnswer answer) {
     if (answer == CommandAnswer::wrongType) {
-        m_services.showMessage(texts::wrongType, MessageIcon::stop);
+        m_services.showMessage(text::wrongType, MessageIcon::stop);
         return;
     }
     if (answer == CommandAnswer::done) m_services.Relayout();

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "design/annotation_style.h"
+#include "resources/strings.h"
 #include "tests/support/memory_files.h"
 
 namespace lx {
@@ -53,11 +54,11 @@ TEST(StyleRules, APolygonNeedsThreeEdgesWhetherItIsUsedOrNot) {
     };
     for (const bool used : {false, true}) {
         for (const char* typed : {"3", "3.7", " 12x", "99999999999"}) {
-            EXPECT_EQ(refusal(typed, used), 0) << typed;
+            EXPECT_EQ(refusal(typed, used), "") << typed;
         }
         for (const char* typed :
              {"2", "2.9", "-5", "", "three", "0000000000000000002", "00000000000000000003"}) {
-            EXPECT_EQ(refusal(typed, used), 111) << typed;
+            EXPECT_EQ(refusal(typed, used), text::tooFewEdges) << typed;
         }
     }
 }

@@ -3,6 +3,7 @@
 
 #include "composition/layout.h"
 #include "design/value_commit.h"
+#include "resources/strings.h"
 #include "tests/support/designs.h"
 
 namespace lx {
@@ -48,7 +49,7 @@ TEST_F(ValueCommit, LevelsAreMetresInStepsOfFiveMillimetres) {
     for (const char* typed : {"150.001", "-150.001", "1e999", "-1e999"}) {
         const CommitAnswer answer = typeLevel(typed);
         EXPECT_FALSE(answer.changed) << typed;
-        EXPECT_EQ(answer.message, 91) << typed;
+        EXPECT_EQ(answer.message, text::levelRefused) << typed;
         EXPECT_EQ(answer.kept, "-1.250") << typed;
         EXPECT_EQ(head()->height, -1250) << typed;
     }
@@ -66,13 +67,13 @@ TEST_F(ValueCommit, OnlyTheWidthOfASpecialLayerIsTestedAgainstTheWall) {
     const EditTarget width{space, EditField::width};
 
     const CommitAnswer refused = type(width, "141", edit_kind::specialWidth, true);
-    EXPECT_EQ(refused.message, 92);
+    EXPECT_EQ(refused.message, text::widthRefused);
     EXPECT_EQ(refused.kept, "100");
     EXPECT_EQ(space->width, 100);
     EXPECT_TRUE(type(width, "-140", edit_kind::specialWidth, true).changed);
     EXPECT_EQ(space->width, 140);
     layOut(*head());
-    EXPECT_EQ(type(width, "2147483647", edit_kind::specialWidth, true).message, 92);
+    EXPECT_EQ(type(width, "2147483647", edit_kind::specialWidth, true).message, text::widthRefused);
     EXPECT_TRUE(type(width, "500", edit_kind::number).changed);
     EXPECT_EQ(space->width, 500);
 }
