@@ -9,7 +9,6 @@ namespace lx {
 
 namespace {
 
-constexpr int titleText = 90;
 constexpr Point title{2, 5};
 
 void drawRecord(PlanSheet& sheet, const PlanInput& input, const CRez& record) {
@@ -40,7 +39,7 @@ HitRegions drawPlan(Canvas& canvas, const PlanInput& input) {
     PlanSheet sheet = planSheet(canvas, input);
     drawRecords(sheet, input);
     canvas.setFont(labelFont());
-    canvas.drawText(title, str(titleText));
+    canvas.drawText(title, text::planTitle);
     return newestFirst(std::move(sheet.regions));
 }
 

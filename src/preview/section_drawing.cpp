@@ -14,11 +14,6 @@ namespace lx {
 
 namespace {
 
-constexpr int titleText = 79;
-constexpr int exteriorText = 80;
-constexpr int interiorText = 81;
-constexpr int openingFormat = 82;
-
 constexpr Pen markerPen{previewWhite, 1, PenStyle::dot};
 constexpr int markerTop = -500;  // px
 constexpr int markerBottom = 500;
@@ -45,15 +40,15 @@ void drawDropMarker(SectionSheet& sheet, int marker) {
 }
 
 void drawSides(Canvas& canvas, const SectionInput& input) {
-    canvas.drawText(title, str(titleText));
-    const std::string_view left = str(input.exteriorLeft ? exteriorText : interiorText);
-    const std::string_view right = str(input.exteriorLeft ? interiorText : exteriorText);
+    canvas.drawText(title, text::sectionTitle);
+    const std::string_view left = input.exteriorLeft ? text::exterior : text::interior;
+    const std::string_view right = input.exteriorLeft ? text::interior : text::exterior;
     canvas.drawText(side, left);
     canvas.drawText({input.client.width - canvas.measure(right).width - margin, side.y}, right);
 }
 
 void drawOpeningWidth(Canvas& canvas, const SectionInput& input) {
-    const Text text = fillIn(str(openingFormat), {formatInt(shownOpeningSize(input.openingWidth))});
+    const Text text = fillIn(text::openingWidth, {formatInt(shownOpeningSize(input.openingWidth))});
     const Size size = canvas.measure(text);
     canvas.drawText(
         {input.client.width - size.width - margin, input.client.height - size.height - margin},

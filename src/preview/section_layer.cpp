@@ -12,9 +12,6 @@ constexpr int fine = 1;
 constexpr int inset = 2;     // from the layer's edges to the lines of its symbol
 constexpr int halfMark = 2;  // of the square in the middle of a layer
 
-constexpr int thicknessWord = 76;
-constexpr int widthWord = 77;
-constexpr int heightWord = 78;
 constexpr Point firstValue{10, 80};
 constexpr int leaderStart = 60;  // px from the left
 constexpr int mirrorAbove = 55;  // px from the layer's top up to the button's
@@ -39,7 +36,7 @@ public:
 private:
     void drawShape(std::int32_t shape);
     void drawInsulation();
-    int drawValue(int y, int word, std::int32_t value, int kind, EditField field);
+    int drawValue(int y, std::string_view word, std::int32_t value, int kind, EditField field);
 
     SectionSheet& m_sheet;
     const CRez& m_layer;
@@ -121,10 +118,11 @@ void LayerDrawing::drawMirrorButton(Size size) {
 }
 
 // Answers the height of the line.
-int LayerDrawing::drawValue(int y, int word, std::int32_t value, int kind, EditField field) {
+int LayerDrawing::drawValue(int y, std::string_view word, std::int32_t value, int kind,
+                            EditField field) {
     Canvas& canvas = m_sheet.canvas;
-    canvas.drawText({firstValue.x, y}, str(word));
-    const int x = firstValue.x + canvas.measure(str(word)).width;
+    canvas.drawText({firstValue.x, y}, word);
+    const int x = firstValue.x + canvas.measure(word).width;
     const Text number = formatInt(value);
     const Size size = canvas.measure(number);
     canvas.drawText({x, y}, number);
@@ -136,10 +134,10 @@ void LayerDrawing::drawValues() {
     const bool insulation = m_layer.kind == kind::insulation;
     m_sheet.canvas.setFont(labelFont());
     int y = firstValue.y;
-    y += drawValue(y, insulation ? thicknessWord : widthWord, m_layer.width, region::specialWidth,
-                   EditField::width);
+    y += drawValue(y, insulation ? text::thickness : text::width, m_layer.width,
+                   region::specialWidth, EditField::width);
     if (insulation || m_layer.kind == kind::monolith) {
-        y += drawValue(y, heightWord, m_layer.height, region::number, EditField::height);
+        y += drawValue(y, text::height, m_layer.height, region::number, EditField::height);
     }
     m_sheet.canvas.setPen({m_color, fine});
     m_sheet.line({{leaderStart, y}, m_middle});
