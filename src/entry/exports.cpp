@@ -18,14 +18,6 @@ constexpr double widestWall = 2000.0;       // mm
 constexpr double thinnestWall = 70.0;       // mm
 constexpr double narrowestOpening = 300.0;  // mm
 
-namespace message {
-constexpr int notGiven = 16;
-constexpr int warning = 22;
-constexpr int wallTooWide = 70;
-constexpr int wallTooThin = 72;
-constexpr int openingTooNarrow = 73;
-}  // namespace message
-
 // The exported functions have no argument that could name it.
 CLXdata6dlgApp* g_application = nullptr;
 
@@ -83,12 +75,12 @@ int merge(const char* sourcePath, const char* targetFolder, int mode) noexcept {
 
 }  // namespace
 
-int refusedBy(double openingWidth, double wallThickness) {
-    if (wallThickness > widestWall) return message::wallTooWide;
+std::string_view refusedBy(double openingWidth, double wallThickness) {
+    if (wallThickness > widestWall) return text::wallTooWide;
     // So written that not a number fails.
-    if (!(wallThickness >= thinnestWall)) return message::wallTooThin;
-    if (!(openingWidth >= narrowestOpening)) return message::openingTooNarrow;
-    return 0;
+    if (!(wallThickness >= thinnestWall)) return text::wallTooThin;
+    if (!(openingWidth >= narrowestOpening)) return text::openingTooNarrow;
+    return {};
 }
 
 void copyResultText(std::string_view text, char* buffer) {
@@ -99,9 +91,10 @@ void copyResultText(std::string_view text, char* buffer) {
 
 int designCall(CLXdata6dlgApp& app, const DesignArguments& arguments) {
     Context& context = app.context();
-    if (const int refusal = refusedBy(arguments.openingWidth, arguments.wallThickness)) {
-        context.platform.messageBox(Owner{nullptr, arguments.parent}, str(refusal),
-                                    str(message::warning), MessageIcon::stop, MessageButtons::ok);
+    const std::string_view refusal = refusedBy(arguments.openingWidth, arguments.wallThickness);
+    if (!refusal.empty()) {
+        context.platform.messageBox(Owner{nullptr, arguments.parent}, refusal, text::warning,
+                                    MessageIcon::stop, MessageButtons::ok);
         return LX_DIALOG_CANCEL;
     }
     store(context.values, arguments);
@@ -115,8 +108,7 @@ int designCall(CLXdata6dlgApp& app, const DesignArguments& arguments) {
         outcome.result = LX_DIALOG_FAILED;
     }
     if (arguments.resultText) {
-        copyResultText(outcome.text.empty() ? str(message::notGiven) : outcome.text,
-                       arguments.resultText);
+        copyResultText(outcome.text.empty() ? text::notGiven : outcome.text, arguments.resultText);
     }
     if (arguments.resultA) *arguments.resultA = outcome.a;
     if (arguments.resultB) *arguments.resultB = outcome.b;

@@ -161,11 +161,3 @@ inline constexpr std::string_view bends[] = {"Zrušit zalomení"_cz, "1 zalomen�
 inline constexpr std::string_view shapes[] = {"I"_cz, "L"_cz, "U"_cz};
 
 }  // namespace lx::text
-
-namespace lx {
-
-// For what does not go by names yet.
-std::string_view str(int number);
-namespace texts = text;
-
-}  // namespace lx

@@ -3,6 +3,7 @@
 
 #include <limits>
 
+#include "resources/strings.h"
 #include "tests/entry/fake_modules.h"
 
 namespace lx {
@@ -11,15 +12,13 @@ namespace {
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 
 TEST(DesignCall, RefusesTheWallBeforeTheOpening) {
-    const int tooWide = refusedBy(1200, 3000);
-    const int tooThin = refusedBy(1200, 20);
-    const int tooNarrow = refusedBy(200, 300);
-    EXPECT_EQ(refusedBy(100, 2000.001), tooWide);
-    EXPECT_EQ(refusedBy(100, 69.999), tooThin);
-    EXPECT_EQ(refusedBy(1200, nan), tooThin);
-    EXPECT_EQ(refusedBy(299.999, 70), tooNarrow);
-    EXPECT_EQ(refusedBy(nan, 2000), tooNarrow);
-    EXPECT_EQ(refusedBy(300, 2000) + refusedBy(12000, 70), 0);
+    EXPECT_EQ(refusedBy(100, 2000.001), text::wallTooWide);
+    EXPECT_EQ(refusedBy(100, 69.999), text::wallTooThin);
+    EXPECT_EQ(refusedBy(1200, nan), text::wallTooThin);
+    EXPECT_EQ(refusedBy(299.999, 70), text::openingTooNarrow);
+    EXPECT_EQ(refusedBy(nan, 2000), text::openingTooNarrow);
+    EXPECT_EQ(refusedBy(300, 2000), "");
+    EXPECT_EQ(refusedBy(12000, 70), "");
 }
 
 TEST(DesignCall, NullPointersAreNotFollowed) {

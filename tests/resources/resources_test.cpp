@@ -5,7 +5,6 @@
 
 #include "platform/recording_canvas.h"
 #include "resources/icons.h"
-#include "resources/strings.h"
 #include "resources/templates.h"
 
 namespace lx {
@@ -61,13 +60,6 @@ TEST(Icons, EveryNumberThatDialogsAskForPaintsInsideItsSize) {
         EXPECT_FALSE(paintIcon(canvas, number, {32, 32}));
     }
     EXPECT_TRUE(canvas.empty());
-}
-
-TEST(Strings, AreEmptyWhereANumberHasNone) {
-    for (const int number : {-1, 0, 14, 71, 93, 115, 116, 100000}) {
-        EXPECT_EQ(str(number), "");
-        EXPECT_EQ(*str(number).data(), '\0');
-    }
 }
 
 }  // namespace
