@@ -5,14 +5,6 @@
 
 namespace lx {
 
-namespace {
-
-void writeInt(Profile& file, const settings::TextKey& key, int value) {
-    file.writeInt(key.section, key.key, value);
-}
-
-}  // namespace
-
 DialogSettings::DialogSettings(Files& files, const Path& dataFolder)
     : m_user(files, dataFolder + Path(settings::userFile)),
       m_dialog(files, dataFolder + Path(settings::dialogFile)) {}
@@ -22,8 +14,7 @@ Annotation DialogSettings::annotation() const {
 }
 
 void DialogSettings::storeAnnotation(const Annotation& annotation) {
-    const auto& key = settings::description;
-    m_user.writeInt(key.section, key.key, settingFrom(annotation));
+    m_user.writeInt(settings::description, settingFrom(annotation));
 }
 
 bool DialogSettings::bearingCheck() const {
@@ -31,8 +22,7 @@ bool DialogSettings::bearingCheck() const {
 }
 
 void DialogSettings::storeBearingCheck(bool on) {
-    const auto& key = settings::checkLength;
-    m_user.writeInt(key.section, key.key, on ? 1 : 0);
+    m_user.writeInt(settings::checkLength, on ? 1 : 0);
 }
 
 int DialogSettings::tab() const {
@@ -40,7 +30,7 @@ int DialogSettings::tab() const {
 }
 
 void DialogSettings::storeTab(int index) {
-    writeInt(m_dialog, settings::tab, index);
+    m_dialog.write(settings::tab, formatInt(index));
 }
 
 int DialogSettings::precastType() const {
@@ -48,7 +38,7 @@ int DialogSettings::precastType() const {
 }
 
 void DialogSettings::storePrecastType(int type) {
-    writeInt(m_dialog, settings::precastType, type);
+    m_dialog.write(settings::precastType, formatInt(type));
 }
 
 int DialogSettings::steelType() const {
@@ -56,7 +46,7 @@ int DialogSettings::steelType() const {
 }
 
 void DialogSettings::storeSteelType(int type) {
-    writeInt(m_dialog, settings::steelType, type);
+    m_dialog.write(settings::steelType, formatInt(type));
 }
 
 Text DialogSettings::bubbleName() const {
@@ -64,7 +54,7 @@ Text DialogSettings::bubbleName() const {
 }
 
 void DialogSettings::storeBubbleName(std::string_view name) {
-    m_dialog.write(settings::bubbleName.section, settings::bubbleName.key, name);
+    m_dialog.write(settings::bubbleName, name);
 }
 
 }  // namespace lx

@@ -15,7 +15,7 @@ EraseChoice toggleLintel(EraseChoice choice, bool checked) {
 }
 
 void storeChoice(Profile& settings, EraseChoice choice) {
-    settings.writeInt(settings::lintelErase.section, settings::lintelErase.key, choice.elements);
+    settings.writeInt(settings::lintelErase, choice.elements);
 }
 
 }  // namespace lx

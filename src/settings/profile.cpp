@@ -277,8 +277,8 @@ bool Profile::write(std::string_view section, std::string_view key, std::string_
     return apply({&change, 1});
 }
 
-bool Profile::writeInt(std::string_view section, std::string_view key, std::int32_t value) {
-    return write(section, key, formatInt(value));
+bool Profile::writeInt(const settings::IntKey& key, std::int32_t value) {
+    return write(key.section, key.key, formatInt(value));
 }
 
 bool Profile::erase(std::string_view section, std::string_view key) {

@@ -57,7 +57,10 @@ public:
     // is there already. False when the file could not be written, or exists but cannot be read, or
     // the key is no possible one (empty, with "=" or a line break, or beginning with "[").
     bool write(std::string_view section, std::string_view key, std::string_view value);
-    bool writeInt(std::string_view section, std::string_view key, std::int32_t value);
+    bool write(const settings::TextKey& key, std::string_view value) {
+        return write(key.section, key.key, value);
+    }
+    bool writeInt(const settings::IntKey& key, std::int32_t value);
     bool erase(std::string_view section, std::string_view key);
     // Several values in one go: the file is replaced once, with all of them or none, and holds what
     // it would after one change after another. Takes time in proportion to the file and the

@@ -151,8 +151,8 @@ TEST_F(Browser, StandAloneStartsWhereItWasLeft) {
     });
     EXPECT_EQ(standAlone(), 2);
     Profile profile(bench.files(), bench.dataFolder() + "VD_preklady.dat");
-    profile.writeInt("TAB_PREFA", "LIST1", 3);
-    profile.writeInt("TAB_PREFA", "LIST2", 2147483647);
+    profile.write("TAB_PREFA", "LIST1", "3");
+    profile.write("TAB_PREFA", "LIST2", "2147483647");
     press("Databáze", "Prefa");
     in(alfa, [](Driver& d) {
         EXPECT_EQ(rows(d), "[a10] a2 a1");

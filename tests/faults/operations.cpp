@@ -345,10 +345,10 @@ void addSettingsOperations(std::vector<Operation>& all) {
         {"first setting", [](const Path&) {},
          [](const Path& folder) {
              return answer(
-                 Profile(systemFiles(), folder + "set").writeInt(section, "DESCRIPTION", 7));
+                 Profile(systemFiles(), folder + "set").writeInt(settings::description, 7));
          }});
     all.push_back(setting("setting", [](const Path& file) {
-        return answer(Profile(systemFiles(), file).write(section, "STYLE", "Standard"));
+        return answer(Profile(systemFiles(), file).write(settings::textStyle, "Standard"));
     }));
     all.push_back(setting("erase choice", [](const Path& file) {
         Profile profile(systemFiles(), file);
