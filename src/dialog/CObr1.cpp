@@ -120,7 +120,7 @@ void CObr1::RefreshAvailability() {
 
 void CObr1::RebuildPrecastOffer() {
     m_model.rebuildPrecastOffer(m_precast->selectedType());
-    if (!m_opening) m_precast->showOffer();
+    m_precast->showOffer();
     EndEdit();
     RefreshAvailability();
     RefreshProperties();
@@ -128,20 +128,16 @@ void CObr1::RebuildPrecastOffer() {
 
 void CObr1::RebuildSteelOffer() {
     m_model.rebuildSteelOffer(m_steel->selectedType());
-    if (!m_opening) m_steel->showOffer();
+    m_steel->showOffer();
     RefreshAvailability();
     RefreshProperties();
 }
 
 void CObr1::ShowDesignTypes() {
-    if (const auto type = m_model.precastTypeUsed()) {
-        m_precast->selectType(*type);
-        RebuildPrecastOffer();
-    }
-    if (const auto type = m_model.steelTypeUsed()) {
-        m_steel->selectType(*type);
-        RebuildSteelOffer();
-    }
+    if (const auto type = m_model.precastTypeUsed()) m_precast->selectType(*type);
+    if (const auto type = m_model.steelTypeUsed()) m_steel->selectType(*type);
+    RebuildPrecastOffer();
+    RebuildSteelOffer();
 }
 
 MessageAnswer CObr1::showMessage(std::string_view text, MessageIcon icon, MessageButtons buttons) {

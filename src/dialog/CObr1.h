@@ -70,7 +70,8 @@ private:
 
     // ---- what the services are made of
     void ShowTab(int index);
-    // The "Typ:" boxes show the types of the design's last precast and last steel layer.
+    // The "Typ:" boxes show the types of the design's last precast and last steel layer; both
+    // offers are those of the types shown.
     void ShowDesignTypes();
     void RedrawPreviews();
 
@@ -118,8 +119,6 @@ private:
     std::unique_ptr<CTabMonolit> m_monolith;
     std::unique_ptr<CTabKnihovna> m_libraryPage;
     std::optional<CatalogueElement> m_browserElement;  // that the last browser showed first
-    // The offers are made several times while the dialog opens; their lists are filled at its end.
-    bool m_opening = false;
     int m_tab = page::geometry;
     PropertiesSource m_source = PropertiesSource::offer;
     int m_helpTopic = 0;

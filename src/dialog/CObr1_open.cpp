@@ -44,13 +44,9 @@ void CObr1::connect() {
 void CObr1::open() {
     connect();
     if (!loadCatalogues()) return m_window->end(id::cancel);
-    m_opening = true;
     m_model.startDesign();
     makePages();
     fillTypeBoxes();
-    RebuildPrecastOffer();
-    RebuildSteelOffer();
-    m_source = PropertiesSource::offer;
     m_window->get<RadioButton>(id::fromOffer).check(true);
     m_library.LoadProjects();
     m_libraryPage->showProjects();
@@ -59,6 +55,8 @@ void CObr1::open() {
     m_geometry->initialise();
     m_model.takeOpeningBlock(m_context.host.unitsPerMetre());
     Relayout();
+    // The offers are made here and not again: when the geometry page is the one to be shown, its
+    // plan replaces the bearing that was handed over by the overhang that it measures.
     ShowDesignTypes();
     m_library.LoadLibrary(m_model);
     m_libraryPage->showDesigns();
@@ -68,8 +66,6 @@ void CObr1::open() {
 
 bool CObr1::loadCatalogues() {
     ModuleValues& values = m_context.values;
-    values.precast.reset();
-    values.steel.reset();
     return loadCatalogueOf(CatalogueKind::precast, values.precast, values.precastState) &&
            loadCatalogueOf(CatalogueKind::steel, values.steel, values.steelState);
 }
@@ -127,10 +123,7 @@ void CObr1::readHandOver() {
     const Path path = handOverPath(m_context.files);
     HandOverRead read = lx::ReadHandOver(path, m_context.files);
     m_context.files.remove(path);
-    if (!read.present) return;
     m_model.adoptHandOver(std::move(read.design));
-    RebuildPrecastOffer();
-    RebuildSteelOffer();
 }
 
 void CObr1::restoreCheckBoxes() {
@@ -144,9 +137,6 @@ void CObr1::showStoredTab() {
     const int index = stored >= 0 && stored < page::count ? stored : page::geometry;
     m_window->get<TabControl>(id::tabs).select(index);
     ShowTab(index);
-    m_opening = false;
-    RebuildPrecastOffer();
-    RebuildSteelOffer();
     pages()[static_cast<std::size_t>(index)]->window().focusFirst();
 }
 

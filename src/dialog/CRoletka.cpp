@@ -97,9 +97,11 @@ bool CRoletka::commit(Message message) {
         return false;
     }
     if (!answer.changed) return true;
-    m_services.Relayout();
+    // The offers come first: the plan that is drawn anew measures the overhang on the first layer,
+    // which may be a millimetre less than the bearing that was typed.
     if (answer.precastOffer) m_services.RebuildPrecastOffer();
     if (answer.steelOffer) m_services.RebuildSteelOffer();
+    m_services.Relayout();
     return true;
 }
 
