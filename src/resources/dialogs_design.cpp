@@ -10,19 +10,19 @@ namespace {
 
 // The tab control holds the largest page below two rows of tabs.
 constexpr ControlTemplate designControls[] = {
-    named(ControlKind::picture, id::sectionPreview, "section", {7, 7, 319, 243},
-          style::focusable | style::border),
-    plain(ControlKind::editableCombo, id::inPlaceBox, {12, 20, 48, 12}, style::hidden),
+    plain(ControlKind::tabControl, id::tabs, {333, 7, 200, 296}),
     label(id::propertiesLabel, text::properties, {7, 256, 60, 8}),
     plain(ControlKind::multilineEdit, id::properties, {7, 268, 319, 35},
           style::readOnly | style::noTabStop),
     radioButton(id::fromPreview, text::fromPreview, {198, 255, 60, 10}),
     radioButton(id::fromOffer, text::fromOffer, {266, 255, 60, 10}),
-    plain(ControlKind::tabControl, id::tabs, {333, 7, 200, 296}),
     plain(ControlKind::icon, id::moduleIcon, {7, 306, 21, 20}),
     defaultButton(id::ok, text::ok, {353, 309, 56, 14}),
     button(id::cancel, text::cancel, {415, 309, 56, 14}),
     button(id::help, text::help, {477, 309, 56, 14}),
+    named(ControlKind::picture, id::sectionPreview, "section", {7, 7, 319, 243},
+          style::focusable | style::border),
+    plain(ControlKind::editableCombo, id::inPlaceBox, {12, 20, 48, 12}, style::hidden),
 };
 
 constexpr ControlTemplate geometryControls[] = {
