@@ -5,6 +5,7 @@
 
 #include "composition/library.h"
 #include "composition/projects.h"
+#include "tests/tabs/foreign_commands.h"
 
 namespace lx {
 namespace {
@@ -39,6 +40,22 @@ TEST_F(DesignDialog, ProjectsAreReadUnderTheLock) {
         EXPECT_EQ(d.rowCount("Akce"), 2);
         d.press("Zrušit");
     });
+}
+
+// A host may handle messages while it is asked for the lock, and while a message box is open.
+TEST_F(DesignDialog, WhatArrivesBeforeItStandsIsRefused) {
+    bench.host().beforeLock = [this] { sendEverything(bench.platform()); };
+    run([](Driver& d) {
+        EXPECT_EQ(d.text("#1110"), "002");
+        d.press("Zrušit");
+    });
+    bench.host().catalogue = bench.folder() + "missing" + std::string(separator);
+    bench.user().then([this](Driver& d) {
+        EXPECT_EQ(d.messageBox().text, "Databáze překladů není přístupná");
+        sendEverything(bench.platform());
+        d.answer("OK");
+    });
+    EXPECT_EQ(run(), 2);
 }
 
 TEST_F(DesignDialog, TheBubbleFieldIsCutToTheLabelAtTheNextChangeOfTheDesign) {

@@ -177,16 +177,18 @@ void HeadlessDialog::closeWindow() {
 }
 
 void HeadlessDialog::checkOnTop(const char* act) const {
-    if (m_platform.activeDialog() == this) return;
+    const bool active = m_platform.activeDialog() == this;
+    if (active && m_visible) return;
     const std::string what = "cannot " + std::string(act) + " in " + m_name + ": ";
+    if (active) throw std::logic_error(what + "the dialog does not stand yet");
     if (m_closed || !m_running) throw std::logic_error(what + "the dialog is not open");
     if (m_platform.openPopup()) throw std::logic_error(what + "a popup menu is open");
     if (const HeadlessMessageBox* box = m_platform.openMessageBox()) {
         throw std::logic_error(what + "the message box \"" + toUtf8(box->message) + "\" is open");
     }
-    const HeadlessDialog* active = m_platform.activeDialog();
-    throw std::logic_error(what + (active ? active->name() + " stands before it"
-                                          : "what stood before it is only just closing"));
+    const HeadlessDialog* top = m_platform.activeDialog();
+    throw std::logic_error(what + (top ? top->name() + " stands before it"
+                                       : "what stood before it is only just closing"));
 }
 
 void HeadlessDialog::settle() const {

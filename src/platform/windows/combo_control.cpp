@@ -49,6 +49,7 @@ LRESULT CALLBACK WindowsComboBox::fieldProcedure(HWND window, UINT message, WPAR
     if (message == WM_NCDESTROY) SetWindowLongPtrW(window, GWLP_USERDATA, 0);
     if (self->window()) {
         try {
+            if (self->refuses(message)) return 0;
             if (const auto result = filterCharacters(window, message, wParam)) return *result;
             const LRESULT result = CallWindowProcW(before, window, message, wParam, lParam);
             if (message == WM_SETFOCUS) self->dialog().root().focusArrived(*self);

@@ -72,6 +72,17 @@ WindowsPlatform& ControlCore::platform() const {
     return m_dialog.platform();
 }
 
+bool ControlCore::setting() const {
+    return m_settings > 0 || !m_dialog.stands();
+}
+
+bool ControlCore::refuses(UINT message) const {
+    const bool input = (message >= WM_KEYFIRST && message <= WM_KEYLAST) ||
+                       (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) ||
+                       message == BM_CLICK || message == WM_CONTEXTMENU;
+    return input && !m_dialog.stands();
+}
+
 void ControlCore::create(bool startsGroup) {
     if (!m_dialog.window()) return;
     const WindowClass kindClass = windowClass();
@@ -105,6 +116,7 @@ LRESULT CALLBACK ControlCore::procedure(HWND window, UINT message, WPARAM wParam
         if (!self->m_window) {
             return CallWindowProcW(self->m_inherited, window, message, wParam, lParam);
         }
+        if (self->refuses(message)) return 0;
         return self->message(message, wParam, lParam);
     } catch (...) {
         self->m_dialog.failed();

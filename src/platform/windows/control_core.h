@@ -68,7 +68,7 @@ public:
     virtual void enteredByTab() {}
 
 protected:
-    // While one lives, what the window reports is the program's doing, not the user's.
+    // While one lives, what the window reports is the module's doing, not the user's.
     class Setting {
     public:
         explicit Setting(ControlCore& control) : m_control(control) { ++m_control.m_settings; }
@@ -79,7 +79,10 @@ protected:
     private:
         ControlCore& m_control;
     };
-    bool setting() const { return m_settings > 0; }
+    // Nothing that the window reports now is the user's doing.
+    bool setting() const;
+    // A click, a key or a menu in a dialog that does not stand.
+    bool refuses(UINT message) const;
 
     WindowsPlatform& platform() const;
     LRESULT send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {

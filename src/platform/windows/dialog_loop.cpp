@@ -285,7 +285,7 @@ void WindowsDialog::focusArrived(ControlCore& control) {
     if (m_focus == &control) return;
     ControlCore* left = std::exchange(m_focus, &control);
     showDefaultButton();
-    if (m_quietFocus > 0 || !m_running) return;
+    if (m_quietFocus > 0 || !stands()) return;
     if (left) fire(left->face().onBlur);
 }
 

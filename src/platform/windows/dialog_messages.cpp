@@ -74,7 +74,7 @@ bool WindowsDialog::handleState(UINT message, WPARAM wParam, LPARAM lParam, LRES
             }
             return true;
         case WM_CLOSE:
-            if (!isPage() && IsWindowEnabled(m_window)) pressCancel();
+            if (!isPage() && stands() && IsWindowEnabled(m_window)) pressCancel();
             return true;
         case WM_SIZE:
             if (wParam != SIZE_MINIMIZED) sizeChanged();
@@ -82,7 +82,7 @@ bool WindowsDialog::handleState(UINT message, WPARAM wParam, LPARAM lParam, LRES
         case WM_ACTIVATE:
             return LOWORD(wParam) != WA_INACTIVE && !HIWORD(wParam) && activated();
         case WM_TIMER:
-            fire(onTimer, static_cast<int>(wParam));
+            if (stands()) fire(onTimer, static_cast<int>(wParam));
             return true;
         case WM_GETMINMAXINFO:
             if (m_minimumSize.width > 0) {
@@ -107,7 +107,7 @@ bool WindowsDialog::handleState(UINT message, WPARAM wParam, LPARAM lParam, LRES
 // A command that no control's window sent: a menu's, or a button's number from elsewhere, which
 // then works like a click.
 void WindowsDialog::handleCommand(int command) {
-    if (!IsWindowEnabled(root().m_window)) return;
+    if (!stands() || !IsWindowEnabled(root().m_window)) return;
     if (m_menu.get() &&
         GetMenuState(m_menu.get(), static_cast<UINT>(command), MF_BYCOMMAND) != ~0U) {
         if (commandAvailable(m_menu.get(), command)) fire(onCommand, command);
@@ -190,9 +190,9 @@ bool WindowsDialog::activated() {
 
 bool WindowsDialog::handleMouse(UINT message, LPARAM lParam) {
     const Point p{static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
-    const auto ask = [&p](const std::function<bool(Point)>& handler) {
+    const auto ask = [this, &p](const std::function<bool(Point)>& handler) {
         const auto copy = handler;
-        return copy && copy(p);
+        return stands() && copy && copy(p);
     };
     switch (message) {
         case WM_LBUTTONDOWN:

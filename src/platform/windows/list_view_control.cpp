@@ -216,6 +216,8 @@ int WindowsListView::rowAt(Point p) const {
 // ---- what the user does
 
 std::optional<LRESULT> WindowsListView::notified(const NMHDR& header) {
+    // A list that is being made is asked for its texts already.
+    if (setting() && header.code != LVN_GETDISPINFOW) return std::nullopt;
     switch (header.code) {
         case LVN_GETDISPINFOW:
             giveText(reinterpret_cast<NMLVDISPINFOW&>(const_cast<NMHDR&>(header)));
@@ -256,7 +258,7 @@ void WindowsListView::giveText(NMLVDISPINFOW& request) {
 
 // One click changes several rows, each with a message of its own: told once, when all is done.
 void WindowsListView::selectionMayHaveChanged() {
-    if (setting() || m_reportDue) return;
+    if (m_reportDue) return;
     m_reportDue = true;
     dialog().root().post([this] { reportSelection(); });
 }

@@ -67,6 +67,9 @@ public:
     WindowsDialog& root();
     DrawingTools drawingTools() const;
     IconCache& icons();
+    // From when the dialog is shown until it ends; what other programs send before or behind that
+    // is no act of the user and is refused.
+    bool stands() const { return m_parent ? m_parent->stands() : m_running && m_shown; }
     // The window could be seen: its own flag and, for a page, the dialog's.
     bool reachable() const;
     // Every control of this dialog and its pages, in Tab order: pages come behind the tab control.
