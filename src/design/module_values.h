@@ -3,10 +3,9 @@
 // it.
 #pragma once
 
-#include <lxdata6dlg.h>
-
 #include "catalogue/catalogue_state.h"
 #include "catalogue/column_settings.h"
+#include "design/opening.h"
 #include "platform/files.h"
 #include "platform/host.h"
 #include "platform/platform.h"
@@ -17,7 +16,7 @@ struct ModuleValues {
     double openingWidth = 0;   // mm
     double wallThickness = 0;  // mm
     double level = 0;          // m; 0 = the host gives no opening object
-    OpeningBlock block{};
+    OpeningBlock block = emptyBlock();
     Catalogue precast;  // loaded and freed by the design dialog
     Catalogue steel;
     CatalogueState precastState;  // of their files

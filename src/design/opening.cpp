@@ -49,6 +49,13 @@ std::unique_ptr<CRez> headFromCall(double openingWidth, double wallThickness, do
     return head;
 }
 
+OpeningBlock emptyBlock() {
+    OpeningBlock block{};
+    block.headShape = -1;
+    block.unread188 = -1;
+    return block;
+}
+
 std::optional<OpeningBlock> blockInMillimetres(const OpeningBlock& block, int unitsPerMetre) {
     if (unitsPerMetre == 0) return std::nullopt;
     const int factor = 1000 / unitsPerMetre;

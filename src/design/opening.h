@@ -23,6 +23,8 @@ std::int32_t shownBearing(std::int32_t length, double openingWidth);
 // openingWidth and wallThickness in mm, level in m.
 std::unique_ptr<CRez> headFromCall(double openingWidth, double wallThickness, double level);
 
+// A block that tells nothing: it names no head shape.
+OpeningBlock emptyBlock();
 // The block with its runs and steps in mm, or none when the host does not tell how many drawing
 // units make a metre (0). The factor is a whole number, so units finer than a millimetre give 0.
 std::optional<OpeningBlock> blockInMillimetres(const OpeningBlock& block, int unitsPerMetre);

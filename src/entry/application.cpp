@@ -9,9 +9,6 @@ CLXdata6dlgApp::CLXdata6dlgApp(Platform& platform, Files& files, Modules& module
     : m_modules(modules),
       m_host(modules, m_dataFolder, m_values.helpFile),
       m_context{platform, files, m_host, m_values} {
-    // An empty block names no head shape.
-    m_values.block.headShape = -1;
-    m_values.block.unread188 = -1;
     // Only remembered here; icons are drawn when a dialog first shows them.
     platform.paintIcon = paintIcon;
 }

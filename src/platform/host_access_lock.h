@@ -8,10 +8,8 @@ namespace lx {
 
 class HostAccessLock {
 public:
-    // The only mode in use: exclusive writing.
-    static constexpr int writeMode = 9;
-
-    HostAccessLock(Host& host, HostResource resource, int mode = writeMode);
+    // Asks for exclusive writing.
+    HostAccessLock(Host& host, HostResource resource);
     ~HostAccessLock();
     HostAccessLock(const HostAccessLock&) = delete;
     HostAccessLock& operator=(const HostAccessLock&) = delete;
@@ -25,7 +23,6 @@ private:
 
     Host& m_host;
     HostResource m_resource;
-    int m_mode;
     int m_state = noHost;
 };
 

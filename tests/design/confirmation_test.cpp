@@ -112,9 +112,6 @@ TEST_F(DesignSession, TheLockIsGivenBackByItsState) {
     EXPECT_EQ(released(1), 4);
     EXPECT_EQ(released(2), 2);
     EXPECT_EQ(released(-1), 2);
-    host.lockAnswer[HostResource::library] = 1;
-    { HostAccessLock even(host, HostResource::library, 8); }
-    EXPECT_EQ(host.lockReleases.back().second, 2);
     host.hasServices = false;
     EXPECT_EQ(released(1), 0);
     EXPECT_FALSE(HostAccessLock(host, HostResource::library).isGranted());

@@ -21,7 +21,6 @@ struct DesignDialog : testing::Test {
         bench.platform().paintIcon = paintIcon;
         values.openingWidth = 1200;
         values.wallThickness = 300;
-        values.block.headShape = -1;
     }
 
     // Lays out the design and hands it over, as a host does.

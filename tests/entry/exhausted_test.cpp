@@ -53,9 +53,7 @@ const Call calls[] = {
      [] {
          std::int32_t a = 0;
          std::int32_t b = 0;
-         OpeningBlock block{};
-         block.headShape = block.unread188 = -1;
-         return CallLXdata6(nullptr, 0, 0, 0, 1200, 300, 0.0, g_text, &a, &b, block, 1);
+         return CallLXdata6(nullptr, 0, 0, 0, 1200, 300, 0.0, g_text, &a, &b, emptyBlock(), 1);
      }},
     {"CallLXdata6Base", browserActs, LX_DIALOG_OK, LX_DIALOG_FAILED,
      [] { return CallLXdata6Base(nullptr); }},
