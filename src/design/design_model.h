@@ -71,9 +71,9 @@ public:
     // of the opening stays the one shown before. Nothing happens outside the list.
     void showStored(int entry);
     int shownStored() const { return static_cast<int>(m_shown); }
-    // Takes the entry that is shown, and others of its label, out of the list and shows the one
-    // that takes its place; entry 0 stays. The label as it was loaded; none when nothing was
-    // removed.
+    // Takes the entry that is shown out of the list and shows the one that takes its place; entry 0
+    // stays. Others of its label go with it, as they do in the library, which knows designs by
+    // their labels alone. The label as it was loaded; none when nothing was removed.
     std::optional<Text> removeShownStored();
     // Whether the design of that entry suits the opening.
     bool storedSuits(int entry) const;

@@ -73,6 +73,8 @@ void CObr1::OpenCatalogue(int request) {
                      Owner{m_window.get(), m_owner.hostWindow});
     browser.runOn(catalogue, steel ? values.steelState : values.precastState, opened);
 
+    // The design itself is as it was, so nothing is laid out: a description that the user has typed
+    // would be lost.
     refillTypes(page, catalogue.get(), browser.requestedType());
     // The picked records belong to the catalogue: the offer takes copies of them before it can
     // change again.

@@ -55,6 +55,8 @@ void CTabKnihovna::useStored(int entry) {
     DesignModel& model = m_services.model();
     model.showStored(entry);
     m_services.Relayout();
+    // Also with "z náhledu" the bearing is what is shown, until something else is selected: it
+    // tells whether the design suits this opening.
     const CRez* first = model.head() != nullptr ? model.head()->next : nullptr;
     const double opening = model.values().openingWidth;
     m_services.ShowBearing(first != nullptr ? shownBearing(first->length, opening) : 0);
