@@ -21,6 +21,15 @@ constexpr double narrowestOpening = 300.0;  // mm
 // The exported functions have no argument that could name it.
 CLXdata6dlgApp* g_application = nullptr;
 
+// The message that refuses these dimensions, mm; empty when they are accepted.
+std::string_view refusedBy(double openingWidth, double wallThickness) {
+    if (wallThickness > widestWall) return text::wallTooWide;
+    // So written that not a number fails.
+    if (!(wallThickness >= thinnestWall)) return text::wallTooThin;
+    if (!(openingWidth >= narrowestOpening)) return text::openingTooNarrow;
+    return {};
+}
+
 void store(ModuleValues& values, const DesignArguments& arguments) {
     values.openingWidth = arguments.openingWidth;
     values.wallThickness = arguments.wallThickness;
@@ -74,14 +83,6 @@ int merge(const char* sourcePath, const char* targetFolder, int mode) noexcept {
 }
 
 }  // namespace
-
-std::string_view refusedBy(double openingWidth, double wallThickness) {
-    if (wallThickness > widestWall) return text::wallTooWide;
-    // So written that not a number fails.
-    if (!(wallThickness >= thinnestWall)) return text::wallTooThin;
-    if (!(openingWidth >= narrowestOpening)) return text::openingTooNarrow;
-    return {};
-}
 
 void copyResultText(std::string_view text, char* buffer) {
     const std::size_t size = std::min<std::size_t>(text.size(), LX_RESULT_TEXT_SIZE - 1);

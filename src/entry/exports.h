@@ -21,8 +21,6 @@ struct DesignArguments {
     bool exteriorSide = false;
 };
 
-// The message that refuses the arguments, empty when they pass.
-std::string_view refusedBy(double openingWidth, double wallThickness);
 // Fills a buffer of LX_RESULT_TEXT_SIZE bytes; longer text is cut.
 void copyResultText(std::string_view text, char* buffer);
 

@@ -5,7 +5,7 @@
 
 #include "composition/library.h"
 #include "composition/projects.h"
-#include "tests/tabs/foreign_commands.h"
+#include "tests/dialog/foreign_commands.h"
 
 namespace lx {
 namespace {

@@ -1,7 +1,7 @@
 #include <stdexcept>
 
 #include "platform/headless/headless_platform.h"
-#include "tests/tabs/foreign_commands.h"
+#include "tests/dialog/foreign_commands.h"
 
 namespace lx {
 

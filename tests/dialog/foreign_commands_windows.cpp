@@ -2,7 +2,7 @@
 
 #include <commctrl.h>
 
-#include "tests/tabs/foreign_commands.h"
+#include "tests/dialog/foreign_commands.h"
 
 namespace lx {
 

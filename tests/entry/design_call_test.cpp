@@ -11,16 +11,6 @@ namespace {
 
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 
-TEST(DesignCall, RefusesTheWallBeforeTheOpening) {
-    EXPECT_EQ(refusedBy(100, 2000.001), text::wallTooWide);
-    EXPECT_EQ(refusedBy(100, 69.999), text::wallTooThin);
-    EXPECT_EQ(refusedBy(1200, nan), text::wallTooThin);
-    EXPECT_EQ(refusedBy(299.999, 70), text::openingTooNarrow);
-    EXPECT_EQ(refusedBy(nan, 2000), text::openingTooNarrow);
-    EXPECT_EQ(refusedBy(300, 2000), "");
-    EXPECT_EQ(refusedBy(12000, 70), "");
-}
-
 TEST(DesignCall, NullPointersAreNotFollowed) {
     LoadedModule module;
     module.bench.user().inDialog("Návrh překladu", [](Driver& d) { d.press("Zrušit"); });
