@@ -52,16 +52,12 @@ std::array<DesignPage*, page::count> CObr1::pages() const {
 
 int CObr1::Relayout() {
     if (!m_model.Relayout()) return -1;
-    RefreshAll();
+    RefreshShown();
+    m_geometry->RefreshDescription();
     return 0;
 }
 
-void CObr1::RefreshAll() {
-    refreshShown();
-    m_geometry->RefreshDescription();
-}
-
-void CObr1::refreshShown() {
+void CObr1::RefreshShown() {
     RedrawPreviews();
     RefreshProperties();
     RefreshAvailability();
@@ -183,7 +179,7 @@ void CObr1::layOutToConfirm() {
     const bool untouched = m_geometry->description() == descriptionSummary(*head);
     m_model.Relayout();
     if (untouched) m_geometry->setDescription(descriptionSummary(*head));
-    refreshShown();
+    RefreshShown();
 }
 
 void CObr1::confirm() {

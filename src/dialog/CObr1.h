@@ -46,7 +46,7 @@ private:
     DialogSettings& settings() override { return m_settings; }
     Dialog& window() override { return *m_window; }
     int Relayout() override;
-    void RefreshAll() override;
+    void RefreshShown() override;
     void SelectRecord(CRez* record) override;
     void RefreshProperties() override;
     void RefreshAvailability() override;
@@ -94,7 +94,6 @@ private:
     void chooseSource(PropertiesSource source);
     void confirm();
     void layOutToConfirm();
-    void refreshShown();
     void openCommandMenu();
     bool commandEnabled(int command);
     void run(int command);

@@ -137,10 +137,11 @@ void SectionMouse::clickRegion(const HitRegion& region, const Text& family, Poin
     }
 }
 
-// The layers stay where they are until the design is laid out for another reason.
+// The layers stay where they are until the design is laid out for another reason, and what the user
+// has typed on the geometry page stays.
 void SectionMouse::mirror(std::int32_t& kind) {
     kind += kind >= mirrored ? -mirrored : mirrored;
-    m_services.RefreshAll();
+    m_services.RefreshShown();
 }
 
 // Released over the picture, or elsewhere, which is noticed when the mouse comes back.
