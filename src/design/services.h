@@ -26,8 +26,8 @@ public:
     // properties text, the availability of the layer commands and the geometry page. -1 without a
     // design.
     virtual int Relayout() = 0;
-    // What Relayout does, but neither lays the design out nor touches the description and the bubble
-    // field of the geometry page.
+    // What Relayout does, but neither lays the design out nor touches the description and the
+    // bubble field of the geometry page.
     virtual void RefreshShown() = 0;
     // Null means the head. Redraws both previews; refreshes availability and properties.
     virtual void SelectRecord(CRez* record) = 0;

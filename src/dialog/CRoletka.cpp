@@ -41,11 +41,13 @@ void CRoletka::fill(const Text& shown) {
         const int index = m_box.add(value);
         if (selected < 0 && value == shown) selected = index;
     }
+    // A new value is remembered, yet nothing that the user could mean to take out of the list.
     if (selected < 0) {
-        selected = m_box.add(shown);
+        m_box.add(shown);
         history.add(shown);
     }
     m_box.select(selected);
+    m_box.setText(shown);
 }
 
 void CRoletka::place(Picture& picture, Point at) {
@@ -138,7 +140,8 @@ KeyAnswer CRoletka::key(const KeyEvent& event) {
             cancel();
             return KeyAnswer::swallow;
         case key::del:
-            return removeSelected() ? KeyAnswer::swallow : KeyAnswer::pass;
+            // While the list is closed the key edits the text.
+            return m_box.droppedDown() && removeSelected() ? KeyAnswer::swallow : KeyAnswer::pass;
         default:
             return KeyAnswer::pass;
     }

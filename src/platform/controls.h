@@ -149,6 +149,7 @@ public:
     virtual void select(int index) = 0;
     virtual int selected() const = 0;
     virtual bool droppedDown() const = 0;
+    // The list of an editable combo opens on the item that the field shows, and completes nothing.
     virtual void dropDown(bool open) = 0;
     // Editable combos: the field's selection.
     virtual void selectAllText() = 0;

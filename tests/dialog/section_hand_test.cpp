@@ -80,36 +80,42 @@ TEST_F(SectionHand, ValuesTypedBeforeAreOfferedAndCanBeForgotten) {
         }
         EXPECT_EQ(d.text(box), "175");
         EXPECT_EQ(d.editSelection(box), "0-3");
+        // The open list is at what the field shows, so Delete forgets that; it closes the edit.
+        EXPECT_TRUE(d.selectedRows(box).empty());
+        d.key("Alt+Down");
+        EXPECT_EQ(d.selectedRows(box), std::vector{2});
         d.key("Delete");
         EXPECT_FALSE(d.visible(box));
         EXPECT_NE(d.focusedControl().find(section), std::string::npos);
         EXPECT_TRUE(has(d, "bend 0 run 175"));
         click(d, "run 1");
-        // Typed text is no remembered value: the key deletes a character.
-        d.type("1507");
-        d.key("Left");
+        // Typed text is no remembered value, open list or not: the key deletes a character.
+        d.type("15");
+        d.key("Alt+Down");
+        EXPECT_EQ(d.text(box), "15");
+        d.key("Home");
         d.key("Delete");
-        EXPECT_EQ(d.text(box), "150");
+        EXPECT_EQ(d.text(box), "5");
         d.key("Enter");
-        EXPECT_TRUE(has(d, "bend 0 run 150"));
-        click(d, "run 1");
-        d.key("Delete");
+        EXPECT_TRUE(has(d, "bend 0 run 5"));
         d.press("OK");
     });
     std::string stored;
     for (const char* key : {"0", "1", "2", "3", "nr"}) {
         stored += get(dialogFile, "COMBO_NADPR2_1", key) + " ";
     }
-    EXPECT_EQ(stored, "-50 200 175 none 3 ");
+    EXPECT_EQ(stored, "150 -50 200 175 4 ");
 }
 
 TEST_F(SectionHand, OneRememberedValueStays) {
     given.head()->addBend(100, 40, false);
     runOn([](Driver& d) {
         click(d, "step 1");
+        d.key("Alt+Down");
         d.key("Delete");
         EXPECT_TRUE(d.visible(box));
         EXPECT_EQ(d.text(box), "");
+        d.key("Esc");
         d.key("Esc");
         EXPECT_TRUE(has(d, "bend 0 step 40"));
         d.press("OK");

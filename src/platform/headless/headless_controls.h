@@ -273,7 +273,7 @@ public:
     void select(int index) override;
     int selected() const override;
     bool droppedDown() const override { return m_open; }
-    void dropDown(bool open) override { m_open = open; }
+    void dropDown(bool open) override;
     void selectAllText() override { m_field.selectAll(); }
 
     bool editable() const { return kind() == ControlKind::editableCombo; }

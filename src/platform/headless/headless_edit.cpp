@@ -158,6 +158,18 @@ void HeadlessComboBox::select(int index) {
     if (editable()) m_field.setText(item(m_selected));
 }
 
+// The list opens on the item that the field shows, however it came there.
+void HeadlessComboBox::dropDown(bool open) {
+    if (open && !m_open) {
+        if (editable() && selected() < 0) {
+            const auto shown = std::find(m_items.begin(), m_items.end(), m_field.text());
+            m_selected = shown == m_items.end() ? -1 : static_cast<int>(shown - m_items.begin());
+        }
+        m_selectedAtOpening = selected();
+    }
+    m_open = open;
+}
+
 // Shows the item as the user's choice, selected as a whole, without an event.
 void HeadlessComboBox::pick(int index) {
     select(index);
@@ -182,8 +194,7 @@ bool HeadlessComboBox::openOrClose(const KeyEvent& event) {
     const bool closes = m_open && (event.key == key::enter || event.key == key::escape);
     if (!toggles && !closes) return false;
     const bool back = m_open && event.key == key::escape;
-    if (!m_open) m_selectedAtOpening = selected();
-    m_open = toggles && !m_open;
+    dropDown(toggles && !m_open);
     if (back && selected() != m_selectedAtOpening) {
         pick(m_selectedAtOpening);
         callCopy(onSelect);
@@ -263,8 +274,7 @@ void HeadlessComboBox::userSelect(int index) {
 void HeadlessComboBox::userDropDown(bool open) {
     checkReachable("be opened");
     clickFocus();
-    if (open && !m_open) m_selectedAtOpening = selected();
-    m_open = open;
+    dropDown(open);
     settle();
 }
 

@@ -28,6 +28,13 @@ void WindowsComboBox::attached() {
         m_fieldInherited = reinterpret_cast<WNDPROC>(
             SetWindowLongPtrW(m_field, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&fieldProcedure)));
     }
+    COMBOBOXINFO parts = {};
+    parts.cbSize = sizeof parts;
+    if (m_field && GetComboBoxInfo(window(), &parts) && parts.hwndList) {
+        SetWindowLongPtrW(parts.hwndList, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+        m_listInherited = reinterpret_cast<WNDPROC>(SetWindowLongPtrW(
+            parts.hwndList, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&listProcedure)));
+    }
     growForList();
 }
 
@@ -60,6 +67,17 @@ LRESULT CALLBACK WindowsComboBox::fieldProcedure(HWND window, UINT message, WPAR
         }
     }
     return CallWindowProcW(before, window, message, wParam, lParam);
+}
+
+// A list that opens looks for an item that begins with the field's text, and puts it there: 150
+// would become 1500 by a look at the list. Only the item that the field shows is to be found.
+LRESULT CALLBACK WindowsComboBox::listProcedure(HWND window, UINT message, WPARAM wParam,
+                                                LPARAM lParam) {
+    auto* self = reinterpret_cast<WindowsComboBox*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (!self) return DefWindowProcW(window, message, wParam, lParam);
+    if (message == WM_NCDESTROY) SetWindowLongPtrW(window, GWLP_USERDATA, 0);
+    if (message == LB_FINDSTRING) message = LB_FINDSTRINGEXACT;
+    return CallWindowProcW(self->m_listInherited, window, message, wParam, lParam);
 }
 
 void WindowsComboBox::keepState() {

@@ -32,6 +32,7 @@ protected:
 
 private:
     static LRESULT CALLBACK fieldProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    static LRESULT CALLBACK listProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     bool editable() const { return kind() == ControlKind::editableCombo; }
     void growForList();
     void userSelected();
@@ -42,6 +43,7 @@ private:
     bool m_choosing = false;
     HWND m_field = nullptr;
     WNDPROC m_fieldInherited = nullptr;
+    WNDPROC m_listInherited = nullptr;  // of an editable combo's list
 };
 
 }  // namespace lx
