@@ -1,4 +1,4 @@
-// What other programs may send to the window of the design dialog.
+// The window of the design dialog: what other programs may send to it, and its cursor.
 #include <windows.h>
 
 #include "resources/templates.h"
@@ -17,6 +17,40 @@ TEST_F(DesignDialog, ItsWindowTellsWhoseItIsAndComesToTheFrontAtATimer) {
         SendMessageW(window, WM_TIMER, 1, 0);
         EXPECT_EQ(GetActiveWindow(), window);
         DestroyWindow(other);
+        d.press("Zrušit");
+    });
+}
+
+TEST_F(DesignDialog, AHandOfItsOwnPointsWithTheTipOfItsFinger) {
+    run([](Driver& d) {
+        const HWND window = FindWindowW(nullptr, L"N\u00E1vrh p\u0159ekladu");
+        const HWND picture = GetDlgItem(window, id::sectionPreview);
+        const auto cursor = [picture] {
+            SendMessageW(picture, WM_SETCURSOR, reinterpret_cast<WPARAM>(picture),
+                         MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+            return GetCursor();
+        };
+        d.selectTab("Prefa překlady");
+        d.press("Vložit izolaci");
+        EXPECT_EQ(cursor(), LoadCursorW(nullptr, IDC_ARROW));
+        d.mouseMove("section", d.regionPoint("section", "layer 1"), false);
+        ICONINFO hand = {};
+        ASSERT_TRUE(GetIconInfo(cursor(), &hand));
+        EXPECT_EQ(std::pair(hand.xHotspot, hand.yHotspot), std::pair(DWORD{8}, DWORD{1}));
+        EXPECT_FALSE(hand.fIcon);
+        // Without colours the mask holds both planes, one below the other.
+        BITMAP mask = {};
+        GetObjectW(hand.hbmMask, sizeof mask, &mask);
+        EXPECT_EQ(std::pair(mask.bmWidth, mask.bmHeight),
+                  std::pair(32L, hand.hbmColor ? 32L : 64L));
+        const HDC dc = CreateCompatibleDC(nullptr);
+        const HGDIOBJ before = SelectObject(dc, hand.hbmMask);
+        EXPECT_EQ(GetPixel(dc, 8, 1), RGB(0, 0, 0)) << "the finger covers the screen";
+        EXPECT_EQ(GetPixel(dc, 4, 1), RGB(255, 255, 255)) << "beside it the screen shows";
+        SelectObject(dc, before);
+        DeleteDC(dc);
+        DeleteObject(hand.hbmMask);
+        if (hand.hbmColor) DeleteObject(hand.hbmColor);
         d.press("Zrušit");
     });
 }

@@ -31,30 +31,6 @@ LRESULT answerDescribe(const DescribeRequest& request, const Text& answer) {
     return static_cast<LRESULT>(answer.size());
 }
 
-HCURSOR systemCursor(CursorShape shape) {
-    const wchar_t* name = IDC_ARROW;
-    switch (shape) {
-        case CursorShape::hand:
-            name = IDC_HAND;
-            break;
-        case CursorShape::upArrow:
-            name = IDC_UPARROW;
-            break;
-        case CursorShape::splitLeftRight:
-            name = IDC_SIZEWE;
-            break;
-        case CursorShape::splitUpDown:
-            name = IDC_SIZENS;
-            break;
-        case CursorShape::text:
-            name = IDC_IBEAM;
-            break;
-        case CursorShape::arrow:
-            break;
-    }
-    return LoadCursorW(nullptr, name);
-}
-
 ControlCore::ControlCore(WindowsDialog& dialog, const ControlTemplate& layout)
     : m_text(layout.text),
       m_dialog(dialog),

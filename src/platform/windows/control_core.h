@@ -142,7 +142,6 @@ private:
 
 // Copies the answer into the request's buffer; the message's result is the whole answer's length.
 LRESULT answerDescribe(const DescribeRequest& request, const Text& answer);
-HCURSOR systemCursor(CursorShape shape);
 
 template <class Interface>
 class WindowsControl : public Interface, public ControlCore {

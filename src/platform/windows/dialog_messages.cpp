@@ -221,7 +221,7 @@ bool WindowsDialog::showCursor() {
     ScreenToClient(m_window, &at);
     const CursorShape shape = cursorAt({static_cast<int>(at.x), static_cast<int>(at.y)});
     if (shape == CursorShape::arrow) return false;
-    SetCursor(systemCursor(shape));
+    SetCursor(platform().cursor(shape));
     return true;
 }
 

@@ -62,7 +62,7 @@ void WindowsPicture::setCursor(CursorShape shape) {
     m_cursor = shape;
     POINT at = {};
     if (window() && GetCursorPos(&at) && WindowFromPoint(at) == window()) {
-        SetCursor(systemCursor(shape));
+        SetCursor(platform().cursor(shape));
     }
 }
 
@@ -126,7 +126,7 @@ LRESULT WindowsPicture::message(UINT message, WPARAM wParam, LPARAM lParam) {
             break;
         case WM_SETCURSOR:
             if (reinterpret_cast<HWND>(wParam) == window() && LOWORD(lParam) == HTCLIENT) {
-                SetCursor(systemCursor(m_cursor));
+                SetCursor(platform().cursor(m_cursor));
                 return TRUE;
             }
             break;

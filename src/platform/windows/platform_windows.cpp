@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <cstring>
 
+#include "platform/windows/hand_cursor.h"
 #include "platform/windows/wide_text.h"
 #include "platform/windows/windows_dialog.h"
 #include "platform/windows/windows_platform.h"
@@ -56,6 +57,9 @@ bool openClipboard(HWND owner) {
 WindowsPlatform::WindowsPlatform(HINSTANCE instance) : m_instance(instance) {}
 
 WindowsPlatform::~WindowsPlatform() {
+    // A cursor may not go while it is the one shown.
+    if (m_hand && GetCursor() == m_hand) SetCursor(cursor(CursorShape::arrow));
+    if (m_hand) DestroyCursor(m_hand);
     if (!m_pictureClass.empty()) UnregisterClassW(m_pictureClass.c_str(), m_instance);
 }
 
@@ -65,6 +69,7 @@ void WindowsPlatform::prepareWindows() {
     if (std::exchange(m_prepared, true)) return;
     InitCommonControls();
     m_describeMessage = RegisterWindowMessageW(describeMessageName);
+    m_hand = makeHandCursor(m_instance);
     wchar_t name[64];
     std::swprintf(name, sizeof name / sizeof *name, L"lxdata6dlg.picture.%p.%p",
                   static_cast<void*>(m_instance), static_cast<void*>(this));
@@ -73,6 +78,31 @@ void WindowsPlatform::prepareWindows() {
     picture.hInstance = m_instance;
     picture.lpszClassName = name;
     if (RegisterClassW(&picture)) m_pictureClass = name;
+}
+
+HCURSOR WindowsPlatform::cursor(CursorShape shape) const {
+    const wchar_t* name = IDC_ARROW;
+    switch (shape) {
+        case CursorShape::hand:
+            if (m_hand) return m_hand;
+            name = IDC_HAND;
+            break;
+        case CursorShape::upArrow:
+            name = IDC_UPARROW;
+            break;
+        case CursorShape::splitLeftRight:
+            name = IDC_SIZEWE;
+            break;
+        case CursorShape::splitUpDown:
+            name = IDC_SIZENS;
+            break;
+        case CursorShape::text:
+            name = IDC_IBEAM;
+            break;
+        case CursorShape::arrow:
+            break;
+    }
+    return LoadCursorW(nullptr, name);
 }
 
 std::unique_ptr<Dialog> WindowsPlatform::createDialog(const DialogTemplate& layout, Owner owner) {

@@ -28,6 +28,7 @@ public:
 
     HINSTANCE instance() const { return m_instance; }
     FontCache& fonts() { return m_fonts; }
+    HCURSOR cursor(CursorShape shape) const;
     // Registers what the windows need, at the first dialog.
     void prepareWindows();
     // The class of pictures; null before prepareWindows or when the system refused it.
@@ -43,6 +44,7 @@ private:
     HINSTANCE m_instance;
     FontCache m_fonts;
     std::wstring m_pictureClass;
+    HCURSOR m_hand = nullptr;
     UINT m_describeMessage = 0;
     bool m_prepared = false;
     std::vector<WindowsDialog*> m_dialogs;
