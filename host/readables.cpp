@@ -152,6 +152,11 @@ const std::vector<Readable>& readables() {
         {"exists", 1, in, [](C& c, const W& w) { return yesNo(c.driver.exists(w[0])); }},
         {"enabled", 1, in, [](C& c, const W& w) { return yesNo(c.driver.enabled(w[0])); }},
         {"visible", 1, in, [](C& c, const W& w) { return yesNo(c.driver.visible(w[0])); }},
+        {"area", 1, in,
+         [](C& c, const W& w) {
+             const ScreenArea area = c.driver.area(w[0]);
+             return numbers({area.left, area.top, area.right, area.bottom});
+         }},
         {"checked", 1, in, [](C& c, const W& w) { return yesNo(c.driver.checked(w[0])); }},
         {"rows", 1, in, [](C& c, const W& w) { return rows(c.driver, w[0]); }},
         {"row-count", 1, in,

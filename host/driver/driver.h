@@ -26,6 +26,13 @@ struct ScreenSize {
     int width = 0;
     int height = 0;
 };
+// right and bottom not included.
+struct ScreenArea {
+    int left = 0;
+    int top = 0;
+    int right = 0;
+    int bottom = 0;
+};
 
 struct RowLook {
     std::string text;
@@ -114,6 +121,8 @@ public:
     virtual bool enabled(ControlName control) = 0;
     virtual bool visible(ControlName control) = 0;
     virtual bool checked(ControlName box) = 0;
+    // Pixels of the top dialog's client area, edges included; a drop-down's without its list.
+    virtual ScreenArea area(ControlName control) = 0;
     virtual int rowCount(ControlName list) = 0;
     virtual RowLook row(ControlName list, int row) = 0;  // list view: cells joined by " | "
     virtual std::vector<int> selectedRows(ControlName list) = 0;

@@ -107,6 +107,26 @@ TEST_F(SectionHand, ValuesTypedBeforeAreOfferedAndCanBeForgotten) {
     EXPECT_EQ(stored, "150 -50 200 175 4 ");
 }
 
+TEST_F(SectionHand, TheBoxStandsOverTheNumberAtItsOwnSize) {
+    given.head()->addBend(100, 40, false);
+    runOn([](Driver& d) {
+        const ScreenArea own = d.area(box);
+        const ScreenArea picture = d.area(section);
+        constexpr int edge = 2;  // around the picture
+        for (const char* number : {"run 1", "step 1"}) {
+            const ScreenPoint p = d.regionPoint(section, number);
+            click(d, number);
+            const ScreenArea area = d.area(box);
+            EXPECT_EQ(area.right - area.left, own.right - own.left);
+            EXPECT_EQ(area.bottom - area.top, own.bottom - own.top);
+            EXPECT_EQ(area.left + (area.right - area.left) / 2, picture.left + edge + p.x);
+            EXPECT_EQ(area.top + (area.bottom - area.top) / 2, picture.top + edge + p.y);
+            d.key("Esc");
+        }
+        d.press("Zrušit");
+    });
+}
+
 TEST_F(SectionHand, OneRememberedValueStays) {
     given.head()->addBend(100, 40, false);
     runOn([](Driver& d) {

@@ -22,6 +22,7 @@ namespace lx {
 using host::Driver;
 using host::DriverError;
 using host::RowLook;
+using host::ScreenArea;
 using host::ScreenPoint;
 using host::ScreenSize;
 

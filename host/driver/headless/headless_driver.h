@@ -58,6 +58,7 @@ public:
     bool exists(ControlName control) override;
     bool enabled(ControlName control) override;
     bool visible(ControlName control) override;
+    ScreenArea area(ControlName control) override;
     bool checked(ControlName box) override;
     int rowCount(ControlName list) override;
     RowLook row(ControlName list, int row) override;

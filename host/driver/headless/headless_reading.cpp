@@ -127,6 +127,11 @@ bool HeadlessDriver::visible(ControlName name) {
     return control(name).shown();
 }
 
+ScreenArea HeadlessDriver::area(ControlName name) {
+    const Rect area = control(name).areaInDialog();
+    return {area.left, area.top, area.right, area.bottom};
+}
+
 bool HeadlessDriver::checked(ControlName name) {
     HeadlessControl& found = control(name);
     if (auto* box = dynamic_cast<HeadlessCheckBox*>(&found)) return box->checked();

@@ -120,6 +120,14 @@ bool WindowsDriver::visible(ControlName name) {
     return IsWindowVisible(control(name)) != FALSE;
 }
 
+ScreenArea WindowsDriver::area(ControlName name) {
+    RECT area = {};
+    GetWindowRect(control(name), &area);
+    MapWindowPoints(nullptr, topDialog(), reinterpret_cast<POINT*>(&area), 2);
+    return {static_cast<int>(area.left), static_cast<int>(area.top), static_cast<int>(area.right),
+            static_cast<int>(area.bottom)};
+}
+
 // ---- the top dialog or message box
 
 void WindowsDriver::expectDialog(std::string_view wanted) {

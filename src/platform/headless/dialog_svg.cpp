@@ -253,11 +253,11 @@ void drawControl(std::string& out, const HeadlessControl& control) {
     if (control.kind() == ControlKind::label) return drawLabel(area, control);
     // A picture's own drawing stands behind the frame, as elements of this area.
     if (const auto* picture = dynamic_cast<const HeadlessPicture*>(&control)) {
-        const bool border = (picture->style() & style::border) != 0;
-        if (border) out += "<svg x=\"2\" y=\"2\">\n";
+        const std::string edge = formatInt(picture->sunkenEdge());
+        out += "<svg x=\"" + edge + "\" y=\"" + edge + "\">\n";
         if (picture->drawing()) out += picture->drawing()->svgElements();
-        if (border) out += "</svg>\n";
-        if (border) area.frame(grey);
+        out += "</svg>\n";
+        if (picture->sunkenEdge() > 0) area.frame(grey);
     }
 }
 

@@ -40,7 +40,7 @@ Rect HeadlessControl::areaInDialog() const {
     Point origin = m_dialog->originInRoot();
     if (m_container) {
         const Rect around = m_container->areaInDialog();
-        origin = {around.left, around.top};
+        origin = {around.left + m_container->sunkenEdge(), around.top + m_container->sunkenEdge()};
     }
     return {m_area.left + origin.x, m_area.top + origin.y, m_area.right + origin.x,
             m_area.bottom + origin.y};
@@ -252,8 +252,8 @@ bool HeadlessTabControl::keyDown(const KeyEvent& event) {
 // ---- pictures
 
 Size HeadlessPicture::size() const {
-    const int edge = (style() & style::border) ? 2 : 0;
-    return {std::max(0, m_area.width() - 2 * edge), std::max(0, m_area.height() - 2 * edge)};
+    return {std::max(0, m_area.width() - 2 * sunkenEdge()),
+            std::max(0, m_area.height() - 2 * sunkenEdge())};
 }
 
 void HeadlessPicture::checkPoint(const char* act, Point p) const {

@@ -58,6 +58,8 @@ public:
     bool usable() const;
     // Where it stands, in the client coordinates of the top-level dialog.
     Rect areaInDialog() const;
+    // Width of the sunken edge around the control's client area.
+    int sunkenEdge() const { return (m_style & style::border) ? 2 : 0; }
     // Whether the keyboard can reach the kind of control at all.
     bool takesFocus() const;
     // Whether it could have the focus now.
