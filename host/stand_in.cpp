@@ -1,4 +1,5 @@
 // A stand-in program from its options to its exit code.
+#include <filesystem>
 #include <ostream>
 #include <stdexcept>
 
@@ -29,6 +30,13 @@ int playAll(const Options& options, HostServices& services, const ModuleSource& 
     return code;
 }
 
+// This host has no drawing to keep the design in, and the next call would take up what lies there.
+void takeHandOver() {
+    std::error_code ignored;
+    const std::filesystem::path folder = std::filesystem::temp_directory_path(ignored);
+    std::filesystem::remove(folder / "LXDATA6I.tmp", ignored);
+}
+
 int callOnce(Options& options, HostServices& services, const ModuleSource& module, Driver& driver,
              std::ostream& output, std::ostream& errors) {
     const std::string problem = prepareFolders(options);
@@ -39,8 +47,12 @@ int callOnce(Options& options, HostServices& services, const ModuleSource& modul
     services.settings = options.host;
     try {
         const ModuleCalls calls = module.load(services.settings);
-        module.call(services.settings,
-                    [&](void* owner) { output << report(run(calls, *options.call, owner)); });
+        module.call(services.settings, [&](void* owner) {
+            const CallOutcome outcome = run(calls, *options.call, owner);
+            output << report(outcome);
+            const bool designed = outcome.function == Function::design;
+            if (designed && outcome.result == LX_DIALOG_OK) takeHandOver();
+        });
         for (const int topic : services.helpTopics) output << "help topic " << topic << "\n";
         for (const std::string& line : services.lockLog()) output << "lock " << line << "\n";
         output << std::flush;

@@ -7,6 +7,7 @@
 #include <fstream>
 #include <sstream>
 
+#include "host/options.h"
 #include "host/paths.h"
 #include "tests/support/bench.h"
 
@@ -52,6 +53,13 @@ int runSample(Dialog* owner) {
 
 int LX_STDCALL sampleErase(void*) {
     return runSample(nullptr);
+}
+
+int g_designed = 0;
+
+int LX_STDCALL sampleDesign(void*, int32_t, int32_t, int32_t, double, double, double, char*,
+                            int32_t*, int32_t*, OpeningBlock, int32_t) {
+    return g_designed;
 }
 
 class PlayerTest : public ::testing::Test {
@@ -149,6 +157,27 @@ TEST_F(PlayerTest, FilesAreCompared) {
     EXPECT_EQ(play("expect files library: is\n"), "") << "each scenario begins with empty folders";
     EXPECT_EQ(play("cut data:a 3\n").rfind("test.scenario:1: cannot read", 0), 0U);
     EXPECT_EQ(play("file nowhere:a b\n").rfind("test.scenario:1: ", 0), 0U);
+}
+
+TEST_F(PlayerTest, ADirectCallTakesTheDesignAwayBehindOkAlone) {
+    const auto handOver =
+        pathFromUtf8(utf8FromSystemPath(bench.temporaryFolder()) + "LXDATA6I.tmp");
+    writeFile(handOver, "design");
+    ModuleSource module;
+    module.load = [](const HostSettings&) {
+        ModuleCalls calls;
+        calls.CallLXdata6 = sampleDesign;
+        return calls;
+    };
+    module.unload = [] {};
+    const std::string out = utf8FromSystemPath(bench.folder()) + "out";
+    for (const int result : {2, 1}) {
+        g_designed = result;
+        EXPECT_EQ(runStandIn(parseOptions({"--out", out, "CallLXdata6"}, "."), services, module,
+                             bench.driver(), output, output),
+                  0);
+        EXPECT_EQ(std::filesystem::exists(handOver), result == 2);
+    }
 }
 
 TEST_F(PlayerTest, HostSettingsOfOneScenarioDoNotReachTheNext) {
