@@ -135,9 +135,8 @@ void runDesign(const ModuleCalls& calls, const Opening& opening, void* parent, C
     std::vector<char> buffer(bufferSize, untouched);
     out.a = opening.a;
     out.b = opening.b;
-    out.result =
-        calls.CallLXdata6(parent, 0, 0, 0, opening.width, opening.wall, opening.level,
-                          buffer.data(), &out.a, &out.b, opening.block, opening.exterior ? 1 : 0);
+    out.result = calls.CallLXdata6(parent, 0, 0, 0, opening.width, opening.wall, opening.level,
+                                   buffer.data(), &out.a, &out.b, opening.block, opening.exterior);
     for (std::size_t i = promisedText; i < bufferSize; ++i) out.overran |= buffer[i] != untouched;
     const std::string_view written(buffer.data(), promisedText);
     const std::size_t end = written.find('\0');
@@ -164,9 +163,12 @@ std::string Opening::set(std::string_view name, std::string_view value) {
     if (name == "A") return needsNumber(name, value, parseNumber(value, a));
     if (name == "B") return needsNumber(name, value, parseNumber(value, b));
     if (name == "exterior") {
-        if (value != "on" && value != "off") return "\"exterior\" is \"on\" or \"off\"";
-        exterior = value == "on";
-        return {};
+        if (value == "on" || value == "off") {
+            exterior = value == "on" ? 1 : 0;
+            return {};
+        }
+        if (parseNumber(value, exterior)) return {};
+        return "\"exterior\" is \"on\", \"off\" or a number";
     }
     if (const BlockField* field = blockField(name)) return setBlockField(block, *field, value);
     return "there is no value \"" + std::string(name) + "\" of an opening";
@@ -182,7 +184,7 @@ std::string Opening::help() {
         "  --width MM                            width of the opening (1200)\n"
         "  --wall MM                             thickness of the wall (300)\n"
         "  --level M                             level of the opening; 0 = no opening object\n"
-        "  --exterior on|off                     the first wall face is the exterior one\n"
+        "  --exterior on|off|N                   the first wall face is the exterior one\n"
         "  --A N  --B N                          result values A and B as handed in\n"
         "  --block.FIELD VALUE                   a field of the opening block:\n";
     std::string line = "     ";

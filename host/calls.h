@@ -26,10 +26,10 @@ struct ModuleCalls {
 // The arguments of a design call, by the same names on the command line ("--wall 300") and in
 // scenarios ("opening wall 300"). The block's fields have the names of OpeningBlock.
 struct Opening {
-    double width = 1200;  // mm; set by "width"
-    double wall = 300;    // mm
-    double level = 0;     // m
-    bool exterior = false;
+    double width = 1200;   // mm; set by "width"
+    double wall = 300;     // mm
+    double level = 0;      // m
+    int32_t exterior = 0;  // the whole slot; the flag is its lowest byte
     int32_t a = 0;
     int32_t b = 0;
     OpeningBlock block = emptyBlock();

@@ -89,7 +89,8 @@ TEST(CommandLine, RefusesWhatCannotBeMeant) {
           Words{"--nothing", "1", "LintelErase"}, Words{"LintelErase", "CallLXdata6"},
           Words{"mergeLibraryFiles", "a", "b"}, Words{"mergeLibraryFiles", "a", "b", "c"},
           Words{"--play", "a", "LintelErase"}, Words{"--block.headShape", "40000", "CallLXdata6"},
-          Words{"--block.triple1", "1,2", "CallLXdata6"}, Words{"--exterior", "1", "CallLXdata6"},
+          Words{"--block.triple1", "1,2", "CallLXdata6"},
+          Words{"--exterior", "left", "CallLXdata6"},
           Words{"--title", "\xE4\xB8\xAD", "LintelErase"}}) {
         EXPECT_NE(parse(wrong).error, "") << ::testing::PrintToString(wrong);
     }

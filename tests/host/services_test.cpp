@@ -47,7 +47,7 @@ CallOutcome designCall(const std::string& bytes) {
     calls.CallLXdata6 = writingCall;
     CallRequest request;
     request.opening.a = 10;
-    request.opening.exterior = true;
+    request.opening.exterior = 1;
     return run(calls, request, nullptr);
 }
 
