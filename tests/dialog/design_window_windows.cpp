@@ -55,5 +55,24 @@ TEST_F(DesignDialog, AHandOfItsOwnPointsWithTheTipOfItsFinger) {
     });
 }
 
+TEST_F(DesignDialog, TheListOfTheInPlaceBoxHasRoomForItsValues) {
+    for (const auto& [key, value] :
+         {std::pair{"nr", "3"}, {"0", "100"}, {"1", "200"}, {"2", "150"}}) {
+        set("LXDATA6DLG.dat", "COMBO_NADPR2_1", key, value);
+    }
+    run([](Driver& d) {
+        d.press("1 zalomení");
+        d.mouseDown("section", d.regionPoint("section", "run 1"));
+        d.key("Alt+Down");
+        COMBOBOXINFO box = {};
+        box.cbSize = sizeof box;
+        EXPECT_TRUE(GetComboBoxInfo(GetParent(GetFocus()), &box));
+        RECT list = {};
+        GetClientRect(box.hwndList, &list);
+        EXPECT_GE(list.bottom, 3 * SendMessageW(box.hwndList, LB_GETITEMHEIGHT, 0, 0));
+        d.press("Zrušit");
+    });
+}
+
 }  // namespace
 }  // namespace lx
