@@ -46,9 +46,8 @@ CRez& insertSpecial(DesignEdit design, std::int32_t kind, std::int32_t width) {
 
 enum class Neighbour { before, behind };
 
-// The neighbour that is preferred becomes current; the one before is always there.
+// The neighbour that is preferred becomes current; a layer always has one before it.
 CommandAnswer remove(DesignEdit design, Neighbour preferred) {
-    if (design.current == nullptr || design.current->isHead()) return CommandAnswer::nothing;
     CRez* before = design.chain.before(design.current);
     if (before == nullptr) return CommandAnswer::nothing;
     CRez* behind = design.current->next;
@@ -81,12 +80,11 @@ CommandAnswer addSteel(DesignEdit design, const CRez* element) {
 }
 
 CommandAnswer addInsulation(DesignEdit design) {
-    if (design.chain.empty()) return CommandAnswer::nothing;
+    if (!design.chain.contains(design.current)) return CommandAnswer::nothing;
     CRez& head = *design.chain.head();
     const std::int32_t free = freeSpace(head);
     if (free < insulationFrom) return CommandAnswer::nothing;
     const std::int32_t total = lengthOver(head.length, settledBearing(head));
-    if (!design.chain.contains(design.current)) return CommandAnswer::nothing;
 
     const bool behindHead = design.current->isHead();
     CRez& layer = insertSpecial(design, kind::insulation, free);
@@ -98,23 +96,21 @@ CommandAnswer addInsulation(DesignEdit design) {
 }
 
 CommandAnswer addSpace(DesignEdit design) {
-    if (design.chain.empty()) return CommandAnswer::nothing;
-    const std::int32_t free = freeSpace(*design.chain.head());
-    if (free < spaceFrom) return CommandAnswer::nothing;
     const bool layerIsCurrent = design.chain.contains(design.current) && !design.current->isHead();
     if (!layerIsCurrent) return CommandAnswer::nothing;
+    const std::int32_t free = freeSpace(*design.chain.head());
+    if (free < spaceFrom) return CommandAnswer::nothing;
     insertSpecial(design, kind::space, free).height = spaceHeight;
     return CommandAnswer::done;
 }
 
 CommandAnswer addSteelInsulation(DesignEdit design) {
-    if (design.chain.empty()) return CommandAnswer::nothing;
+    if (!design.chain.contains(design.current)) return CommandAnswer::nothing;
     CRez& head = *design.chain.head();
     std::int64_t room = insulationRoom(head, design.current);
     if (room < insulationFrom) return CommandAnswer::nothing;
     if (head.next == nullptr) room = std::min(room, firstInsulationWidth);
     const std::int32_t total = lengthOver(head.length, settledBearing(head));
-    if (!design.chain.contains(design.current)) return CommandAnswer::nothing;
 
     const bool behindHead = design.current->isHead();
     CRez& layer = insertSpecial(design, kind::insulation, saturated(room));
@@ -124,13 +120,10 @@ CommandAnswer addSteelInsulation(DesignEdit design) {
 }
 
 CommandAnswer addMonolith(DesignEdit design) {
-    if (design.chain.empty()) return CommandAnswer::nothing;
+    if (!design.chain.contains(design.current)) return CommandAnswer::nothing;
     CRez& head = *design.chain.head();
     const std::int32_t free = freeSpace(head);
     if (free < monolithFrom) return CommandAnswer::nothing;
-    settledBearing(head);
-    if (!design.chain.contains(design.current)) return CommandAnswer::nothing;
-
     if (head.maxOpening < leastCastBearing) head.maxOpening = defaultBearing;
     CRez& layer = insertSpecial(design, kind::monolith, free);
     layer.height = monolithHeight;
@@ -154,7 +147,7 @@ CommandAnswer insertInsulation(DesignEdit design) {
 CommandAnswer moveCurrent(DesignEdit design, CRez* target) {
     RezChain& chain = design.chain;
     CRez* current = design.current;
-    const bool movable = chain.contains(current) && !current->isHead() && chain.contains(target);
+    const bool movable = chain.before(current) != nullptr && chain.contains(target);
     if (!movable || target == current || target == current->next) return CommandAnswer::nothing;
     std::unique_ptr<CRez> moved = chain.unlink(current);
     CRez* place = target->isHead() ? chain.last() : chain.before(target);

@@ -162,10 +162,33 @@ TEST_F(LayerCommands, InsulationBesideSteelNeedsTenMillimetresOfRoom) {
         const CommandAnswer answer = addSteelInsulation({other, place});
         EXPECT_EQ(answer == CommandAnswer::done ? place->width : -1, one.insulation) << one.wall;
     }
+}
+
+TEST_F(LayerCommands, NothingIsDoneWithoutACurrentRecordOrADesign) {
+    append(layer(kind::precast, 70, "P"));
     current = nullptr;
-    for (const auto command : {addSteelInsulation, addMonolith, insertInsulation}) {
-        EXPECT_EQ(command(edit()), CommandAnswer::nothing);
+    RezChain none;
+    for (const DesignEdit where : {edit(), DesignEdit{none, current}}) {
+        for (const auto command : {addInsulation, addSpace, addSteelInsulation, addMonolith,
+                                   insertInsulation, removeCurrent, removeCurrentGoingBack}) {
+            EXPECT_EQ(command(where), CommandAnswer::nothing);
+        }
+        EXPECT_EQ(moveCurrent(where, design.last()), CommandAnswer::nothing);
     }
+    EXPECT_EQ(addPrecast({none, current}, element.get()), CommandAnswer::nothing);
+    EXPECT_EQ(addSteel({none, current}, element.get()), CommandAnswer::nothing);
+}
+
+TEST_F(LayerCommands, ALayerIsMovedWithinItsDesign) {
+    append(layer(kind::precast, 70, "P"));
+    append(layer(kind::space, 30, "M"));
+    CRez stranger;
+    current = design.last();
+    for (CRez* const target : {&stranger, static_cast<CRez*>(nullptr), current}) {
+        EXPECT_EQ(moveCurrent(edit(), target), CommandAnswer::nothing);
+    }
+    EXPECT_EQ(moveCurrent(edit(), design.head()->next), CommandAnswer::done);
+    EXPECT_EQ(names(), "M* P ");
 }
 
 TEST_F(LayerCommands, ACastPartFillsTheFreeSpaceInAnyDesign) {
