@@ -41,13 +41,13 @@ void CObrP::move(Point p) {
     m_picture.setCursor(over ? CursorShape::hand : CursorShape::arrow);
 }
 
-// A refused value brings up a message, during which the button can go down once more.
+// A refused value brings up a message, during which the button can go down once more. The press
+// itself has moved the focus here.
 void CObrP::press(Point p) {
     if (m_pressed) return;
     m_pressed = true;
     if (m_services.editVisible()) {
         m_services.EndEdit();
-        m_picture.focus();
     } else if (const HitRegion* hit = regionAt(m_regions, p)) {
         edit(*hit, p);
     }

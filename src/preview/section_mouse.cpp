@@ -82,7 +82,7 @@ void SectionMouse::move(Point p, bool leftDown) {
     m_target = layerUnder(p);
     CRez* head = m_services.model().head();
     const CRez* current = m_services.model().current();
-    const bool drag = leftDown && head != nullptr && known(m_pressed) && m_pressed == current;
+    const bool drag = leftDown && m_pressed != nullptr && m_pressed == current;
     if (!drag) {
         m_picture.setCursor(m_target != nullptr ? CursorShape::hand : CursorShape::arrow);
         return;
@@ -153,8 +153,7 @@ void SectionMouse::forgetDrag() {
 
 void SectionMouse::release() {
     CRez* target = std::exchange(m_target, nullptr);
-    const bool dropped = m_dragging && known(m_pressed) &&
-                         m_pressed == m_services.model().current() && known(target);
+    const bool dropped = m_dragging && m_pressed == m_services.model().current();
     m_picture.setCursor(CursorShape::arrow);
     forgetDrag();
     if (!dropped) return;
