@@ -78,6 +78,7 @@ CommitAnswer commitValue(DesignEdit design, const ValueEdit& edit, std::string_v
     std::int32_t* value = valueOf(design.chain, edit.target);
     if (edit.kind == edit_kind::none || value == nullptr || typed == edit.shown) return {};
     CRez& head = *design.chain.head();
+    // A level below zero keeps its sign, although its place in the plan asks for none.
     if (value == &head.height) return commitLevel(head.height, typed);
 
     std::int32_t number = leadingInt(typed);

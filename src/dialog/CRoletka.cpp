@@ -76,6 +76,7 @@ void CRoletka::hide() {
     m_box.show(false);
 }
 
+// Not told of a switch to another program: the user may look the value up there.
 void CRoletka::leaveFocus() {
     if (m_edit.target.record != nullptr) {
         m_left = true;
@@ -94,6 +95,8 @@ bool CRoletka::commit(Message message) {
     if (edit.target.record == nullptr) return message == Message::posted || !tellRefusal();
     DesignModel& model = m_services.model();
     const CommitAnswer answer = commitValue(model.edit(), edit, typed, model.values().openingWidth);
+    // A value refused or kept has changed nothing. It is not laid out: the summary would take the
+    // place of a description that the user has typed.
     if (!answer.message.empty()) {
         refuse(answer, message);
         return false;

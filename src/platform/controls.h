@@ -50,8 +50,8 @@ public:
 
     // Sees a key down before the control and before the dialog's own keys (Enter, Esc, Tab).
     std::function<KeyAnswer(const KeyEvent&)> onKey;
-    // Fired when the focus leaves by the user's act. Show a message box from here by Dialog::post
-    // alone.
+    // Fired when the focus leaves for another control by the user's act. Show a message box from
+    // here by Dialog::post alone.
     std::function<void()> onBlur;
 };
 

@@ -60,7 +60,8 @@ std::int64_t drawBends(PlanSheet& sheet, const CRez& head, int face) {
     return lowest;
 }
 
-// The mark of a level, with its tip at that x, and the level upright beside it.
+// The mark of a level, with its tip at that x, and the level upright beside it. Its upper barb is
+// longer than the lower one (15 and 10 px): so the mark has always been drawn.
 void drawLevel(PlanSheet& sheet, const CRez& head, int x, int face) {
     sheet.canvas.setPen(dimensionPen);
     sheet.line({{x, face + 5}, {x, face + 45}});

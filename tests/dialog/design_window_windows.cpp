@@ -13,9 +13,15 @@ TEST_F(DesignDialog, ItsWindowTellsWhoseItIsAndComesToTheFrontAtATimer) {
         EXPECT_EQ(SendMessageW(window, identifyMessage, 0, 0), 1);
         const HWND other = CreateWindowW(L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 90, 90,
                                          nullptr, nullptr, nullptr, nullptr);
+        d.press("1 zalomení");
+        d.mouseDown("section", d.regionPoint("section", "run 1"));
+        d.type("77");
         SetActiveWindow(other);
         SendMessageW(window, WM_TIMER, 1, 0);
         EXPECT_EQ(GetActiveWindow(), window);
+        // What was being typed is still open.
+        EXPECT_EQ(d.visible("#1022") ? d.text("#1022") : "", "77");
+        EXPECT_NE(d.focusedControl().find("#1022"), std::string::npos);
         DestroyWindow(other);
         d.press("Zrušit");
     });
