@@ -24,24 +24,12 @@ std::size_t skipDigits(std::string_view text, std::size_t i) {
     return i;
 }
 
-// A decimal 0.d1d2d3... x 10^exponent.
-struct Decimal {
-    std::string digits;
-    int exponent = 0;
-};
-
-Decimal shortestDecimal(double magnitude) {
-    char buffer[40];
+Text fixedText(double value, int decimals) {
+    // The longest has 309 digits in front of its point.
+    char buffer[330];
     const auto written =
-        std::to_chars(buffer, buffer + sizeof buffer, magnitude, std::chars_format::scientific);
-    const std::string_view text(buffer, static_cast<std::size_t>(written.ptr - buffer));
-    const std::size_t e = text.find('e');
-    Decimal result;
-    for (const char c : text.substr(0, e)) {
-        if (c != '.') result.digits.push_back(c);
-    }
-    result.exponent = leadingInt(text.substr(e + 1)) + 1;
-    return result;
+        std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::fixed, decimals);
+    return {buffer, written.ptr};
 }
 
 // Whether a number of that notation is too large for a double or too small for one: the place of
@@ -75,28 +63,20 @@ Text formatInt(std::int64_t value) {
 Text formatFixed(double value, int decimals) {
     if (!std::isfinite(value)) value = 0.0;
     decimals = std::clamp(decimals, 0, 9);
-    Decimal number = shortestDecimal(std::fabs(value));
-    // One digit in front takes the carry of 9.99; places before the first digit are zeros.
-    if (number.exponent < 0) {
-        const int zeros = -number.exponent;
-        number.digits.insert(0, static_cast<std::size_t>(zeros), '0');
-        number.exponent = 0;
+    // Only a value of so few binary places can lie half way between two texts; one more decimal
+    // then shows it whole. The library rounds such a one to the even digit.
+    const double scaled = std::ldexp(value, decimals + 1);
+    if (scaled == std::trunc(scaled)) {
+        Text half = fixedText(value, decimals + 1);
+        if (half.back() == '5') {
+            half.resize(half.size() - (decimals == 0 ? 2 : 1));
+            if ((half.back() - '0') % 2 == 0) {
+                ++half.back();
+                return half;
+            }
+        }
     }
-    number.digits.insert(0, 1, '0');
-    const std::size_t whole = static_cast<std::size_t>(number.exponent) + 1;
-    const std::size_t keep = whole + static_cast<std::size_t>(decimals);
-    const bool roundUp = keep < number.digits.size() && number.digits[keep] >= '5';
-    number.digits.resize(keep, '0');
-    if (roundUp) {
-        std::size_t i = keep - 1;
-        while (number.digits[i] == '9') number.digits[i--] = '0';
-        ++number.digits[i];
-    }
-    Text result = std::signbit(value) ? "-" : "";
-    const std::size_t first = std::min(number.digits.find_first_not_of('0'), whole - 1);
-    result.append(number.digits, first, whole - first);
-    if (decimals > 0) result.append(1, '.').append(number.digits, whole);
-    return result;
+    return fixedText(value, decimals);
 }
 
 Text formatGeneral(double value) {

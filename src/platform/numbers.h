@@ -10,8 +10,8 @@ namespace lx {
 
 // "%d".
 Text formatInt(std::int64_t value);
-// "%.Nf" for 0 to 9 decimals, ties of the decimal digits rounded away from zero (12.25 with 1 gives
-// "12.3"); the value is taken as the shortest decimal that reads back as it. Infinite or not a
+// "%.Nf" for 0 to 9 decimals: what the double is decides (2.15 lies below and gives "2.1" with 1),
+// and where it lies exactly half way it goes away from zero (12.25 gives "12.3"). Infinite or not a
 // number: 0 so formatted.
 Text formatFixed(double value, int decimals);
 // "%g".

@@ -39,8 +39,8 @@ TEST(ItemCells, FollowTheColumnsOfTheirKind) {
     const CPreklItem* const two[] = {&item, &item};
     EXPECT_EQ(rowsAsText(two, steel),
               "Označení | Šířka [mm] | Výška [mm] | Hmotnost [kg/m] | qu [kN/m] | Popis | \r\n\r\n"
-              "I 160 | 70 | 238 | 12.3 | 1.001 | válcovaný | \r\n"
-              "I 160 | 70 | 238 | 12.3 | 1.001 | válcovaný | \r\n"_cz);
+              "I 160 | 70 | 238 | 12.3 | 1.000 | válcovaný | \r\n"
+              "I 160 | 70 | 238 | 12.3 | 1.000 | válcovaný | \r\n"_cz);
 }
 
 TEST(ItemRows, ListTheItemsOfOneType) {

@@ -17,14 +17,17 @@ std::string fixed(int decimals, std::initializer_list<double> values) {
     return texts;
 }
 
-TEST(Numbers, FixedRoundsDecimalTiesAwayFromZeroCarriesAndPads) {
-    EXPECT_EQ(fixed(0, {2.5, 0.5, 0.49999999999999994, 1234567.0}), "3 1 0 1234567 ");
-    // The double nearest to 0.15 is below it.
-    EXPECT_EQ(fixed(1, {12.25, -12.25, 0.05, 0.15, 9.96, -0.04, -infinity}),
-              "12.3 -12.3 0.1 0.2 10.0 -0.0 0.0 ");
-    EXPECT_EQ(fixed(3, {1.0005, 999.9996, 0.00049, 0.0005, 1e-300, 0.0, 74.3, notANumber}),
-              "1.001 1000.000 0.000 0.001 0.000 0.000 74.300 0.000 ");
-    EXPECT_EQ(formatFixed(1e300, 1), "1" + std::string(300, '0') + ".0");
+TEST(Numbers, FixedRoundsWhatTheDoubleIsAndTiesAwayFromZero) {
+    EXPECT_EQ(fixed(0, {2.5, 3.5, 0.5, 0.49999999999999994, 1234567.0}), "3 4 1 0 1234567 ");
+    // Most decimals have no double of their own, so that their ties are none.
+    EXPECT_EQ(fixed(1, {2.15, 0.35, 0.05, 0.15, 2.25, 12.25, -12.25, 12.75, 9.75, 9.96, 0.5}),
+              "2.1 0.3 0.1 0.1 2.3 12.3 -12.3 12.8 9.8 10.0 0.5 ");
+    EXPECT_EQ(fixed(1, {99.95, 9.95, -0.04, -infinity, notANumber, 4503599627370495.5}),
+              "100.0 9.9 -0.0 0.0 0.0 4503599627370495.5 ");
+    EXPECT_EQ(fixed(3, {0.0625, 0.1875, 1.0005, 1.0015, 999.9996, 0.0005, 0.00049, 1e-300, 74.3}),
+              "0.063 0.188 1.000 1.002 1000.000 0.001 0.000 0.000 74.300 ");
+    EXPECT_EQ(formatFixed(1e300, 1).substr(0, 20), "10000000000000000525");
+    EXPECT_EQ(formatFixed(-std::numeric_limits<double>::max(), 9).size(), 320U);
 }
 
 TEST(Numbers, GeneralIsThatOfTheCLibrary) {
