@@ -86,7 +86,8 @@ NamedKey keyNamed(std::string_view name) {
         found = true;
     }
     if (!found) throw DriverError("there is no key \"" + std::string(name) + "\"");
-    if (result.event.ctrl) result.character = 0;
+    // With both it is AltGr, which types.
+    if (result.event.ctrl && !result.event.alt) result.character = 0;
     return result;
 }
 

@@ -179,7 +179,7 @@ void HeadlessDialog::handleKey(const KeyEvent& event, char32_t typed) {
     if (!forControl && (dialogKey(event) || mnemonicKey(event, typed))) return;
     HeadlessControl* target = m_focus;
     if (!target || target->keyDown(event) || !m_running) return;
-    if (typed && !event.alt && !event.ctrl && m_focus == target) target->character(typed);
+    if (typed && event.alt == event.ctrl && m_focus == target) target->character(typed);
 }
 
 bool HeadlessDialog::dialogKey(const KeyEvent& event) {
@@ -210,7 +210,8 @@ bool HeadlessDialog::dialogKey(const KeyEvent& event) {
 }
 
 bool HeadlessDialog::mnemonicKey(const KeyEvent& event, char32_t typed) {
-    const bool plain = !event.alt && !event.ctrl && typed > ' ';
+    const bool plain = !event.alt && typed > ' ';
+    if (event.ctrl) return false;
     if (!event.alt && !(plain && m_focus && !m_focus->wantsCharacters())) return false;
     const bool names =
         (event.key >= 'A' && event.key <= 'Z') || (event.key >= '0' && event.key <= '9');
