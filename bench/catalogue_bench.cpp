@@ -171,15 +171,17 @@ void orderYardstick(benchmark::State& state) {
 
 void sortYardstick(benchmark::State& state) {
     const Catalogue records = oneType(state.range(0));
-    std::vector<Text> ready;
+    std::vector<NaturalText> ready;
     for (const CPreklItem* item = records->next.get(); item; item = item->next.get()) {
-        ready.push_back(naturalKey(*item->designation));
+        ready.emplace_back(*item->designation);
     }
     for (auto _ : state) {
         state.PauseTiming();
-        std::vector<Text> keys = ready;
+        std::vector<NaturalText> keys = ready;
         state.ResumeTiming();
-        std::stable_sort(keys.begin(), keys.end());
+        std::stable_sort(keys.begin(), keys.end(), [](const NaturalText& a, const NaturalText& b) {
+            return compareNatural(b, a) == 1;
+        });
         state.PauseTiming();
         keys = {};
         state.ResumeTiming();

@@ -29,7 +29,7 @@ void CEntManager::remove(std::int32_t number) {
 // ---- ItemRows
 
 void ItemRows::refresh(CPreklItem* chain, std::int32_t type) {
-    m_listed = CEntManager();
+    m_rowNumbers = CEntManager();
     m_rows.clear();
     for (CPreklItem* record = chain; record; record = record->next.get()) {
         if (record->group == type && type > 0) add(*record);
@@ -37,28 +37,31 @@ void ItemRows::refresh(CPreklItem* chain, std::int32_t type) {
 }
 
 void ItemRows::add(CPreklItem& record) {
-    m_listed.add(record);
+    m_rowNumbers.add(record);
     m_rows.push_back(record.rowNo);
 }
 
 void ItemRows::remove(int row) {
-    if (row < 0 || row >= count()) return;
-    const std::int32_t number = m_rows[static_cast<std::size_t>(row)];
-    m_listed.remove(number);
+    const std::int32_t number = readField(row);
+    if (number < 0) return;
+    m_rowNumbers.remove(number);
     m_rows.erase(m_rows.begin() + row);
     for (std::int32_t& other : m_rows) {
         if (other > number) --other;
     }
 }
 
+std::int32_t ItemRows::readField(int row) const {
+    return row < 0 || row >= count() ? -1 : m_rows[static_cast<std::size_t>(row)];
+}
+
 CPreklItem* ItemRows::record(int row) const {
-    if (row < 0 || row >= count()) return nullptr;
-    return m_listed.find(m_rows[static_cast<std::size_t>(row)]);
+    return m_rowNumbers.find(readField(row));
 }
 
 int ItemRows::rowOf(const CPreklItem& record) const {
     // A record listed earlier keeps its number.
-    if (m_listed.find(record.rowNo) != &record) return -1;
+    if (m_rowNumbers.find(record.rowNo) != &record) return -1;
     const auto found = std::find(m_rows.begin(), m_rows.end(), record.rowNo);
     return static_cast<int>(found - m_rows.begin());
 }
@@ -73,16 +76,18 @@ std::vector<const CPreklItem*> ItemRows::records(std::span<const int> rows) cons
 
 void ItemRows::sortRows(int column, bool descending) {
     struct Keyed {
-        Text key;
+        NaturalText text;
         std::int32_t number;
     };
     std::vector<Keyed> keyed;
     keyed.reserve(m_rows.size());
     for (const std::int32_t number : m_rows) {
-        keyed.push_back({naturalKey(cellText(*m_listed.find(number), column, m_kind)), number});
+        const CPreklItem& record = *m_rowNumbers.find(number);
+        keyed.push_back({NaturalText(cellText(record, column, m_kind)), number});
     }
-    std::stable_sort(keyed.begin(), keyed.end(),
-                     [](const Keyed& a, const Keyed& b) { return a.key < b.key; });
+    std::stable_sort(keyed.begin(), keyed.end(), [](const Keyed& a, const Keyed& b) {
+        return compareNatural(b.text, a.text) == 1;
+    });
     if (descending) std::reverse(keyed.begin(), keyed.end());
     std::transform(keyed.begin(), keyed.end(), m_rows.begin(),
                    [](const Keyed& row) { return row.number; });

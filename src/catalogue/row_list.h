@@ -60,7 +60,10 @@ public:
 
 private:
     CatalogueKind m_kind;
-    CEntManager m_listed;
+    // The number of the record in that row; -1 when there is no such row.
+    std::int32_t readField(int row) const;
+
+    CEntManager m_rowNumbers;
     std::vector<std::int32_t> m_rows;  // record numbers
     int m_sortColumn = -1;
     bool m_sortDescending = true;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "catalogue/natural_order.h"
 #include "composition/automatic.h"
 #include "composition/hand_over.h"
 #include "composition/layout.h"
@@ -139,7 +140,7 @@ void DesignModel::setStoredDesigns(std::vector<LibraryEntry> designs) {
     m_stored = std::move(designs);
     std::stable_sort(
         m_stored.begin(), m_stored.end(),
-        [](const LibraryEntry& a, const LibraryEntry& b) { return offerLess(a.label, b.label); });
+        [](const LibraryEntry& a, const LibraryEntry& b) { return plainLess(a.label, b.label); });
 }
 
 void DesignModel::showStored(int entry) {

@@ -14,10 +14,11 @@ bool isDigit(char c) {
 
 // Strictly: the other way round it does not hold.
 bool before(std::string_view a, std::string_view b) {
-    return compareNatural(a, b) == 0 && compareNatural(b, a) == 1;
+    return compareNatural(NaturalText(a), NaturalText(b)) == 0 &&
+           compareNatural(NaturalText(b), NaturalText(a)) == 1;
 }
 bool alike(std::string_view a, std::string_view b) {
-    return compareNatural(a, b) == 0 && compareNatural(b, a) == 0;
+    return !before(a, b) && !before(b, a);
 }
 
 TEST(NaturalOrder, KnowsTheCzechLettersAndPutsTheOthersBeforeThem) {
@@ -58,6 +59,26 @@ TEST(NaturalOrder, ComparesRunsOfDigitsOfAnyLength) {
         EXPECT_TRUE(alike(next, "0" + next)) << digits;
         EXPECT_TRUE(before(nines, nines + "#")) << digits;
     }
+}
+
+TEST(PlainOrder, DigitsAreCharactersAndLetterCaseIsNone) {
+    // "CH" stays among those with "C".
+    const std::string_view ascending[] = {"",    "A  ", "A1 ",    "A10", "A19",    "A2 ",
+                                          "A9 ", "A_1", "aa ",    "aB ", "Á  "_cz, "c  ",
+                                          "cH ", "CI ", "Č  "_cz, "d  ", "Ž  "_cz};
+    for (std::size_t i = 0; i < std::size(ascending); ++i) {
+        for (std::size_t k = 0; k < std::size(ascending); ++k) {
+            EXPECT_EQ(plainLess(ascending[k], ascending[i]), k < i)
+                << toUtf8(ascending[k]) << '|' << toUtf8(ascending[i]);
+        }
+    }
+    for (std::size_t i = 0; i + 1 < collation.size(); ++i) {
+        const char upper = collation[i + 1];
+        const bool pair = static_cast<unsigned char>(collation[i]) ==
+                          lowerCase(static_cast<unsigned char>(upper));
+        EXPECT_EQ(plainLess(collation.substr(i, 1), collation.substr(i + 1, 1)), !pair) << i;
+    }
+    EXPECT_FALSE(plainLess("!", ".") || plainLess(".", "!"));
 }
 
 }  // namespace

@@ -69,11 +69,11 @@ struct StoredDesigns : testing::Test {
 };
 
 TEST_F(StoredDesigns, TheDefaultEntryComesFirstWhateverTheLabelsAre) {
-    load({"B", "!", "A10", "A2"});
+    load({"B", "!", "A9", "A10", "a2"});
     EXPECT_EQ(model.storedLabels(),
-              (std::vector<Text>{Text("<výchozí>"_cz), "!  ", "A2 ", "A10", "B  "}));
-    EXPECT_TRUE(model.listsLabel("A2 "));
-    EXPECT_FALSE(model.listsLabel("a2 "));
+              (std::vector<Text>{Text("<výchozí>"_cz), "!  ", "A10", "a2 ", "A9 ", "B  "}));
+    EXPECT_TRUE(model.listsLabel("a2 "));
+    EXPECT_FALSE(model.listsLabel("A2 "));
     EXPECT_FALSE(model.listsLabel("<výchozí>"_cz));
 }
 
