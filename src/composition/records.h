@@ -109,10 +109,11 @@ public:
     CRez* insertAfter(CRez* after, std::unique_ptr<CRez> record);
     // Unlinks a record; null when it is not in the chain.
     std::unique_ptr<CRez> unlink(CRez* record);
-    // Gives the chain away without destroying it.
-    CRez* release();
 
 private:
+    // The chain, which is nobody's then.
+    CRez* release();
+
     CRez* m_head = nullptr;
     CRez* m_last = nullptr;
 };

@@ -17,17 +17,10 @@ class BinaryReader {
 public:
     explicit BinaryReader(std::string_view bytes) : m_bytes(bytes) {}
 
-    std::size_t position() const { return m_position; }
     std::size_t remaining() const { return m_bytes.size() - m_position; }
     bool atEnd() const { return remaining() == 0; }
     // Set once a read asked for more than there was; every later read then answers 0 as well.
     bool cutShort() const { return m_cutShort; }
-    // False (and nothing moves) when the position lies behind the end.
-    bool seek(std::size_t position) {
-        if (position > m_bytes.size()) return false;
-        m_position = position;
-        return true;
-    }
 
     std::int32_t int32() { return number<std::int32_t>(); }
     double float64() { return number<double>(); }

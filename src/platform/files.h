@@ -44,7 +44,6 @@ public:
 
     // missing: no such file or folder; failed: it is there but cannot be read.
     virtual FileRead read(const Path& path) = 0;
-    virtual bool exists(const Path& path) = 0;
     // True when both names lead to one existing file, however they are written.
     virtual bool same(const Path& a, const Path& b) = 0;
     // True when the file can be opened for reading and writing now.

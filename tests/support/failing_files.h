@@ -17,7 +17,6 @@ public:
         if (fails()) return {ReadStatus::failed, {}};
         return m_files.read(path);
     }
-    bool exists(const Path& path) override { return m_files.exists(path); }
     bool same(const Path& a, const Path& b) override { return m_files.same(a, b); }
     bool writable(const Path& path) override { return !fails() && m_files.writable(path); }
     bool createEmpty(const Path& path) override { return !fails() && m_files.createEmpty(path); }

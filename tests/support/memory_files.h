@@ -20,7 +20,7 @@ public:
         if (found == content.end()) return {ReadStatus::missing, {}};
         return {ReadStatus::ok, found->second};
     }
-    bool exists(const Path& path) override { return content.count(path) + locked.count(path) != 0; }
+    bool exists(const Path& path) const { return content.count(path) + locked.count(path) != 0; }
     bool same(const Path& a, const Path& b) override { return a == b && exists(a); }
     bool writable(const Path& path) override {
         return !readOnly && locked.count(path) == 0 && exists(path);

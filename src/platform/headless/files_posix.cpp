@@ -123,11 +123,6 @@ public:
         return {ReadStatus::failed, {}};
     }
 
-    bool exists(const Path& path) override {
-        struct stat about {};
-        return ::stat(path.c_str(), &about) == 0 && !S_ISDIR(about.st_mode);
-    }
-
     bool same(const Path& a, const Path& b) override {
         struct stat one {};
         struct stat other {};

@@ -157,11 +157,6 @@ public:
         return {ReadStatus::failed, {}};
     }
 
-    bool exists(const Path& path) override {
-        const DWORD attributes = GetFileAttributesA(path.c_str());
-        return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
-    }
-
     bool same(const Path& a, const Path& b) override {
         const FileHandle one(a, 0, shareAll, OPEN_EXISTING);
         const FileHandle other(b, 0, shareAll, OPEN_EXISTING);
