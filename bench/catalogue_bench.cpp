@@ -82,7 +82,8 @@ std::vector<PlainRecord> plainLoad() {
 }
 
 LoadedCatalogue load() {
-    return loadCatalogue(CatalogueKind::precast, filePath, systemFiles());
+    const std::optional<Bytes> file = openCatalogueFileAt(filePath, systemFiles());
+    return loadCatalogue(CatalogueKind::precast, *file);
 }
 
 template <class Load>
@@ -212,8 +213,8 @@ void mergeModule(benchmark::State& state) {
     const ToMerge both = toMerge(state.range(0));
     for (auto _ : state) {
         state.PauseTiming();
-        Catalogue installed = copyCatalogue(both.installed.get());
-        Catalogue supplied = copyCatalogue(both.supplied.get());
+        Catalogue installed = copyOf(both.installed);
+        Catalogue supplied = copyOf(both.supplied);
         state.ResumeTiming();
         Catalogue merged = mergedCatalogue(std::move(installed), std::move(supplied));
         state.PauseTiming();

@@ -141,29 +141,39 @@ public:
         if (found == 0) line.fail("no lintel of that designation");
         m_rules += found;
     }
-    const Bytes& file() const { return m_file; }
     int rules() const { return m_rules; }
+    bool save(const Path& path) const {
+        std::vector<ProfileChange> changes;
+        for (const Line& line : m_lines) changes.push_back({line.section, line.key, line.value});
+        return systemFiles().remove(path) && Profile(systemFiles(), path).apply(changes);
+    }
 
 private:
+    struct Line {
+        Text section;
+        Text key;
+        Text value;
+    };
     void write(std::string_view section, std::string_view key, std::string_view value) {
-        m_file = profileWritten(m_file, section, key, value);
+        m_lines.push_back({Text(section), Text(key), Text(value)});
     }
 
     const CPreklItem* m_precast;
-    Bytes m_file;
+    std::vector<Line> m_lines;
     std::string m_wall;
     int m_walls = 0;
     int m_rules = 0;
 };
 
-// Saved, loaded again and compared with what was meant.
+// Saved, loaded and saved again: what was read is what was written.
 void saveChecked(const Catalogue& catalogue, CatalogueKind kind, const Path& path) {
     if (saveCatalogueAs(catalogue.get(), path, systemFiles()) != 0) {
         throw std::runtime_error(path + ": cannot be written");
     }
-    const LoadedCatalogue loaded = loadCatalogue(kind, path, systemFiles());
-    if (!loaded.opened || loaded.state.damaged ||
-        catalogueBytes(loaded.head.get()) != catalogueBytes(catalogue.get())) {
+    const Bytes written = systemFiles().read(path).bytes;
+    const LoadedCatalogue loaded = loadCatalogue(kind, written);
+    const bool again = saveCatalogueAs(loaded.head.get(), path, systemFiles()) == 0;
+    if (!again || loaded.state.damaged || systemFiles().read(path).bytes != written) {
         throw std::runtime_error(path + ": does not read back as it was written");
     }
 }
@@ -192,7 +202,7 @@ void makeAll(const std::string& sources, const std::string& out) {
         saveChecked(*catalogue, kind, inFolder(out, catalogueFileName(kind)));
     }
     const Path rulesPath = inFolder(out, "VDLINTEL.TXT");
-    if (!systemFiles().replace(rulesPath, rules.file())) {
+    if (!rules.save(rulesPath)) {
         throw std::runtime_error(rulesPath + ": cannot be written");
     }
     std::cout << precastItems << " precast lintels, " << sections << " sections, " << rules.rules()

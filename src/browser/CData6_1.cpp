@@ -45,16 +45,21 @@ int CData6_1::runStandAlone() {
     if (choice == failed) return failed;
     if (choice == id::cancel) return nothingChosen;
     m_request.kind = choice == id::choosePrecast ? CatalogueKind::precast : CatalogueKind::steel;
-    LoadedCatalogue loaded =
-        loadCatalogue(m_request.kind, cataloguePath(m_request.kind, m_host), m_files);
-    if (!loaded.opened) {
+    if (!loadOwnItems()) {
         message(text::catalogueNotAccessible, m_host.hostTitle(), MessageIcon::stop,
                 MessageButtons::ok);
         return notOpened;
     }
+    return run(m_ownItems, m_ownState);
+}
+
+bool CData6_1::loadOwnItems() {
+    const std::optional<Bytes> file = openCatalogueFile(m_request.kind, m_host, m_files);
+    if (!file) return false;
+    LoadedCatalogue loaded = loadCatalogue(m_request.kind, *file);
     m_ownItems = std::move(loaded.head);
     m_ownState = loaded.state;
-    return run(m_ownItems, m_ownState);
+    return true;
 }
 
 int CData6_1::runOn(Catalogue& items, CatalogueState& state, const BrowserRequest& request) {

@@ -64,6 +64,7 @@ private:
                           MessageButtons buttons) const;
 
     // ---- opening
+    bool loadOwnItems();
     int run(Catalogue& items, CatalogueState& state);
     void connect();
     void open();

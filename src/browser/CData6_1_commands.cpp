@@ -125,7 +125,7 @@ void CData6_1::newItem() {
 
 void CData6_1::addItem(const EditorTexts& texts) {
     m_list->add(appendItem(*m_items, *selectedType(), texts));
-    m_session->save();
+    m_session->saveCatalogue();
 }
 
 void CData6_1::editItem() {
@@ -157,7 +157,7 @@ void CData6_1::pick() {
 
 void CData6_1::confirm() {
     saveColumns();
-    m_session->save();
+    m_session->saveCatalogue();
     close(id::ok);
 }
 

@@ -1,30 +1,69 @@
 #include "catalogue/catalogue_file.h"
 
+#include <algorithm>
+#include <new>
 #include <utility>
+
+#include "platform/binary.h"
 
 namespace lx {
 
 namespace {
 
-constexpr std::size_t fixedRecordSize = 39;  // bytes of a record without texts
-constexpr std::size_t pieceSize = 262144;    // bytes that are written at a time
+constexpr std::size_t pieceSize = 262144;  // bytes that are written at a time
 
-std::optional<Text> readText(BinaryReader& reader, bool& damaged) {
-    std::string_view text = reader.zeroTerminated();
-    if (text.empty()) return std::nullopt;
-    if (text.size() > catalogueTextLimit) {
-        damaged = true;
-        text = text.substr(0, catalogueTextLimit);
+// Whether every type has its position for a number, from 1, and every item one of theirs.
+class Numbering {
+public:
+    void add(std::int32_t group) {
+        if (group < 0) {
+            m_inOrder = m_inOrder && group == -++m_types;
+        } else {
+            m_lowest = std::min(m_lowest, group);
+            m_highest = std::max(m_highest, group);
+        }
     }
-    return Text(text);
-}
+    bool sound() const { return m_inOrder && m_lowest > 0 && m_highest <= m_types; }
 
-void writeText(const std::optional<Text>& text, BinaryWriter& writer) {
-    std::string_view bytes;
-    if (text) bytes = std::string_view(*text).substr(0, catalogueTextLimit);
-    // A zero inside would end the text early and shift everything behind it.
-    writer.zeroTerminated(bytes.substr(0, bytes.find('\0')));
-}
+private:
+    bool m_inOrder = true;
+    std::int32_t m_types = 0;
+    std::int32_t m_lowest = 1;  // of the items' numbers
+    std::int32_t m_highest = 0;
+};
+
+// Keeps the file of that name as its .bak. What was there of that name comes back unless done is
+// told.
+class Backup {
+public:
+    Backup(Files& files, const Path& path) : m_files(files), m_path(path + ".bak") {
+        m_before = m_files.read(m_path);
+        m_made = m_before.status != ReadStatus::failed && m_files.keepAsBackup(path);
+    }
+    ~Backup() {
+        if (!m_made) return;
+        try {
+            if (m_before.status == ReadStatus::ok) {
+                m_files.replace(m_path, m_before.bytes);
+            } else {
+                m_files.remove(m_path);
+            }
+        } catch (const std::bad_alloc&) {
+            // A .bak too many loses nothing.
+        }
+    }
+    Backup(const Backup&) = delete;
+    Backup& operator=(const Backup&) = delete;
+
+    bool made() const { return m_made; }
+    void done() { m_made = false; }
+
+private:
+    Files& m_files;
+    Path m_path;
+    FileRead m_before;
+    bool m_made = false;
+};
 
 }  // namespace
 
@@ -38,45 +77,34 @@ Path cataloguePath(CatalogueKind kind, Host& host) {
     return path;
 }
 
-bool readRecord(CPreklItem& record, BinaryReader& reader, bool& damaged) {
-    if (reader.remaining() < sizeof(std::int32_t)) return false;
-    record.group = reader.int32();
-    record.length = reader.int32();
-    record.width = reader.int32();
-    record.height = reader.int32();
-    record.maxOpening = reader.int32();
-    record.weight = reader.float64();
-    record.qu = reader.float64();
-    record.designation = readText(reader, damaged);
-    record.description = readText(reader, damaged);
-    record.compositionMark = static_cast<char>(reader.byte());
-    return !reader.cutShort();
+std::optional<Bytes> openCatalogueFileAt(const Path& path, Files& files) {
+    FileRead file = files.read(path);
+    const bool opened = file.status == ReadStatus::missing
+                            ? files.createEmpty(path)
+                            : file.status == ReadStatus::ok && files.writable(path);
+    if (!opened) return std::nullopt;
+    return std::move(file.bytes);
 }
 
-void writeRecord(const CPreklItem& record, BinaryWriter& writer) {
-    writer.int32(record.group);
-    writer.int32(record.length);
-    writer.int32(record.width);
-    writer.int32(record.height);
-    writer.int32(record.maxOpening);
-    writer.float64(record.weight);
-    writer.float64(record.qu);
-    writeText(record.designation, writer);
-    writeText(record.description, writer);
-    writer.byte(static_cast<unsigned char>(record.compositionMark));
+std::optional<Bytes> openCatalogueFile(CatalogueKind kind, Host& host, Files& files) {
+    return openCatalogueFileAt(cataloguePath(kind, host), files);
 }
 
-CatalogueRead parseCatalogue(CatalogueKind kind, std::string_view bytes) {
-    CatalogueRead result;
+LoadedCatalogue loadCatalogue(CatalogueKind kind, std::string_view bytes) {
+    LoadedCatalogue result;
     BinaryReader reader(bytes);
     Catalogue* end = &result.head;
+    Numbering numbering;
+    bool damaged = false;
     for (;;) {
         auto record = std::make_unique<CPreklItem>();
-        if (!readRecord(*record, reader, result.damaged)) break;
+        if (!record->readRecord(reader, damaged)) break;
+        numbering.add(record->group);
         *end = std::move(record);
         end = &(*end)->next;
     }
-    if (reader.cutShort() || !reader.atEnd()) result.damaged = true;
+    damaged = damaged || reader.cutShort() || !reader.atEnd() || !numbering.sound();
+    result.state = stateOf(bytes, damaged);
     completeShapes(kind, result.head.get());
     return result;
 }
@@ -88,59 +116,29 @@ void completeShapes(CatalogueKind kind, CPreklItem* head) {
     }
 }
 
-Bytes catalogueBytes(const CPreklItem* head) {
-    std::size_t size = 0;
-    for (const CPreklItem* record = head; record; record = record->next.get()) {
-        size += fixedRecordSize + (record->designation ? record->designation->size() : 0) +
-                (record->description ? record->description->size() : 0);
-    }
-    BinaryWriter writer;
-    writer.reserve(size);
-    for (const CPreklItem* record = head; record; record = record->next.get()) {
-        writeRecord(*record, writer);
-    }
-    return writer.take();
-}
-
-LoadedCatalogue loadCatalogue(CatalogueKind kind, const Path& path, Files& files) {
-    LoadedCatalogue result;
-    const FileRead file = files.read(path);
-    if (file.status == ReadStatus::missing) {
-        result.opened = files.createEmpty(path);
-        result.state = stateOf({}, false);
-        return result;
-    }
-    if (file.status == ReadStatus::failed || !files.writable(path)) return result;
-    CatalogueRead read = parseCatalogue(kind, file.bytes);
-    result.opened = true;
-    result.head = std::move(read.head);
-    result.state = stateOf(file.bytes, read.damaged);
-    return result;
-}
-
 // Piece by piece: fresh memory for the whole file would cost more than what is put into it.
 int saveCatalogueAs(const CPreklItem* head, const Path& path, Files& files, bool keepOld,
                     CatalogueState* written) {
     constexpr int notAccessible = -5;
-    if (keepOld && !files.keepAsBackup(path)) return notAccessible;
+    std::optional<Backup> backup;
     const CPreklItem* record = head;
     BinaryWriter piece;
     CatalogueHash hash;
-    const bool done = files.replaceByPieces(path, [&] {
+    const bool done = files.replaceByPieces(path, [&]() -> std::optional<std::string_view> {
         piece.clear();
         for (; record && piece.bytes().size() < pieceSize; record = record->next.get()) {
-            writeRecord(*record, piece);
+            record->writeRecord(piece);
         }
         if (written) hash.add(piece.bytes());
-        return std::string_view(piece.bytes());
+        // What can fail is behind by then, all but putting the file in its place.
+        const bool atEnd = piece.bytes().empty();
+        if (atEnd && keepOld && !backup.emplace(files, path).made()) return std::nullopt;
+        return piece.bytes();
     });
     if (!done) return notAccessible;
+    if (backup) backup->done();
     if (written) *written = hash.state(false);
     return 0;
-}
-
-Catalogue copyCatalogue(const CPreklItem* head) {
-    return head ? std::make_unique<CPreklItem>(*head) : nullptr;
 }
 
 }  // namespace lx

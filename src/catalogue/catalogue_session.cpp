@@ -18,9 +18,9 @@ CatalogueSession::CatalogueSession(Files& files, Host& host, CatalogueKind kind,
     m_readOnly = false;
     if (file.status == ReadStatus::ok) {
         if (!m_state.holds(file.bytes)) {
-            CatalogueRead read = parseCatalogue(kind, file.bytes);
+            LoadedCatalogue read = loadCatalogue(kind, file.bytes);
             m_items = std::move(read.head);
-            m_state = stateOf(file.bytes, read.damaged);
+            m_state = read.state;
             m_reloaded = true;
         }
         m_backup = std::move(file.bytes);
@@ -28,7 +28,7 @@ CatalogueSession::CatalogueSession(Files& files, Host& host, CatalogueKind kind,
     m_backupState = m_state;
 }
 
-void CatalogueSession::save() {
+void CatalogueSession::saveCatalogue() {
     if (m_readOnly) return;
     const bool keepOld = m_state.damaged;
     if (saveCatalogueAs(m_items.get(), m_path, m_files, keepOld, &m_state) == 0) m_written = true;

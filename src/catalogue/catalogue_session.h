@@ -23,8 +23,8 @@ public:
     bool reloaded() const { return m_reloaded; }
 
     // The items as they are now. A file that cannot be written stays as it is.
-    void save();
-    // The file as it was when the session began. Nothing is written unless save was.
+    void saveCatalogue();
+    // The file as it was when the session began. Nothing is written unless saveCatalogue did.
     void putBack();
 
 private:
@@ -36,7 +36,9 @@ private:
     bool m_readOnly = true;
     bool m_reloaded = false;
     bool m_written = false;
-    std::optional<Bytes> m_backup;  // none = there was no file
+    // The bytes, not a copy of the items: what could not be read of them comes back as well. None =
+    // there was no file.
+    std::optional<Bytes> m_backup;
     CatalogueState m_backupState;
 };
 

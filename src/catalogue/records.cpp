@@ -2,35 +2,61 @@
 
 #include <utility>
 
+#include "platform/binary.h"
+
 namespace lx {
 
-CPreklItem::CPreklItem(const CPreklItem& other, Alone)
-    : rowNo(other.rowNo),
-      group(other.group),
-      length(other.length),
-      width(other.width),
-      height(other.height),
-      maxOpening(other.maxOpening),
-      weight(other.weight),
-      qu(other.qu),
-      designation(other.designation),
-      description(other.description),
-      compositionMark(other.compositionMark) {}
+namespace {
 
-CPreklItem::CPreklItem(const CPreklItem& other) : CPreklItem(other, Alone{}) {
-    CPreklItem* last = this;
-    for (const CPreklItem* source = other.next.get(); source; source = source->next.get()) {
-        last->next = source->copyAlone();
-        last = last->next.get();
+std::optional<Text> readText(BinaryReader& reader, bool& damaged) {
+    std::string_view text = reader.zeroTerminated();
+    if (text.empty()) return std::nullopt;
+    if (text.size() > catalogueTextLimit) {
+        damaged = true;
+        text = text.substr(0, catalogueTextLimit);
     }
+    return Text(text);
 }
+
+void writeText(const std::optional<Text>& text, BinaryWriter& writer) {
+    std::string_view bytes;
+    if (text) bytes = std::string_view(*text).substr(0, catalogueTextLimit);
+    // A zero inside would end the text early and shift everything behind it.
+    writer.zeroTerminated(bytes.substr(0, bytes.find('\0')));
+}
+
+}  // namespace
 
 CPreklItem::~CPreklItem() {
     for (std::unique_ptr<CPreklItem> rest = std::move(next); rest;) rest = std::move(rest->next);
 }
 
-std::unique_ptr<CPreklItem> CPreklItem::copyAlone() const {
-    return std::unique_ptr<CPreklItem>(new CPreklItem(*this, Alone{}));
+bool CPreklItem::readRecord(BinaryReader& reader, bool& damaged) {
+    if (reader.remaining() < sizeof(std::int32_t)) return false;
+    group = reader.int32();
+    length = reader.int32();
+    width = reader.int32();
+    height = reader.int32();
+    maxOpening = reader.int32();
+    weight = reader.float64();
+    qu = reader.float64();
+    designation = readText(reader, damaged);
+    description = readText(reader, damaged);
+    compositionMark = static_cast<char>(reader.byte());
+    return !reader.cutShort();
+}
+
+void CPreklItem::writeRecord(BinaryWriter& writer) const {
+    writer.int32(group);
+    writer.int32(length);
+    writer.int32(width);
+    writer.int32(height);
+    writer.int32(maxOpening);
+    writer.float64(weight);
+    writer.float64(qu);
+    writeText(designation, writer);
+    writeText(description, writer);
+    writer.byte(static_cast<unsigned char>(compositionMark));
 }
 
 }  // namespace lx

@@ -9,17 +9,30 @@
 
 namespace lx {
 
+class BinaryReader;
+class BinaryWriter;
+
 // Which catalogue: 1 = steel sections, any other value = precast lintels.
 enum class CatalogueKind : std::int32_t { precast = 0, steel = 1 };
 
-// One record. Owns the rest of the chain; copied and destroyed without recursion.
+// Longest text of a record, in bytes, without its terminating zero.
+inline constexpr std::size_t catalogueTextLimit = 99;
+
+// One record. Owns the rest of the chain; destroyed without recursion.
 class CPreklItem {
 public:
     CPreklItem() = default;
-    // Copies every field, both texts and the whole rest of the chain.
-    CPreklItem(const CPreklItem& other);
+    CPreklItem(const CPreklItem&) = delete;
     CPreklItem& operator=(const CPreklItem&) = delete;
     virtual ~CPreklItem();
+
+    // Reads the record at the reader's position into one that is fresh. False when fewer than 4
+    // bytes are left, or when the record is cut short (reader.cutShort() tells); it is then not to
+    // be kept. A text longer than catalogueTextLimit is cut to it, the reader moves on behind its
+    // zero, and damaged is set.
+    bool readRecord(BinaryReader& reader, bool& damaged);
+    // Texts are cut to catalogueTextLimit.
+    void writeRecord(BinaryWriter& writer) const;
 
     bool isType() const { return group < 0; }
     // designation, or an empty text where there is none
@@ -27,8 +40,6 @@ public:
         if (!designation) return {};
         return *designation;
     }
-    // A copy of this record alone, without the rest of the chain.
-    std::unique_ptr<CPreklItem> copyAlone() const;
 
     std::int32_t rowNo = 0;   // number in the browser's current list; never stored
     std::int32_t group = -1;  // type k: -k; item of type k: k
@@ -43,10 +54,6 @@ public:
     std::optional<Text> description;
     char compositionMark = ' ';  // letter that the rules file uses; blank = none
     std::unique_ptr<CPreklItem> next;
-
-private:
-    struct Alone {};
-    CPreklItem(const CPreklItem& other, Alone);
 };
 
 using Catalogue = std::unique_ptr<CPreklItem>;

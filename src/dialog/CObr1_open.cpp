@@ -72,14 +72,14 @@ bool CObr1::loadCatalogues() {
 
 // Going on without a catalogue would let the browser empty its file.
 bool CObr1::loadCatalogueOf(CatalogueKind kind, Catalogue& catalogue, CatalogueState& state) {
-    LoadedCatalogue loaded =
-        loadCatalogue(kind, cataloguePath(kind, m_context.host), m_context.files);
-    if (!loaded.opened) {
+    const std::optional<Bytes> file = openCatalogueFile(kind, m_context.host, m_context.files);
+    if (!file) {
         m_context.platform.messageBox(Owner{m_window.get(), m_owner.hostWindow},
                                       text::catalogueNotAccessible, m_context.host.hostTitle(),
                                       MessageIcon::stop, MessageButtons::ok);
         return false;
     }
+    LoadedCatalogue loaded = loadCatalogue(kind, *file);
     catalogue = std::move(loaded.head);
     state = loaded.state;
     return true;

@@ -70,14 +70,14 @@ int mergeCatalogue(Files& files, const Path& source, const Path& target, MergeLo
     const CatalogueKind kind = kindOf(source);
     const FileRead installedFile = files.read(target);
     if (installedFile.status != ReadStatus::ok) return LX_MERGE_NO_TARGET;
-    CatalogueRead installed = parseCatalogue(kind, installedFile.bytes);
+    LoadedCatalogue installed = loadCatalogue(kind, installedFile.bytes);
     const FileRead suppliedFile = files.read(source);
     if (suppliedFile.status != ReadStatus::ok) return LX_MERGE_NO_SOURCE;
-    CatalogueRead supplied = parseCatalogue(kind, suppliedFile.bytes);
+    LoadedCatalogue supplied = loadCatalogue(kind, suppliedFile.bytes);
 
     const Catalogue merged = mergedCatalogue(std::move(installed.head), std::move(supplied.head));
     lock.tellEnd();
-    const bool saved = saveCatalogueAs(merged.get(), target, files, installed.damaged) == 0;
+    const bool saved = saveCatalogueAs(merged.get(), target, files, installed.state.damaged) == 0;
     return saved ? LX_MERGE_DONE : LX_MERGE_NO_TARGET;
 }
 

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string_view>
 #include <utility>
 
@@ -32,8 +33,9 @@ struct Seal {
     std::string_view bytes;
 };
 
-// Answers the next bytes of a file to be written, good until the next call; none at its end.
-using NextPiece = std::function<std::string_view()>;
+// Answers the next bytes of a file to be written, good until the next call; an empty one at its
+// end, none where the file is not to be put in its place after all.
+using NextPiece = std::function<std::optional<std::string_view>()>;
 
 class Files {
 public:
@@ -51,11 +53,11 @@ public:
     // Makes an empty file; false when it cannot be made or is already there.
     virtual bool createEmpty(const Path& path) = 0;
     // Puts a file with these bytes in the place of path: written beside it, flushed, renamed over
-    // it in one step. On failure, also when next throws, the old file is untouched and nothing is
-    // left beside it.
+    // it in one step. On failure, also when next has none or throws, the old file is untouched and
+    // nothing is left beside it.
     virtual bool replaceByPieces(const Path& path, const NextPiece& next) = 0;
     bool replace(const Path& path, std::string_view bytes) {
-        return replaceByPieces(path, [&bytes] { return std::exchange(bytes, {}); });
+        return replaceByPieces(path, [&bytes] { return std::optional(std::exchange(bytes, {})); });
     }
     // Writes at the end, flushes, then sets the seal and flushes again; creates a missing file. On
     // failure the file has its old length again. When the process dies a part of the bytes may

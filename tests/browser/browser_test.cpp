@@ -60,7 +60,7 @@ struct Browser : testing::Test {
     Path file(CatalogueKind kind = precast) { return cataloguePath(kind, bench.host()); }
     Bytes bytes() { return bench.read(file()).value_or("none"); }
     std::string stored(CatalogueKind kind = precast) {
-        return shown(parseCatalogue(kind, bench.read(file(kind)).value_or("none")).head);
+        return shown(loadCatalogue(kind, bench.read(file(kind)).value_or("none")).head);
     }
     std::string settings() {
         return bench.read(bench.dataFolder() + "VD_preklady.dat").value_or("none");
@@ -71,7 +71,8 @@ struct Browser : testing::Test {
         load(kind);
     }
     void load(CatalogueKind kind = precast) {
-        LoadedCatalogue loaded = loadCatalogue(kind, file(kind), bench.files());
+        LoadedCatalogue loaded =
+            loadCatalogue(kind, *openCatalogueFileAt(file(kind), bench.files()));
         items = std::move(loaded.head);
         state = loaded.state;
     }
@@ -252,14 +253,14 @@ TEST(CatalogueSession, KeepsToWhatIsKnownOfTheFile) {
         CatalogueSession unread(files, host, precast, items, state);
         EXPECT_TRUE(unread.readOnly());
         files.locked.clear();
-        unread.save();
+        unread.saveCatalogue();
         unread.putBack();
         EXPECT_TRUE(files.content.empty());
     }
     {
         CatalogueSession gone(files, host, precast, items, state);
         EXPECT_FALSE(gone.reloaded());
-        gone.save();
+        gone.saveCatalogue();
         EXPECT_EQ(files.content.at("c/LXDATA6.DAT"), catalogueBytes(items.get()));
         gone.putBack();
         EXPECT_TRUE(files.content.empty());
@@ -273,7 +274,7 @@ TEST(CatalogueSession, KeepsToWhatIsKnownOfTheFile) {
     EXPECT_TRUE(session.reloaded());
     EXPECT_EQ(items, nullptr);
     files.readOnly = true;
-    session.save();
+    session.saveCatalogue();
     files.readOnly = false;
     files.content["c/LXDATA6.DAT"] = "newer";
     session.putBack();

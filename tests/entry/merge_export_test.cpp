@@ -4,6 +4,7 @@
 #include <lxdata6dlg.h>
 
 #include <functional>
+#include <new>
 
 #include "catalogue/catalogue_file.h"
 #include "entry/merge_call.h"
@@ -163,12 +164,63 @@ TEST_F(MergeCall, FilesThatCannotBeReadOrWrittenStayAndEndIt) {
     ends("new/x.bk6", "", LX_MERGE_NO_TARGET, lockedLibrary);
 }
 
-TEST_F(MergeCall, ADamagedCatalogueIsKeptAside) {
-    const Bytes damaged = old + "cut";
-    files.content[precast] = damaged;
-    EXPECT_EQ(call("new/LXDATA6.DAT", "", LX_MERGE_CATALOGUE), LX_MERGE_DONE);
-    EXPECT_EQ(files.content[precast + ".bak"], damaged);
-    EXPECT_EQ(files.content[precast], updated);
+// Cut short, or with items that the user sees in another type or in none.
+TEST_F(MergeCall, WhatAMergeLosesIsKeptAside) {
+    const auto bytes = [](const std::vector<CatalogueLine>& lines) {
+        return catalogueBytes(catalogueOf(lines).get());
+    };
+    const struct {
+        Bytes installed;
+        bool kept;
+        Bytes merged;
+    } cases[] = {{old + "cut", true, updated},
+                 {bytes({{1, "i"}, {-1, "T", 7}}), false, updated},
+                 {bytes({{-1, "T"}, {2, "x"}}), true, bytes({{-1, "T"}, {1, "i", 200}})},
+                 {bytes({{-1, "T"}, {0, "x"}}), true, bytes({{-1, "T"}, {1, "i", 200}})},
+                 {bytes({{5, "x"}}), true, bytes({{-1, "T", 9}, {1, "i", 200}})},
+                 // Of types with one number, each has the items of its place.
+                 {bytes({{-1, "T"}, {-1, "U"}, {1, "i"}, {2, "u"}}), true,
+                  bytes({{-1, "T"}, {1, "i", 200}, {-2, "U"}, {2, "u"}})},
+                 {bytes({{-7, "T"}, {1, "i"}, {7, "x"}}), true, bytes({{-1, "T"}, {1, "i", 200}})}};
+    for (const auto& c : cases) {
+        files.content.erase(precast + ".bak");
+        files.content[precast] = c.installed;
+        EXPECT_EQ(call("new/LXDATA6.DAT", "", LX_MERGE_CATALOGUE), LX_MERGE_DONE);
+        const std::string at = shown(loadCatalogue(CatalogueKind::precast, c.installed).head);
+        EXPECT_EQ(files.content[precast], c.merged) << at;
+        EXPECT_EQ(files.content.contains(precast + ".bak"), c.kept) << at;
+        EXPECT_TRUE(!c.kept || files.content[precast + ".bak"] == c.installed) << at;
+    }
+}
+
+// Whatever was kept before is there again.
+TEST_F(MergeCall, AMergeThatFailsLeavesNoBackup) {
+    struct Refusing : MemoryFiles {
+        Path refused;
+        bool noMemory = false;
+        bool replaceByPieces(const Path& path, const NextPiece& next) override {
+            if (path != refused) return MemoryFiles::replaceByPieces(path, next);
+            for (auto piece = next(); piece && !piece->empty();) piece = next();
+            if (noMemory) throw std::bad_alloc();
+            return false;
+        }
+    } refusing;
+    refusing.content = {{precast, old + "cut"}, {"new/LXDATA6.DAT", brought}};
+    const MergeArguments arguments{"new/LXDATA6.DAT", "", LX_MERGE_CATALOGUE};
+    for (const Path& refused : {precast, precast + ".bak"}) {
+        refusing.refused = refused;
+        for (const bool earlier : {false, true}) {
+            if (earlier) refusing.content[precast + ".bak"] = "kept before";
+            const auto before = refusing.content;
+            refusing.noMemory = false;
+            EXPECT_EQ(mergeCall(refusing, host, arguments), LX_MERGE_NO_TARGET);
+            EXPECT_EQ(refusing.content, before);
+            refusing.noMemory = true;
+            EXPECT_THROW(mergeCall(refusing, host, arguments), std::bad_alloc);
+            EXPECT_EQ(refusing.content, before);
+        }
+        refusing.content.erase(precast + ".bak");
+    }
 }
 
 }  // namespace

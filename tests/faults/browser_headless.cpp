@@ -31,9 +31,9 @@ Answer addAndConfirm(const Path& folder) {
     FakeHost host;
     host.catalogue = folder;
     host.data = folder;
-    LoadedCatalogue loaded = loadCatalogue(
-        CatalogueKind::precast, cataloguePath(CatalogueKind::precast, host), systemFiles());
-    if (!loaded.opened) return Answer::untold;
+    const auto file = openCatalogueFile(CatalogueKind::precast, host, systemFiles());
+    if (!file) return Answer::untold;
+    LoadedCatalogue loaded = loadCatalogue(CatalogueKind::precast, *file);
     const std::unique_ptr<Platform> platform = makeTestPlatform();
     const std::unique_ptr<Driver> driver = makeTestDriver(*platform);
     Session user(*driver);

@@ -275,8 +275,9 @@ std::string Faults::lossIn(const State& now, const Outcome& outcome) const {
             continue;
         }
         if (here != before && here != after) return name + " reads as neither";
-        if (name.ends_with(".bak")) continue;
         const bool failed = !outcome.ended && outcome.answer == Answer::failed;
+        if (failed && name.ends_with(".DAT.bak") && here != before) return name + " was left";
+        if (name.ends_with(".bak")) continue;
         if (failed && here != before) return name + " changed, but told as failed";
         const bool done = outcome.answer == Answer::done;
         if (done && here != after) return name + " is not what was told as done";

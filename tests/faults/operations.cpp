@@ -57,11 +57,11 @@ Prepare catalogueThere(std::size_t missingBytes = 0) {
 struct Browser {
     explicit Browser(const Path& folder) {
         host.catalogue = folder;
-        LoadedCatalogue loaded =
-            loadCatalogue(CatalogueKind::precast, folder + catalogueName, systemFiles());
+        const auto file = openCatalogueFile(CatalogueKind::precast, host, systemFiles());
+        if (!file) return;
+        LoadedCatalogue loaded = loadCatalogue(CatalogueKind::precast, *file);
         items = std::move(loaded.head);
         state = loaded.state;
-        if (!loaded.opened) return;
         session = std::make_unique<CatalogueSession>(systemFiles(), host, CatalogueKind::precast,
                                                      items, state);
     }
@@ -74,7 +74,7 @@ struct Browser {
         EditorTexts texts;
         texts.designation = added;
         appendItem(items, *items, texts);
-        session->save();
+        session->saveCatalogue();
     }
 
     FakeHost host;
@@ -104,8 +104,9 @@ Operation cancelInBrowser() {
 
 Answer saveCatalogue(const Path& folder) {
     const Path path = folder + catalogueName;
-    const LoadedCatalogue old = loadCatalogue(CatalogueKind::precast, path, systemFiles());
-    if (!old.opened) return Answer::failed;
+    const auto file = openCatalogueFileAt(path, systemFiles());
+    if (!file) return Answer::failed;
+    const LoadedCatalogue old = loadCatalogue(CatalogueKind::precast, *file);
     const Catalogue items = madeCatalogue(3, 3, 2);
     return answer(saveCatalogueAs(items.get(), path, systemFiles(), old.state.damaged) == 0);
 }
@@ -128,9 +129,8 @@ std::function<Answer(const Path&)> merge(int mode, const char* name) {
 void addCatalogueOperations(std::vector<Operation>& all) {
     all.push_back({"catalogue made", [](const Path&) {},
                    [](const Path& folder) {
-                       return answer(loadCatalogue(CatalogueKind::precast, folder + catalogueName,
-                                                   systemFiles())
-                                         .opened);
+                       return answer(
+                           openCatalogueFileAt(folder + catalogueName, systemFiles()).has_value());
                    }});
     all.push_back({"catalogue saved", catalogueThere(), saveCatalogue});
     all.push_back({"damaged catalogue saved", catalogueThere(20), saveCatalogue});
@@ -139,8 +139,11 @@ void addCatalogueOperations(std::vector<Operation>& all) {
     all.push_back(cancelInBrowser());
     all.push_back({"merge", withSupplied(catalogueThere(), madeBytes(3), catalogueName),
                    merge(LX_MERGE_CATALOGUE, catalogueName)});
-    all.push_back({"merge into damaged",
-                   withSupplied(catalogueThere(20), madeBytes(3), catalogueName),
+    const auto damagedOnceMore = [](const Path& folder) {
+        catalogueThere(20)(folder);
+        put(folder + catalogueName + ".bak", "kept before");
+    };
+    all.push_back({"merge into damaged", withSupplied(damagedOnceMore, madeBytes(3), catalogueName),
                    merge(LX_MERGE_CATALOGUE, catalogueName)});
 }
 

@@ -1,5 +1,7 @@
 #include "tests/faults/system_calls.h"
 
+#include <set>
+
 namespace lx::faults {
 
 namespace {
@@ -7,7 +9,7 @@ namespace {
 bool watching = false;
 Trouble trouble;
 Course course;
-bool waiting = false;  // bytes that were written and not flushed
+std::set<FileId> waiting;  // with bytes that were written and not flushed
 
 std::optional<Refusal> refuse(bool refused, Refusal with) {
     if (!refused) return std::nullopt;
@@ -20,7 +22,7 @@ std::optional<Refusal> refuse(bool refused, Refusal with) {
 void begin(const Trouble& wanted) {
     trouble = wanted;
     course = {};
-    waiting = false;
+    waiting.clear();
     watching = true;
 }
 
@@ -60,16 +62,16 @@ bool fails(Call call) {
     return refused.has_value();
 }
 
-void flushed() {
-    waiting = false;
+void flushed(FileId file) {
+    waiting.erase(file);
 }
 
-void leaving() {
-    if (waiting) course.unflushed = true;
+void leaving(FileId file) {
+    if (waiting.erase(file) > 0) course.unflushed = true;
 }
 
-WritePlan planWrite(std::size_t size) {
-    waiting = true;
+WritePlan planWrite(FileId file, std::size_t size) {
+    waiting.insert(file);
     const bool cutting = trouble.fault == Fault::shortWrite || trouble.fault == Fault::gone ||
                          trouble.fault == Fault::killedInWrite;
     if (watching) course.writes.push_back(course.calls + 1);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
@@ -63,10 +64,12 @@ struct WritePlan {
     std::size_t part = 0;            // bytes to be stored
     bool cut = false;
 };
-WritePlan planWrite(std::size_t size);
+// Files by their handles.
+using FileId = std::uintptr_t;
+WritePlan planWrite(FileId file, std::size_t size);
 // Told of a flush that was made, and before a file is closed or its place for writing moved.
-void flushed();
-void leaving();
+void flushed(FileId file);
+void leaving(FileId file);
 // Told when the part of a cut write is stored; ends the process when that is the trouble.
 void cutWriteDone();
 

@@ -33,6 +33,10 @@ void endProcess() {
     ::_exit(killedStatus);
 }
 
+static FileId idOf(int file) {
+    return static_cast<FileId>(file);
+}
+
 extern "C" {
 
 // A call that fails or is made as it is.
@@ -65,7 +69,7 @@ int __wrap_open(const char* path, int flags, ...) {
 }
 
 ssize_t __wrap_write(int file, const void* bytes, size_t size) {
-    const WritePlan plan = planWrite(size);
+    const WritePlan plan = planWrite(idOf(file), size);
     const bool making = plan.cut || !plan.refusal;
     const ssize_t stored = making ? __real_write(file, bytes, plan.part) : -1;
     if (plan.cut) cutWriteDone();
@@ -75,18 +79,18 @@ ssize_t __wrap_write(int file, const void* bytes, size_t size) {
 }
 
 // What reached the system is enough here; waiting for the disk would take most of the time.
-int __wrap_fdatasync(int) {
-    flushed();
+int __wrap_fdatasync(int file) {
+    flushed(idOf(file));
     return fails(Call::reading) ? -1 : 0;
 }
 
 off_t __wrap_lseek(int file, off_t offset, int from) {
-    leaving();
+    leaving(idOf(file));
     return fails(Call::reading) ? -1 : __real_lseek(file, offset, from);
 }
 
 int __wrap_close(int file) {
-    leaving();
+    leaving(idOf(file));
     const bool failing = fails(Call::reading);
     const int result = __real_close(file);
     return failing ? -1 : result;

@@ -68,6 +68,10 @@ LX_REAL(GetFileAttributesA);
 
 namespace {
 
+FileId idOf(HANDLE file) {
+    return reinterpret_cast<FileId>(file);
+}
+
 HANDLE WINAPI createFile(LPCSTR path, DWORD access, DWORD sharing, LPSECURITY_ATTRIBUTES security,
                          DWORD disposition, DWORD attributes, HANDLE like) {
     const Call call = disposition == OPEN_EXISTING ? Call::reading : Call::writing;
@@ -76,12 +80,12 @@ HANDLE WINAPI createFile(LPCSTR path, DWORD access, DWORD sharing, LPSECURITY_AT
 }
 
 BOOL WINAPI seek(HANDLE file, LARGE_INTEGER distance, PLARGE_INTEGER now, DWORD from) {
-    leaving();
+    leaving(idOf(file));
     return !fails(Call::reading) && __real___imp_SetFilePointerEx(file, distance, now, from);
 }
 
 BOOL WINAPI closeHandle(HANDLE handle) {
-    leaving();
+    leaving(idOf(handle));
     const auto refused = refusal(Call::reading);
     const BOOL closed = __real___imp_CloseHandle(handle);
     if (!refused) return closed;
@@ -91,7 +95,7 @@ BOOL WINAPI closeHandle(HANDLE handle) {
 
 BOOL WINAPI writeFile(HANDLE file, LPCVOID bytes, DWORD size, LPDWORD written,
                       LPOVERLAPPED overlapped) {
-    const WritePlan plan = planWrite(size);
+    const WritePlan plan = planWrite(idOf(file), size);
     const bool making = plan.cut || !plan.refusal;
     const BOOL done = making && __real___imp_WriteFile(file, bytes, static_cast<DWORD>(plan.part),
                                                        written, overlapped);
@@ -102,8 +106,8 @@ BOOL WINAPI writeFile(HANDLE file, LPCVOID bytes, DWORD size, LPDWORD written,
 }
 
 // What reached the system is enough here; waiting for the disk would take most of the time.
-BOOL WINAPI flushFile(HANDLE) {
-    flushed();
+BOOL WINAPI flushFile(HANDLE file) {
+    flushed(idOf(file));
     return fails(Call::reading) ? FALSE : TRUE;
 }
 

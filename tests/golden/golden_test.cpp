@@ -17,6 +17,7 @@
 #include "design/dialog_settings.h"
 #include "entry/erase_choice.h"
 #include "settings/store.h"
+#include "tests/support/catalogues.h"
 #include "tests/support/designs.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/readable.h"
@@ -45,13 +46,13 @@ void PrintTo(const Golden& golden, std::ostream* output) {
 
 template <CatalogueKind kind>
 std::string catalogueText(std::string_view bytes) {
-    const CatalogueRead read = parseCatalogue(kind, bytes);
-    return (read.damaged ? "damaged\n" : "") + readable(read.head.get());
+    const LoadedCatalogue read = loadCatalogue(kind, bytes);
+    return (read.state.damaged ? "damaged\n" : "") + readable(read.head.get());
 }
 
 template <CatalogueKind kind>
 Bytes catalogueAgain(std::string_view bytes) {
-    return catalogueBytes(parseCatalogue(kind, bytes).head.get());
+    return catalogueBytes(loadCatalogue(kind, bytes).head.get());
 }
 
 // ---- designs

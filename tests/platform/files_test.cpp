@@ -98,6 +98,9 @@ TEST_F(FilesTest, ReplacesWholeFilesAndLeavesNothingBeside) {
     pieces = {"some"};
     const auto runOut = [&] { return pieces.empty() ? throw std::bad_alloc() : next(); };
     EXPECT_THROW(files.replaceByPieces(in("f"), runOut), std::bad_alloc);
+    pieces = {"some"};
+    const auto giveUp = [&] { return pieces.empty() ? std::nullopt : std::optional(next()); };
+    EXPECT_FALSE(files.replaceByPieces(in("f"), giveUp));
     EXPECT_EQ(bytesOf("f"), "onetwothree");
     EXPECT_EQ(names(), Names{"f"});
     EXPECT_FALSE(fs::exists(m_folder + ".new0"));

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "catalogue/records.h"
-#include "platform/text.h"
+#include "platform/binary.h"
 
 namespace lx {
 
@@ -71,6 +71,33 @@ inline Catalogue catalogueOf(const std::vector<CatalogueLine>& lines) {
         record.width = line.width;
         record.maxOpening = line.maxOpening;
         if (!line.name.empty()) record.designation = fromUtf8(line.name);
+    }
+    return head;
+}
+
+// As the file holds it.
+inline Bytes catalogueBytes(const CPreklItem* head) {
+    BinaryWriter writer;
+    for (const CPreklItem* one = head; one; one = one->next.get()) one->writeRecord(writer);
+    return writer.take();
+}
+
+// By way of its bytes.
+inline Catalogue copyOf(const CPreklItem& record) {
+    BinaryWriter writer;
+    record.writeRecord(writer);
+    BinaryReader reader(writer.bytes());
+    auto copy = std::make_unique<CPreklItem>();
+    bool damaged = false;
+    copy->readRecord(reader, damaged);
+    return copy;
+}
+inline Catalogue copyOf(const Catalogue& chain) {
+    Catalogue head;
+    Catalogue* end = &head;
+    for (const CPreklItem* one = chain.get(); one; one = one->next.get()) {
+        *end = copyOf(*one);
+        end = &(*end)->next;
     }
     return head;
 }

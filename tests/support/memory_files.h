@@ -33,7 +33,12 @@ public:
     bool replaceByPieces(const Path& path, const NextPiece& next) override {
         if (readOnly || locked.count(path) != 0) return false;
         Bytes bytes;
-        for (std::string_view piece = next(); !piece.empty(); piece = next()) bytes += piece;
+        for (;;) {
+            const std::optional<std::string_view> piece = next();
+            if (!piece) return false;
+            if (piece->empty()) break;
+            bytes += *piece;
+        }
         content[path] = bytes;
         return true;
     }

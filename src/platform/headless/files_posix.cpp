@@ -51,10 +51,11 @@ public:
         return true;
     }
     bool writeAll(const NextPiece& next) const {
-        for (std::string_view piece = next(); !piece.empty(); piece = next()) {
-            if (!write(piece)) return false;
+        for (;;) {
+            const std::optional<std::string_view> piece = next();
+            if (!piece || !write(*piece)) return false;
+            if (piece->empty()) return true;
         }
-        return true;
     }
     bool readAll(Bytes& bytes) const {
         char buffer[16384];

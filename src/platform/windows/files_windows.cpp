@@ -55,10 +55,11 @@ public:
         return true;
     }
     bool writeAll(const NextPiece& next) {
-        for (std::string_view piece = next(); !piece.empty(); piece = next()) {
-            if (!write(piece)) return false;
+        for (;;) {
+            const std::optional<std::string_view> piece = next();
+            if (!piece || !write(*piece)) return false;
+            if (piece->empty()) return true;
         }
-        return true;
     }
     // Up to the file's end; false on a read error.
     bool readAll(Bytes& bytes) {
