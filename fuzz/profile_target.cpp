@@ -42,7 +42,8 @@ void readProfile(std::string_view input) {
     promise(!isNew || onlyInserted(content, files.content["set"]));
     promise(profile.find("SETTINGS", "new key") == "12 34");
     promise(profile.find("TAB_PREFA", "ORD0") == before);
-    promise(profile.erase("SETTINGS", "new key"));
+    const ProfileChange gone{"SETTINGS", "new key", std::nullopt};
+    promise(profile.apply({&gone, 1}));
     storeChoice(profile, {3, true});
     promise(storedChoice(profile).elements == 3);
 }

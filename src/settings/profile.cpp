@@ -281,11 +281,6 @@ bool Profile::writeInt(const settings::IntKey& key, std::int32_t value) {
     return write(key.section, key.key, formatInt(value));
 }
 
-bool Profile::erase(std::string_view section, std::string_view key) {
-    const ProfileChange change{section, key, std::nullopt};
-    return apply({&change, 1});
-}
-
 bool Profile::apply(std::span<const ProfileChange> changes) {
     FileRead file = m_files.read(m_path);
     if (file.status == ReadStatus::failed) return false;
@@ -296,14 +291,6 @@ bool Profile::apply(std::span<const ProfileChange> changes) {
     // A replacement would get past a write protection.
     if (file.status == ReadStatus::ok && !m_files.writable(m_path)) return false;
     return m_files.replace(m_path, file.bytes);
-}
-
-Bytes profileWritten(std::string_view file, std::string_view section, std::string_view key,
-                     std::optional<std::string_view> value) {
-    Bytes bytes(file);
-    const ProfileChange one{section, key, value};
-    if (storable(section, key)) change(bytes, {&one, 1});
-    return bytes;
 }
 
 }  // namespace lx

@@ -61,7 +61,6 @@ public:
         return write(key.section, key.key, value);
     }
     bool writeInt(const settings::IntKey& key, std::int32_t value);
-    bool erase(std::string_view section, std::string_view key);
     // Several values in one go: the file is replaced once, with all of them or none, and holds what
     // it would after one change after another. Takes time in proportion to the file and the
     // changes, as long as those of a section stand together and each is of another key.
@@ -71,9 +70,5 @@ private:
     Files& m_files;
     Path m_path;
 };
-
-// Whole-file forms, for tests and tools: the bytes after writing a value (none = deleting the key).
-Bytes profileWritten(std::string_view file, std::string_view section, std::string_view key,
-                     std::optional<std::string_view> value);
 
 }  // namespace lx

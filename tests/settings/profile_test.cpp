@@ -31,6 +31,7 @@ protected:
         return profile.read(section, key, "def");
     }
     void hold(std::string_view bytes) { files.content[path] = bytes; }
+    bool change(const ProfileChange& one) { return profile.apply({&one, 1}); }
 };
 
 TEST_F(ProfileTest, ReadsValuesAsThePlatformDoes) {
@@ -155,11 +156,8 @@ TEST_F(ProfileTest, ChangesOneLineAndKeepsAllOtherBytes) {
     };
     for (const WriteCase& c : cases) {
         hold(c.before);
-        const bool done =
-            c.value ? profile.write(c.section, c.key, *c.value) : profile.erase(c.section, c.key);
-        EXPECT_TRUE(done);
+        EXPECT_TRUE(change({c.section, c.key, c.value}));
         EXPECT_EQ(files.content[path], c.after) << "from " << c.before;
-        EXPECT_EQ(profileWritten(c.before, c.section, c.key, c.value), c.after);
     }
     hold("\xEF\xBB\xBF[A]\nk=\xC4\x8C\n");
     EXPECT_EQ(read("A", "k"), "\xC8");
@@ -169,8 +167,7 @@ TEST_F(ProfileTest, WritesOnlyWhatChangesAndNeverOverWhatItCannotRead) {
     hold("[A]\r\n k =  1 \r\n");
     files.readOnly = true;
     EXPECT_TRUE(profile.write("a", "K", "1"));
-    EXPECT_TRUE(profile.erase("A", "none"));
-    EXPECT_TRUE(profile.erase("B", "k"));
+    EXPECT_TRUE(change({"A", "none", std::nullopt}) && change({"B", "k", std::nullopt}));
     EXPECT_FALSE(profile.write("A", "k", "2"));
     EXPECT_EQ(files.content[path], "[A]\r\n k =  1 \r\n");
 

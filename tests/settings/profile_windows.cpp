@@ -127,7 +127,9 @@ TEST_F(ProfileAgainstPlatform, WritesWhatBothReadTheSame) {
             value.erase(value.find_last_not_of(" \t\x1A") + 1);
             const bool erase = generator.chance(30);
             Profile profile(systemFiles(), ours);
-            ASSERT_TRUE(erase ? profile.erase(section, key) : profile.write(section, key, value));
+            ProfileChange one{section, key, value};
+            if (erase) one.value.reset();
+            ASSERT_TRUE(profile.apply({&one, 1}));
             ASSERT_TRUE(WritePrivateProfileStringA(
                 section.c_str(), key.c_str(), erase ? nullptr : value.c_str(), platforms.c_str()));
             for (const Path& cached : {platforms, ours}) {
