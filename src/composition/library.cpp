@@ -176,6 +176,14 @@ LibraryRead loadLibrary(const Path& path, std::int32_t project, Files& files) {
     return result;
 }
 
+std::set<std::int32_t> storedProjects(const Path& path, Files& files) {
+    const FileRead file = files.read(path);
+    std::set<std::int32_t> projects;
+    for (LibraryEntries entries(file.bytes); entries.next();) projects.insert(entries.project());
+    projects.erase(deletedProject);
+    return projects;
+}
+
 bool FindStoredSame(const Path& path, std::int32_t project, std::string_view label,
                     const CRez& head, Size preview, Files& files) {
     const FileRead file = files.read(path);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <optional>
+#include <set>
 #include <vector>
 
 #include "composition/records.h"
@@ -27,7 +28,8 @@ struct LibraryRead {
 };
 
 // The designs of one project in file order. An entry whose length runs past the end gives the
-// records that can be read and is the last; a length below 8 ends the reading.
+// records that can be read and is the last; one of 4 to 7 bytes, too short for a label, is passed
+// over, and a length below 4 ends the reading.
 // An entry without a head record is left out, and one that ends within it unless it is the torn
 // last one. The id of deleted entries has none.
 LibraryRead loadLibrary(const Path& path, std::int32_t project, Files& files);
@@ -39,12 +41,15 @@ LibraryRead parseLibrary(std::string_view bytes, std::int32_t project);
 bool FindStoredSame(const Path& path, std::int32_t project, std::string_view label,
                     const CRez& head, Size preview, Files& files);
 
+// The projects that have entries.
+std::set<std::int32_t> storedProjects(const Path& path, Files& files);
+
 // Appends the entry, which readers see whole or not at all, then marks the entries of that project
 // and replaceLabel that were there before it deleted (none when replaceLabel is empty). A torn tail
 // is first closed off where it stands, after keeping the file as .bak unless it is a deleted
-// entry's; it stays an entry when a design can be read from it. False when the entry could not be
-// appended; the file then reads as before. An older entry that could not be marked stays beside the
-// new one.
+// entry's; it stays an entry of its project when it holds a whole head. False when the entry could
+// not be appended; the file then reads as before. An older entry that could not be marked stays
+// beside the new one.
 bool appendDesign(const Path& path, std::int32_t project, const CRez& head,
                   std::string_view replaceLabel, Files& files);
 

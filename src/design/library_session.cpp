@@ -56,12 +56,11 @@ bool LibrarySession::hasProject(std::string_view name) const {
 }
 
 void LibrarySession::addProject(std::string_view name) {
-    std::int32_t largest = deletedProject;
+    // A list that was lost has left its designs behind: they are not to become this project's.
     std::set<std::int32_t> ids;
-    for (const Project& project : m_projects.projects) {
-        largest = std::max(largest, project.id);
-        ids.insert(project.id);
-    }
+    if (const auto path = pathOf(libraryFileName)) ids = storedProjects(*path, m_files);
+    for (const Project& project : m_projects.projects) ids.insert(project.id);
+    const std::int32_t largest = std::max(*ids.rbegin(), deletedProject);
     std::int32_t id = 0;
     if (largest < std::numeric_limits<std::int32_t>::max()) {
         id = largest + 1;

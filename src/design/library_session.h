@@ -36,7 +36,8 @@ public:
     void selectProject(int index);
     // The name without regard to letter case.
     bool hasProject(std::string_view name) const;
-    // Behind the others and selected, with an id of its own; names are cut to what the file holds.
+    // Behind the others and selected, with an id above theirs and those in the library, or a free
+    // one where there is none above; names are cut to what the file holds.
     void addProject(std::string_view name);
     // Takes a project out of the list and selects the first one. Its id; none, and nothing is done,
     // for the first one and outside the list.

@@ -129,16 +129,36 @@ TEST(LibraryProjects, NewOnesGetAnIdOfTheirOwn) {
     EXPECT_EQ(library.proposedProjectName(), "");
 }
 
-TEST(LibraryProjects, TheLargestIdIsNotExceeded) {
+TEST(LibraryProjects, NobodysOldDesignsAreANewProjects) {
+    constexpr std::int32_t highest = 2147483647;
     FakeHost host;
-    MemoryFiles files;
     host.library = "lib/";
-    files.content["lib/akce.bk6"] = projectBytes({{{0, "DEFAULT"}, {2147483647, "P"}}});
-    LibrarySession library(host, files);
-    library.LoadProjects();
-    library.addProject(std::string(100, 'x'));
-    EXPECT_EQ(library.projects().currentId(), 1);
-    EXPECT_TRUE(library.hasProject(std::string(90, 'X')));
+    const struct {
+        std::vector<std::int32_t> listed;
+        std::vector<std::int32_t> stored;
+        std::int32_t expected;
+    } cases[] = {{{0}, {}, 1},          {{0}, {7, 3, deletedProject}, 8},
+                 {{0, 9}, {7}, 10},     {{-7}, {}, 0},
+                 {{0, highest}, {}, 1}, {{0, highest}, {1, 3}, 2},
+                 {{0, 1}, {highest}, 2}};
+    for (const auto& c : cases) {
+        MemoryFiles files;
+        ProjectList list;
+        for (const std::int32_t id : c.listed) list.projects.push_back({id, "P"});
+        files.content["lib/akce.bk6"] = projectBytes(list);
+        for (const std::int32_t project : c.stored) {
+            // A deleted one keeps its bytes.
+            const std::int32_t id = project == deletedProject ? 50 : project;
+            const RezChain design = sampleDesign("A");
+            ASSERT_TRUE(appendDesign("lib/preklady.bk6", id, *design.head(), {}, files));
+        }
+        deleteEntries("lib/preklady.bk6", 50, std::nullopt, files);
+        LibrarySession library(host, files);
+        library.LoadProjects();
+        library.addProject(std::string(100, 'x'));
+        EXPECT_EQ(library.projects().currentId(), c.expected);
+        EXPECT_TRUE(library.hasProject(std::string(90, 'X')));
+    }
 }
 
 }  // namespace
