@@ -48,6 +48,9 @@ TEST(Layout, LayersNestAsTheirShapesAllow) {
         {{{insulation, 80}, {1, 75}}, {0, 43}, 182, Family::steel},
         {{{102, 40}, {103, 70}, {0, 100}}, {0, 40, 110}, 90, Family::monolith},
         {{{102, 40}, {100, 70}}, {0, 40}, 190, Family::none},
+        // The last shape keeps to where its neighbour ends, the first special layer does not.
+        {{{3, 100}, {insulation, 20}, {99, 50}}, {0, 0, 100}, 150, Family::steel},
+        {{{3, 100}, {insulation, 20}, {100, 50}}, {0, 0, 20}, 230, Family::steel},
     };
     for (const Case& test : cases) {
         RezChain design;

@@ -215,13 +215,20 @@ TEST(Library, ImpossibleLengthsEndTheReading) {
         EXPECT_EQ(damaged.content[path].size(),
                   files.content[path].size() + designBytes(added.head()).size() + 12);
     }
-    // An entry too short for a label is passed over.
-    MemoryFiles foreign;
-    store(foreign, 1, "A", 300);
-    foreign.content[path] += Bytes("\5\0\0\0\1\0\0\0x", 9);
-    store(foreign, 1, "B", 310);
-    EXPECT_EQ(listed(foreign.content[path], 1), "A  300 B  310 ");
-    EXPECT_FALSE(parseLibrary(foreign.content[path], 1).damaged);
+    // An entry too short for a label is passed over; with one alone it is an entry, without a
+    // design.
+    for (const std::int32_t length : {4, 5, 7, 8}) {
+        MemoryFiles foreign;
+        store(foreign, 1, "A", 300);
+        Bytes entry(static_cast<std::size_t>(4 + length), '\0');
+        put(entry, 0, length);
+        put(entry, 4, 1);
+        foreign.content[path] += entry;
+        store(foreign, 1, "B", 310);
+        EXPECT_EQ(listed(foreign.content[path], 1), "A  300 B  310 ") << length;
+        EXPECT_EQ(parseLibrary(foreign.content[path], 1).damaged, length == 8);
+        EXPECT_EQ(deleteEntries(path, 1, "", foreign), length == 8) << length;
+    }
 
     // Deleting leaves a torn tail as it is.
     files.content[path].pop_back();

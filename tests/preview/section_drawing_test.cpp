@@ -82,6 +82,21 @@ TEST(SectionDrawing, DrawsWhatTheFilesSay) {
 
 // ---- what a file does not tell
 
+TEST(SectionDrawing, TheMirrorButtonBelongsToShapesBehindTheFirst) {
+    constexpr std::pair<std::int32_t, bool> kinds[] = {{0, false}, {1, false},  {2, true},
+                                                       {99, true}, {100, true}, {101, false}};
+    for (const auto& [kind, mirrored] : kinds) {
+        Scene scene(200);
+        scene.add(kind, 99, 100).here();
+        RecordingCanvas canvas;
+        const HitRegions regions = scene.draw(canvas);
+        EXPECT_EQ(std::any_of(regions.begin(), regions.end(),
+                              [](const HitRegion& one) { return one.kind == region::mirror; }),
+                  mirrored)
+            << kind;
+    }
+}
+
 TEST(SectionDrawing, IsBlackWithoutADesignAndNothingWithoutRoom) {
     SectionInput input;
     input.dropMarker = 10;
