@@ -52,7 +52,7 @@ void takeSamples(PlayContext& context, const Words&) {
              context.folders.path("data:VDLINTEL.TXT"));
 }
 
-// Another program makes it meanwhile.
+// Another program makes it meanwhile; the windows go on.
 void awaitFile(PlayContext& context, const Words& words) {
     constexpr int step = 20;  // ms
     const int most = 6 * context.driver.limit() / step;
@@ -60,6 +60,7 @@ void awaitFile(PlayContext& context, const Words& words) {
     for (int tries = 0; !fs::exists(file); ++tries) {
         if (tries == most) throw std::runtime_error("nobody made " + words[0]);
         std::this_thread::sleep_for(std::chrono::milliseconds(step));
+        context.driver.wait(1);
     }
 }
 
@@ -288,6 +289,7 @@ const std::vector<Command>& commands() {
          }},
         {"state", 1, 1, Where::inCall, [](C& c, const W& w) { c.driver.setDialogState(w[0]); }},
         {"wait", 1, 1, Where::inCall, [](C& c, const W& w) { c.driver.wait(wholeNumber(w[0])); }},
+        {"repaint", 0, 0, Where::inCall, [](C& c, const W&) { c.driver.repaint(); }},
         {"screenshot", 1, 1, Where::inCall, takeScreenshot},
     };
     return table;

@@ -112,6 +112,8 @@ public:
     virtual void resizeDialog(ScreenSize outer) = 0;
     virtual void moveDialog(ScreenPoint topLeft) = 0;
     virtual void setDialogState(std::string_view state) = 0;  // "normal", "maximized", "minimized"
+    // The dialog in front and all in it paint themselves anew.
+    virtual void repaint() = 0;
     // Lets the dialog's timers run for that long (headless: on its virtual clock).
     virtual void wait(int milliseconds) = 0;
 

@@ -52,6 +52,7 @@ public:
     void resizeDialog(ScreenSize outer) override;
     void moveDialog(ScreenPoint topLeft) override;
     void setDialogState(std::string_view state) override;
+    void repaint() override {}
     void wait(int milliseconds) override;
 
     std::string text(ControlName control) override;

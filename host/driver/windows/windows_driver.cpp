@@ -347,6 +347,14 @@ int WindowsDriver::limit() const {
     return m_limit;
 }
 
+void WindowsDriver::repaint() {
+    const HWND dialog = actingDialog();
+    m_stepper->act([=] {
+        RedrawWindow(dialog, nullptr, nullptr,
+                     RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
+    });
+}
+
 void WindowsDriver::wait(int milliseconds) {
     m_stepper->sleep(milliseconds);
 }

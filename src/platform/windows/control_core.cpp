@@ -217,8 +217,9 @@ void ControlCore::doSetArea(const Rect& area) {
     m_area = area;
     if (!m_window) return;
     const Setting guard(*this);
+    // Painted anew: what stands in the old place may be another control's, which came there first.
     SetWindowPos(m_window, nullptr, area.left, area.top, area.width(), area.height(),
-                 SWP_NOZORDER | SWP_NOACTIVATE);
+                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
     areaChanged();
 }
 

@@ -53,6 +53,11 @@ void WindowsListView::keepState() {
     m_selected = selectedRows();
 }
 
+// When the list became narrower its headings still covered a part of the edge that was painted.
+void WindowsListView::areaChanged() {
+    RedrawWindow(window(), nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME);
+}
+
 // ---- columns
 
 void WindowsListView::setColumns(const std::vector<ListColumn>& columns) {
@@ -289,8 +294,27 @@ void WindowsListView::paint() {
     bitmap.copyTo(scope.dc());
 }
 
+// Themes paint the bare ground along with the edge unless it is left out. invalid: what is to be
+// painted, in screen coordinates; 1 = all.
+LRESULT WindowsListView::paintEdge(WPARAM invalid) {
+    RECT area = {};
+    GetWindowRect(window(), &area);
+    RECT client = {};
+    GetClientRect(window(), &client);
+    MapWindowPoints(window(), nullptr, reinterpret_cast<POINT*>(&client), 2);
+    const HRGN edge = CreateRectRgnIndirect(&area);
+    const HRGN inside = CreateRectRgnIndirect(&client);
+    if (invalid != 1) CombineRgn(edge, edge, reinterpret_cast<HRGN>(invalid), RGN_AND);
+    CombineRgn(edge, edge, inside, RGN_DIFF);
+    const LRESULT result = inherited(WM_NCPAINT, reinterpret_cast<WPARAM>(edge), 0);
+    DeleteObject(inside);
+    DeleteObject(edge);
+    return result;
+}
+
 LRESULT WindowsListView::message(UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_ERASEBKGND) return 1;
+    if (message == WM_NCPAINT) return paintEdge(wParam);
     if (message == WM_PAINT) {
         paint();
         return 0;

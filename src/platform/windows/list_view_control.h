@@ -34,6 +34,7 @@ protected:
     WindowClass windowClass() const override;
     void attached() override;
     void keepState() override;
+    void areaChanged() override;
     LRESULT message(UINT message, WPARAM wParam, LPARAM lParam) override;
 
 private:
@@ -49,6 +50,7 @@ private:
     void makeArrows();
     void setState(int row, UINT state, UINT mask);
     void paint();
+    LRESULT paintEdge(WPARAM invalid);
     void giveText(NMLVDISPINFOW& request);
     void selectionMayHaveChanged();
     void reportSelection();
