@@ -247,7 +247,10 @@ const std::vector<Command>& commands() {
         {"add-at", 2, 2, Where::inCall,
          [](C& c, const W& w) { c.driver.addRowAt(w[0], wholeNumber(w[1])); }},
         {"double-click", 2, 2, Where::inCall,
-         [](C& c, const W& w) { c.driver.doubleClickRow(w[0], wholeNumber(w[1])); }},
+         [](C& c, const W& w) {
+             if (w[1] == "ground") return c.driver.doubleClickGround(w[0]);
+             c.driver.doubleClickRow(w[0], wholeNumber(w[1]));
+         }},
         {"right-click", 2, 2, Where::inCall,
          [](C& c, const W& w) { c.driver.rightClickRow(w[0], wholeNumber(w[1])); }},
         {"click-heading", 2, 2, Where::inCall,

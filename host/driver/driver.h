@@ -85,6 +85,8 @@ public:
     // Adds the row to a multiple selection (Ctrl and click).
     virtual void addRowAt(ControlName list, int row) = 0;
     virtual void doubleClickRow(ControlName list, int row) = 0;
+    // Below the rows of a list with headings.
+    virtual void doubleClickGround(ControlName list) = 0;
     virtual void rightClickRow(ControlName list, int row) = 0;
     virtual void clickHeading(ControlName list, std::string_view heading) = 0;
     virtual void setColumnWidth(ControlName list, int column, int pixels) = 0;  // as if dragged

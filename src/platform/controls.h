@@ -193,6 +193,7 @@ public:
 
     std::function<Text(int row, int column)> cell;
     std::function<void()> onSelect;
+    // Also on the empty ground, where the first click has taken the selection away.
     std::function<void()> onDoubleClick;
     std::function<void(int column)> onHeading;
     std::function<void(Point)> onContext;

@@ -245,6 +245,11 @@ void HeadlessDriver::doubleClickRow(ControlName list, int row) {
     });
 }
 
+void HeadlessDriver::doubleClickGround(ControlName list) {
+    HeadlessListView& view = listView(list);
+    attempt(list, [&] { view.userDoubleClick(-1); });
+}
+
 void HeadlessDriver::rightClickRow(ControlName list, int row) {
     HeadlessControl& found = control(list);
     attempt(list, [&] {

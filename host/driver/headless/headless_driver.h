@@ -32,6 +32,7 @@ public:
     void selectRowAt(ControlName list, int row) override;
     void addRowAt(ControlName list, int row) override;
     void doubleClickRow(ControlName list, int row) override;
+    void doubleClickGround(ControlName list) override;
     void rightClickRow(ControlName list, int row) override;
     void clickHeading(ControlName list, std::string_view heading) override;
     void setColumnWidth(ControlName list, int column, int pixels) override;

@@ -173,6 +173,17 @@ POINT pointInRow(HWND list, int row) {
     }
 }
 
+std::optional<POINT> pointBelowRows(HWND listView) {
+    RECT client{};
+    GetClientRect(listView, &client);
+    LVHITTESTINFO hit{};
+    hit.pt = {5, client.bottom - 5};
+    if (SendMessageW(listView, LVM_SUBITEMHITTEST, 0, reinterpret_cast<LPARAM>(&hit)) >= 0) {
+        return std::nullopt;
+    }
+    return hit.pt;
+}
+
 HWND headerOf(HWND listView) {
     return reinterpret_cast<HWND>(SendMessageW(listView, LVM_GETHEADER, 0, 0));
 }

@@ -4,6 +4,7 @@
 
 #include <windows.h>
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,6 +20,8 @@ int rowOf(HWND list, std::string_view text);
 std::vector<int> selectedRowsOf(HWND list);
 // Scrolls the row into view and answers a point in it, in client coordinates.
 POINT pointInRow(HWND list, int row);
+// None when the rows that are in view fill the list.
+std::optional<POINT> pointBelowRows(HWND listView);
 
 int columnCountOf(HWND listView);
 // The heading's text without its arrow.

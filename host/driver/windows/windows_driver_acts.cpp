@@ -26,6 +26,12 @@ void postClick(HWND window, POINT p, WPARAM held = 0) {
     PostMessageW(window, WM_LBUTTONUP, held, asPosition(p));
 }
 
+void postDoubleClick(HWND window, POINT p) {
+    postClick(window, p);
+    PostMessageW(window, WM_LBUTTONDBLCLK, MK_LBUTTON, asPosition(p));
+    PostMessageW(window, WM_LBUTTONUP, 0, asPosition(p));
+}
+
 void postRightClick(HWND window, POINT p) {
     PostMessageW(window, WM_RBUTTONDOWN, MK_RBUTTON, asPosition(p));
     PostMessageW(window, WM_RBUTTONUP, 0, asPosition(p));
@@ -174,10 +180,16 @@ void WindowsDriver::addRowAt(ControlName name, int row) {
 void WindowsDriver::doubleClickRow(ControlName name, int row) {
     const HWND window = reachable(name, "double-click a row of");
     list(name, row);
-    const POINT p = pointInRow(window, row);
-    postClick(window, p);
-    PostMessageW(window, WM_LBUTTONDBLCLK, MK_LBUTTON, asPosition(p));
-    PostMessageW(window, WM_LBUTTONUP, 0, asPosition(p));
+    postDoubleClick(window, pointInRow(window, row));
+    m_stepper->rest();
+}
+
+void WindowsDriver::doubleClickGround(ControlName name) {
+    const HWND window = listView(name);
+    reachable(name, "double-click the ground of");
+    const std::optional<POINT> p = pointBelowRows(window);
+    if (!p) throw DriverError("the rows of " + quotedName(name) + " leave no ground");
+    postDoubleClick(window, *p);
     m_stepper->rest();
 }
 

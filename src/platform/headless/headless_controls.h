@@ -332,8 +332,8 @@ public:
     static constexpr int rowHeight = 17;
     // ctrl adds or takes the row away, shift selects from the row clicked last.
     void userSelect(int row, bool ctrl = false, bool shift = false);
-    void userDoubleClick(int row);
     // -1 = below the last row.
+    void userDoubleClick(int row);
     void userRightClick(int row);
     void userHeading(int column);
     void userSetColumnWidth(int column, int pixels);

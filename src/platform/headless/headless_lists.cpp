@@ -305,7 +305,14 @@ void HeadlessListView::userSelect(int row, bool ctrl, bool shift) {
 }
 
 void HeadlessListView::userDoubleClick(int row) {
-    userSelect(row);
+    if (row >= 0) {
+        userSelect(row);
+    } else {
+        checkReachable("be clicked");
+        if (m_count - m_top >= shownRows()) refuse("its rows leave no ground");
+        clickFocus();
+        choose({}, m_caret);
+    }
     if (m_dialog->root().running() && shown() && usable()) callCopy(onDoubleClick);
     settle();
 }

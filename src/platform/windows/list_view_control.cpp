@@ -241,7 +241,7 @@ std::optional<LRESULT> WindowsListView::notified(const NMHDR& header) {
             return onContext ? 1 : 0;
         }
         case NM_DBLCLK:
-            if (reinterpret_cast<const NMITEMACTIVATE&>(header).iItem >= 0) fire(onDoubleClick);
+            fire(onDoubleClick);
             return 0;
         default:
             return std::nullopt;
