@@ -92,7 +92,10 @@ private:
     void editItem();
     void deleteItem();
     void pick();
-    void confirm();
+    // Tells the user when the catalogue could not be written.
+    bool save();
+    // False when the browser stays open.
+    bool confirm();
     void cancel();
     void saveColumns();
     void close(int result);

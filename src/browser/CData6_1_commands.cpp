@@ -125,7 +125,7 @@ void CData6_1::newItem() {
 
 void CData6_1::addItem(const EditorTexts& texts) {
     m_list->add(appendItem(*m_items, *selectedType(), texts));
-    m_session->saveCatalogue();
+    save();
 }
 
 void CData6_1::editItem() {
@@ -150,15 +150,23 @@ void CData6_1::deleteItem() {
 
 // ---- closing
 
-void CData6_1::pick() {
-    m_picked = m_list->allSelected();
-    confirm();
+bool CData6_1::save() {
+    if (m_session->saveCatalogue()) return true;
+    message(texts::catalogueNotWritten, str(text::warning), MessageIcon::stop, MessageButtons::ok);
+    return false;
 }
 
-void CData6_1::confirm() {
+void CData6_1::pick() {
+    const std::vector<const CPreklItem*> chosen = m_list->allSelected();
+    if (confirm()) m_picked = chosen;
+}
+
+// Closing with a catalogue that cannot be written would lose what was changed in it.
+bool CData6_1::confirm() {
     saveColumns();
-    m_session->saveCatalogue();
+    if (!save()) return false;
     close(id::ok);
+    return true;
 }
 
 void CData6_1::cancel() {

@@ -28,10 +28,12 @@ CatalogueSession::CatalogueSession(Files& files, Host& host, CatalogueKind kind,
     m_backupState = m_state;
 }
 
-void CatalogueSession::saveCatalogue() {
-    if (m_readOnly) return;
+bool CatalogueSession::saveCatalogue() {
+    if (m_readOnly) return true;
     const bool keepOld = m_state.damaged;
-    if (saveCatalogueAs(m_items.get(), m_path, m_files, keepOld, &m_state) == 0) m_written = true;
+    if (saveCatalogueAs(m_items.get(), m_path, m_files, keepOld, &m_state) != 0) return false;
+    m_written = true;
+    return true;
 }
 
 void CatalogueSession::putBack() {

@@ -22,8 +22,8 @@ public:
     // Pointers into the chain as it was before are void.
     bool reloaded() const { return m_reloaded; }
 
-    // The items as they are now. A file that cannot be written stays as it is.
-    void saveCatalogue();
+    // The items as they are now. False when the file cannot be written; it stays as it is then.
+    bool saveCatalogue();
     // The file as it was when the session began. Nothing is written unless saveCatalogue did.
     void putBack();
 

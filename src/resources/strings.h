@@ -118,6 +118,9 @@ inline constexpr std::string_view copyFailed =
 
 // The library could not be written at OK.
 inline constexpr std::string_view storeFailed = "Překlad se nepodařilo uložit do knihovny."_cz;
+// A catalogue could not be written, at OK or with a new item.
+inline constexpr std::string_view catalogueNotWritten =
+    "Databázi překladů se nepodařilo uložit."_cz;
 // A layer of another family than the design's was to be added.
 inline constexpr std::string_view wrongType = "Chybný typ"_cz;
 
