@@ -100,9 +100,14 @@ void DesignModel::rebuildPrecastOffer(int type, const std::vector<const CPreklIt
         records = BuildPrecastOffer(m_values.precast.get(), type, m_values.openingWidth,
                                     headLength(), picked);
     }
+    const std::vector<int> own = offerOrder(records);
+    // In the chain, where the picked ones come behind.
+    const int selected = own.empty() ? 0 : own.front();
     addPicked(records, picked);
     const std::vector<int> order = offerOrder(records);
     m_precastOffer = Offer(std::move(records), order);
+    const auto row = std::find(order.begin(), order.end(), selected);
+    m_precastOffer.select(static_cast<int>(row - order.begin()));
 }
 
 void DesignModel::rebuildSteelOffer(int type) {

@@ -49,7 +49,8 @@ public:
 
     // ---- catalogues and offers
     // picked: catalogue items that the user has just chosen. They stay however oversized, and
-    // those of other types join the offer.
+    // those of other types join the offer. The first entry of the type's own is selected, where it
+    // has none the first one picked.
     void rebuildPrecastOffer(int type, const std::vector<const CPreklItem*>& picked = {});
     void rebuildSteelOffer(int type);
     Offer& precastOffer() { return m_precastOffer; }
