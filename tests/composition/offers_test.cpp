@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <limits>
 #include <string>
 
@@ -140,6 +141,28 @@ TEST(PrecastOffer, PickedItemsJoinUnlessTheyAreOfferedAlready) {
     EXPECT_EQ(shown(offer), "0:1200 1:3000 2:3500 0:1200 ");
     EXPECT_EQ(offer.last()->width, 1);
     EXPECT_EQ(offer.last()->bearing, 0);
+}
+
+TEST(PrecastOffer, APickDiffersFromAnOfferedOneByEachOfItsValues) {
+    const std::function<void(CPreklItem&)> changes[] = {
+        [](CPreklItem& item) { item.designation = "max 1201"; },
+        [](CPreklItem& item) { item.length = 1001; },
+        [](CPreklItem& item) { item.width = 1; },
+        [](CPreklItem& item) { item.height = 1; },
+        [](CPreklItem& item) { item.weight = 0.001; },
+        [](CPreklItem& item) { item.maxOpening = 1201; },
+        [](CPreklItem& item) { item.compositionMark = 'A'; },
+        [](CPreklItem& item) { item.description = "of the same product"; },
+    };
+    std::string joined;
+    for (const auto& change : changes) {
+        const Catalogue catalogue = itemsOf({{1, 1200}, {2, 1200}});
+        change(*catalogue->next);
+        RezChain offer = BuildPrecastOffer(catalogue.get(), 0, 1200, 1200);
+        addPicked(offer, {catalogue->next.get()});
+        joined += offer.head()->next == nullptr ? "no " : "yes ";
+    }
+    EXPECT_EQ(joined, "yes yes yes yes yes yes yes no ");
 }
 
 TEST(OfferOrder, NumbersStandByValueAndCaseDoesNotCount) {
