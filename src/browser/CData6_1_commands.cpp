@@ -152,7 +152,7 @@ void CData6_1::deleteItem() {
 
 bool CData6_1::save() {
     if (m_session->saveCatalogue()) return true;
-    message(texts::catalogueNotWritten, str(text::warning), MessageIcon::stop, MessageButtons::ok);
+    message(text::catalogueNotWritten, text::warning, MessageIcon::stop, MessageButtons::ok);
     return false;
 }
 
