@@ -120,8 +120,6 @@ void SectionWalk::gather() {
                            m_byKey.emplace(trimmedBlanks(change.key), m_taken).second;
         if (!joins) break;
         ++m_taken;
-        // Before the first heading a deleted line may be the one that tells the line ends.
-        if (section.empty()) break;
     }
 }
 

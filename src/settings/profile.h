@@ -62,8 +62,9 @@ public:
     }
     bool writeInt(const settings::IntKey& key, std::int32_t value);
     // Several values in one go: the file is replaced once, with all of them or none, and holds what
-    // it would after one change after another. Takes time in proportion to the file and the
-    // changes, as long as those of a section stand together and each is of another key.
+    // it would after one change after another (but for the line ends where a file mixes them).
+    // Takes time in proportion to the file and the changes, as long as those of a section stand
+    // together and each is of another key.
     bool apply(std::span<const ProfileChange> changes);
 
 private:
