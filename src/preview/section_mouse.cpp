@@ -87,7 +87,6 @@ void SectionMouse::move(Point p, bool leftDown) {
         m_picture.setCursor(m_target != nullptr ? CursorShape::hand : CursorShape::arrow);
         return;
     }
-    m_dragging = true;
     if (m_target == nullptr) m_target = head;
     m_picture.setCursor(CursorShape::upArrow);
     mark(m_target == head ? head->width : m_target->offset);
@@ -146,14 +145,13 @@ void SectionMouse::mirror(std::int32_t& kind) {
 
 // Released over the picture, or elsewhere, which is noticed when the mouse comes back.
 void SectionMouse::forgetDrag() {
-    m_dragging = false;
     m_pressed = nullptr;
     mark(-1);
 }
 
 void SectionMouse::release() {
     CRez* target = std::exchange(m_target, nullptr);
-    const bool dropped = m_dragging && m_pressed == m_services.model().current();
+    const bool dropped = m_pressed == m_services.model().current();
     m_picture.setCursor(CursorShape::arrow);
     forgetDrag();
     if (!dropped) return;

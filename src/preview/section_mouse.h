@@ -46,7 +46,6 @@ private:
     // Compared with the records of the design before they are followed.
     CRez* m_pressed = nullptr;  // under the mouse at the last press
     CRez* m_target = nullptr;   // where a dragged layer would go; the head: behind the last layer
-    bool m_dragging = false;
     int m_dropMarker = -1;
 };
 
