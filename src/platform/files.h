@@ -56,9 +56,7 @@ public:
     // it in one step. On failure, also when next has none or throws, the old file is untouched and
     // nothing is left beside it.
     virtual bool replaceByPieces(const Path& path, const NextPiece& next) = 0;
-    bool replace(const Path& path, std::string_view bytes) {
-        return replaceByPieces(path, [&bytes] { return std::optional(std::exchange(bytes, {})); });
-    }
+    bool replace(const Path& path, std::string_view bytes);
     // Writes at the end, flushes, then sets the seal and flushes again; creates a missing file. On
     // failure the file has its old length again. When the process dies a part of the bytes may
     // stand there, but never under the seal.
@@ -70,7 +68,7 @@ public:
     virtual bool remove(const Path& path) = 0;
     // Keeps the file of that name as path + ".bak", replacing an older one in one step. True also
     // when there is no such file to keep.
-    virtual bool keepAsBackup(const Path& path) = 0;
+    bool keepAsBackup(const Path& path);
     // The system's folder for temporary files, ending in a separator.
     virtual Path temporaryFolder() = 0;
 };

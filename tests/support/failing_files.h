@@ -30,7 +30,6 @@ public:
         return !fails() && m_files.overwrite(path, offset, bytes);
     }
     bool remove(const Path& path) override { return !fails() && m_files.remove(path); }
-    bool keepAsBackup(const Path& path) override { return !fails() && m_files.keepAsBackup(path); }
     Path temporaryFolder() override { return m_files.temporaryFolder(); }
 
 private:

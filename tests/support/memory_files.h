@@ -62,9 +62,6 @@ public:
         if (!readOnly) content.erase(path);
         return !exists(path);
     }
-    bool keepAsBackup(const Path& path) override {
-        return !exists(path) || replace(path + ".bak", content[path]);
-    }
     Path temporaryFolder() override { return "tmp/"; }
 };
 

@@ -8,7 +8,7 @@
 #include <new>
 #include <utility>
 
-#include "platform/files.h"
+#include "platform/unfinished_file.h"
 
 namespace lx {
 
@@ -50,13 +50,6 @@ public:
         }
         return true;
     }
-    bool writeAll(const NextPiece& next) const {
-        for (;;) {
-            const std::optional<std::string_view> piece = next();
-            if (!piece || !write(*piece)) return false;
-            if (piece->empty()) return true;
-        }
-    }
     bool readAll(Bytes& bytes) const {
         char buffer[16384];
         for (;;) {
@@ -87,22 +80,9 @@ void flushFolderOf(const Path& path) {
     if (opened.open()) opened.flush();
 }
 
-// A file that goes away again unless it is kept.
-class Unfinished {
-public:
-    explicit Unfinished(Path path) : m_path(std::move(path)) {}
-    ~Unfinished() {
-        if (made) ::unlink(m_path.c_str());
-    }
-    Unfinished(const Unfinished&) = delete;
-    Unfinished& operator=(const Unfinished&) = delete;
-
-    const Path& path() const { return m_path; }
-    bool made = false;
-
-private:
-    Path m_path;
-};
+void takeAway(const Path& path) {
+    ::unlink(path.c_str());
+}
 
 class PosixFiles final : public Files {
 public:
@@ -148,12 +128,12 @@ public:
         if (readOnly(path)) return false;
         // A name that a killed process left behind is passed over.
         for (int attempt = 0; attempt < 100; ++attempt) {
-            Unfinished beside(path + ".new" + std::to_string(attempt));
+            UnfinishedFile beside(path + ".new" + std::to_string(attempt), &takeAway);
             Descriptor file(beside.path(), O_WRONLY | O_CREAT | O_EXCL);
             if (!file.open() && errno == EEXIST) continue;
             if (!file.open()) return false;
             beside.made = true;
-            const bool done = keepMode(path, file) && file.writeAll(next) && file.flush() &&
+            const bool done = keepMode(path, file) && writePieces(file, next) && file.flush() &&
                               file.close() && ::rename(beside.path().c_str(), path.c_str()) == 0;
             beside.made = !done;
             if (done) flushFolderOf(path);
@@ -174,7 +154,7 @@ public:
             return true;
         }
         if (isNew) {
-            ::unlink(path.c_str());
+            takeAway(path);
         } else if (before >= 0 && ::ftruncate(file.number(), before) == 0) {
             file.flush();
         }
@@ -195,13 +175,6 @@ public:
     bool remove(const Path& path) override {
         if (readOnly(path)) return false;
         return ::unlink(path.c_str()) == 0 || errno == ENOENT || errno == ENOTDIR;
-    }
-
-    // A copy, so that the name itself never lacks its file.
-    bool keepAsBackup(const Path& path) override {
-        const FileRead original = read(path);
-        if (original.status == ReadStatus::missing) return true;
-        return original.status == ReadStatus::ok && replace(path + ".bak", original.bytes);
     }
 
     Path temporaryFolder() override {

@@ -6,7 +6,7 @@
 #include <new>
 #include <utility>
 
-#include "platform/files.h"
+#include "platform/unfinished_file.h"
 
 namespace lx {
 namespace {
@@ -53,13 +53,6 @@ public:
             bytes.remove_prefix(written);
         }
         return true;
-    }
-    bool writeAll(const NextPiece& next) {
-        for (;;) {
-            const std::optional<std::string_view> piece = next();
-            if (!piece || !write(*piece)) return false;
-            if (piece->empty()) return true;
-        }
     }
     // Up to the file's end; false on a read error.
     bool readAll(Bytes& bytes) {
@@ -121,23 +114,9 @@ bool readOnly(const Path& path) {
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY);
 }
 
-// A file that goes away again unless it is kept. To be made before its handle: an open file cannot
-// be deleted.
-class Unfinished {
-public:
-    explicit Unfinished(Path path) : m_path(std::move(path)) {}
-    ~Unfinished() {
-        if (made) DeleteFileA(m_path.c_str());
-    }
-    Unfinished(const Unfinished&) = delete;
-    Unfinished& operator=(const Unfinished&) = delete;
-
-    const Path& path() const { return m_path; }
-    bool made = false;
-
-private:
-    Path m_path;
-};
+void takeAway(const Path& path) {
+    DeleteFileA(path.c_str());
+}
 
 class WindowsFiles final : public Files {
 public:
@@ -181,12 +160,12 @@ public:
     bool replaceByPieces(const Path& path, const NextPiece& next) override {
         if (readOnly(path)) return false;
         for (unsigned attempt = 0; attempt < 100; ++attempt) {
-            Unfinished temporary(nameBeside(path, attempt));
+            UnfinishedFile temporary(nameBeside(path, attempt), &takeAway);
             FileHandle file(temporary.path(), GENERIC_WRITE, 0, CREATE_NEW);
             if (!file && file.error() == ERROR_FILE_EXISTS) continue;
             if (!file) return false;
             temporary.made = true;
-            const bool written = file.writeAll(next) && file.flush();
+            const bool written = writePieces(file, next) && file.flush();
             const bool done = file.close() && written &&
                               MoveFileExA(temporary.path().c_str(), path.c_str(),
                                           MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH);
@@ -209,7 +188,7 @@ public:
         if (done) return true;
         if (measured) file.truncate(length);
         file.close();
-        if (!existed) DeleteFileA(path.c_str());
+        if (!existed) takeAway(path);
         return false;
     }
 
@@ -227,12 +206,6 @@ public:
         if (DeleteFileA(path.c_str())) return true;
         return GetFileAttributesA(path.c_str()) == INVALID_FILE_ATTRIBUTES &&
                meansMissing(GetLastError());
-    }
-
-    bool keepAsBackup(const Path& path) override {
-        const FileRead original = read(path);
-        if (original.status == ReadStatus::missing) return true;
-        return original.status == ReadStatus::ok && replace(path + ".bak", original.bytes);
     }
 
     Path temporaryFolder() override {
