@@ -33,6 +33,7 @@ constexpr ControlTemplate pageControls[] = {
     {ControlKind::listBox, pageList, "", {4, 4, 60, 40}},
     {ControlKind::dropDownList, colours, "", {70, 4, 60, 60}},
     {ControlKind::picture, field, "", {4, 50, 60, 30}, style::focusable},
+    {ControlKind::button, id::cancel, "Not this", {70, 60, 60, 14}},
 };
 constexpr DialogTemplate pageLayout{"page", "Page", 140, 80, pageControls, DialogStyle::page};
 
@@ -89,6 +90,7 @@ protected:
 TEST_F(SampleDialog, EnterAndEscapePressTheRightButtons) {
     int pressed = 0;
     ok().onClick = [&] { ++pressed; };
+    page.get<Button>(id::cancel).onClick = [&] { ++pressed; };
     run([&] {
         edit(notes).userType('\r');
         EXPECT_EQ(edit(notes).text(), "\r\n") << "Enter belongs to the many-line field";
@@ -103,6 +105,7 @@ TEST_F(SampleDialog, EnterAndEscapePressTheRightButtons) {
         dialog.userKey(plain(key::escape));
         EXPECT_TRUE(dialog.running());
     });
+    EXPECT_EQ(pressed, 0) << "a page has no say in closing its dialog";
     EXPECT_EQ(dialog.runModal(), -1) << "its window is gone";
 }
 

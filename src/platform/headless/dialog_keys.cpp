@@ -1,6 +1,4 @@
 // Focus and keys of a dialog, in the order in which a real one tries them.
-#include <algorithm>
-
 #include "platform/headless/headless_platform.h"
 
 namespace lx {
@@ -36,12 +34,10 @@ Control* HeadlessDialog::focusedControl() {
 }
 
 void HeadlessDialog::focusFirst() {
-    for (HeadlessControl* control : allControls()) {
-        if (!control->tabStop()) continue;
-        root().moveFocusByProgram(control);
-        control->enteredByKey();
-        return;
-    }
+    HeadlessControl* first = focusOrder().nextStop(nullptr, false);
+    if (!first) return;
+    root().moveFocusByProgram(first);
+    first->enteredByKey();
 }
 
 void HeadlessDialog::moveFocusByProgram(HeadlessControl* control) {
@@ -58,96 +54,39 @@ void HeadlessDialog::moveFocusByUser(HeadlessControl* control, bool byKey) {
 
 void HeadlessDialog::leaveFocusIfLost() {
     if (!m_focus || m_focus->focusable()) return;
-    moveFocusByProgram(nextStop(m_focus, false));
+    moveFocusByProgram(focusOrder().nextStop(m_focus, false));
 }
-
-HeadlessControl* HeadlessDialog::nextStop(const HeadlessControl* from, bool backward) const {
-    std::vector<HeadlessControl*> order = allControls();
-    if (backward) std::reverse(order.begin(), order.end());
-    const auto place = std::find(order.begin(), order.end(), from);
-    if (place != order.end()) std::rotate(order.begin(), place + 1, order.end());
-    const auto* radio = dynamic_cast<const HeadlessRadioButton*>(from);
-    std::vector<HeadlessRadioButton*> group;
-    if (radio) group = radio->dialog().radioGroup(*radio);
-    for (HeadlessControl* control : order) {
-        const bool sameStop =
-            control == from || std::find(group.begin(), group.end(), control) != group.end();
-        if (!sameStop && control->tabStop()) return control;
-    }
-    return nullptr;
-}
-
-std::vector<HeadlessRadioButton*> HeadlessDialog::radioGroup(
-    const HeadlessRadioButton& member) const {
-    std::vector<HeadlessRadioButton*> group;
-    bool found = false;
-    for (const auto& control : m_controls) {
-        auto* radio = dynamic_cast<HeadlessRadioButton*>(control.get());
-        if (radio) {
-            group.push_back(radio);
-            found = found || radio == &member;
-        } else {
-            if (found) break;
-            group.clear();
-        }
-    }
-    return group;
-}
-
-const HeadlessRadioButton* HeadlessDialog::stopOfGroup(const HeadlessRadioButton& member) const {
-    const HeadlessRadioButton* first = nullptr;
-    for (const HeadlessRadioButton* radio : radioGroup(member)) {
-        if (!radio->focusable()) continue;
-        if (radio->checked()) return radio;
-        if (!first) first = radio;
-    }
-    return first;
-}
-
-void HeadlessDialog::stepFocus(bool backward) {
-    if (HeadlessControl* next = nextStop(m_focus, backward)) moveFocusByUser(next, true);
-}
-
-// ---- buttons by keys
 
 HeadlessButton* HeadlessDialog::defaultButton() const {
-    const auto pressable = [](HeadlessControl* control) -> HeadlessButton* {
-        const bool icon = !control || control->kind() == ControlKind::icon;
-        return icon ? nullptr : dynamic_cast<HeadlessButton*>(control);
-    };
-    if (HeadlessButton* focused = pressable(root().m_focus)) return focused;
-    for (HeadlessControl* control : root().allControls()) {
-        if (control->style() & style::defaultButton) return pressable(control);
-    }
-    return nullptr;
+    return dynamic_cast<HeadlessButton*>(focusOrder().defaultButton(root().m_focus));
 }
 
-void HeadlessDialog::pressButton(HeadlessButton& button) {
-    if (button.onClick) {
-        callCopy(button.onClick);
-    } else if (button.controlId() == id::ok || button.controlId() == id::cancel) {
-        end(button.controlId());
+bool HeadlessDialog::perform(const FocusStep<HeadlessControl*>& step) {
+    switch (step.act) {
+        case FocusAct::none:
+            return false;
+        case FocusAct::used:
+            break;
+        case FocusAct::focus:
+            moveFocusByUser(step.control, true);
+            break;
+        case FocusAct::choose:
+            moveFocusByUser(step.control, true);
+            if (m_running) step.control->press();
+            break;
+        case FocusAct::press:
+            step.control->press();
+            break;
+        case FocusAct::cancel:
+            end(id::cancel);
+            break;
     }
-}
-
-void HeadlessDialog::pressEnter() {
-    HeadlessButton* button = defaultButton();
-    if (button && button->focusable()) pressButton(*button);
-}
-
-void HeadlessDialog::pressEscape() {
-    for (const auto& control : m_controls) {
-        auto* button = dynamic_cast<HeadlessButton*>(control.get());
-        if (!button || button->controlId() != id::cancel) continue;
-        if (button->usable()) pressButton(*button);
-        return;
-    }
-    end(id::cancel);
+    return true;
 }
 
 void HeadlessDialog::userClose() {
     checkOnTop("be closed");
-    pressEscape();
+    perform(focusOrder().escape());
     settle();
 }
 
@@ -172,7 +111,7 @@ void HeadlessDialog::handleKey(const KeyEvent& event, char32_t typed) {
     }
     if (!m_running || answer == KeyAnswer::swallow) return;
     if (answer == KeyAnswer::asTab) {
-        stepFocus(false);
+        perform(focusOrder().tab(m_focus, false));
         return;
     }
     const bool forControl = m_focus && m_focus->wantsKey(event);
@@ -183,30 +122,12 @@ void HeadlessDialog::handleKey(const KeyEvent& event, char32_t typed) {
 }
 
 bool HeadlessDialog::dialogKey(const KeyEvent& event) {
-    switch (event.key) {
-        case key::tab:
-            if (event.ctrl || event.alt) return false;
-            stepFocus(event.shift);
-            return true;
-        case key::enter:
-            if (event.alt) return false;
-            pressEnter();
-            return true;
-        case key::escape:
-            if (event.alt || event.ctrl) return false;
-            pressEscape();
-            return true;
-        case key::f4:
-            if (!event.alt) return false;
-            pressEscape();
-            return true;
-        case key::space:
-            if (event.ctrl || event.alt || !m_focus || m_focus->wantsCharacters()) return false;
-            m_focus->press();
-            return true;
-        default:
-            return false;
-    }
+    const FocusOrderOf<HeadlessControl> order = focusOrder();
+    if (event.key == key::f4 && event.alt) return perform(order.escape());
+    if (event.key != key::space) return perform(order.key(event, m_focus));
+    if (event.ctrl || event.alt || !m_focus || m_focus->wantsCharacters()) return false;
+    m_focus->press();
+    return true;
 }
 
 bool HeadlessDialog::mnemonicKey(const KeyEvent& event, char32_t typed) {
@@ -225,7 +146,7 @@ bool HeadlessDialog::mnemonicKey(const KeyEvent& event, char32_t typed) {
         if (control->takesFocus()) {
             moveFocusByUser(control, true);
             if (m_running && control->focusable()) control->press();
-        } else if (HeadlessControl* next = nextStop(control, false)) {
+        } else if (HeadlessControl* next = focusOrder().nextStop(control, false)) {
             moveFocusByUser(next, true);
         }
         return true;

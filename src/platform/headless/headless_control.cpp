@@ -47,26 +47,16 @@ Rect HeadlessControl::areaInDialog() const {
 }
 
 bool HeadlessControl::takesFocus() const {
-    switch (m_kind) {
-        case ControlKind::label:
-        case ControlKind::groupBox:
-        case ControlKind::icon:
-            return false;
-        case ControlKind::picture:
-            return (m_style & style::focusable) != 0;
-        default:
-            return true;
-    }
+    return lx::takesFocus(m_kind, m_style);
 }
 
 bool HeadlessControl::focusable() const {
     return takesFocus() && flagsShown() && usable();
 }
 
-bool HeadlessControl::tabStop() const {
-    if (!focusable() || (m_style & style::noTabStop)) return false;
-    const auto* radio = dynamic_cast<const HeadlessRadioButton*>(this);
-    return !radio || m_dialog->stopOfGroup(*radio) == radio;
+ControlFacts HeadlessControl::facts() const {
+    const auto* radio = dynamic_cast<const RadioButton*>(this);
+    return {m_kind, m_id, m_style, 0, flagsShown(), usable(), radio && radio->checked()};
 }
 
 Text HeadlessControl::plainText() const {
@@ -145,7 +135,7 @@ void HeadlessControl::doMoveInto(Control* parent) {
 // ---- buttons and boxes
 
 void HeadlessButton::press() {
-    m_dialog->root().pressButton(*this);
+    pressButton(*m_dialog, *this);
 }
 
 void HeadlessButton::userClick() {
@@ -172,7 +162,9 @@ void HeadlessCheckBox::userClick() {
 
 void HeadlessRadioButton::check(bool on) {
     if (on) {
-        for (HeadlessRadioButton* member : m_dialog->radioGroup(*this)) member->m_checked = false;
+        for (HeadlessControl* member : m_dialog->focusOrder().radioGroup(*this)) {
+            static_cast<HeadlessRadioButton*>(member)->m_checked = false;
+        }
     }
     m_checked = on;
 }
@@ -188,22 +180,6 @@ void HeadlessRadioButton::userClick() {
     clickFocus();
     if (m_dialog->root().running() && shown() && usable()) press();
     settle();
-}
-
-bool HeadlessRadioButton::keyDown(const KeyEvent& event) {
-    const bool forward = event.key == key::down || event.key == key::right;
-    const bool backward = event.key == key::up || event.key == key::left;
-    if (event.ctrl || event.alt || !(forward || backward)) return false;
-    std::vector<HeadlessRadioButton*> group = m_dialog->radioGroup(*this);
-    if (backward) std::reverse(group.begin(), group.end());
-    std::rotate(group.begin(), std::find(group.begin(), group.end(), this), group.end());
-    for (HeadlessRadioButton* member : group) {
-        if (member == this || !member->focusable()) continue;
-        m_dialog->root().moveFocusByUser(member, true);
-        if (m_dialog->root().running()) member->press();
-        break;
-    }
-    return true;
 }
 
 // ---- tabs

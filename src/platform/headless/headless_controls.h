@@ -10,7 +10,7 @@
 #include <string>
 
 #include "platform/controls.h"
-#include "platform/dialog_template.h"
+#include "platform/focus_order.h"
 #include "platform/headless/edit_field.h"
 #include "platform/recording_canvas.h"
 
@@ -64,8 +64,7 @@ public:
     bool takesFocus() const;
     // Whether it could have the focus now.
     bool focusable() const;
-    // A stop of the Tab key now; one radio button of a group is.
-    bool tabStop() const;
+    ControlFacts facts() const;
     // "push me" of "&push me", and the mnemonic's lower-case byte, 0 without one.
     Text plainText() const;
     unsigned char mnemonic() const;
@@ -155,7 +154,6 @@ public:
     void userClick();
 
 protected:
-    friend class HeadlessDialog;
     void press() override;
 
 private:
@@ -184,7 +182,6 @@ public:
     void userClick();
 
 protected:
-    bool keyDown(const KeyEvent& event) override;
     void press() override;
 
 private:

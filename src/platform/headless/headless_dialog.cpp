@@ -137,19 +137,7 @@ HeadlessDialog& HeadlessDialog::root() {
 
 std::vector<HeadlessControl*> HeadlessDialog::allControls() const {
     std::vector<HeadlessControl*> result;
-    bool pagesIn = m_pages.empty();
-    const auto addPages = [&] {
-        for (const HeadlessDialog* page : m_pages) {
-            const auto inner = page->allControls();
-            result.insert(result.end(), inner.begin(), inner.end());
-        }
-        pagesIn = true;
-    };
-    for (const auto& control : m_controls) {
-        result.push_back(control.get());
-        if (!pagesIn && control->kind() == ControlKind::tabControl) addPages();
-    }
-    if (!pagesIn) addPages();
+    addInTabOrder(*this, result);
     return result;
 }
 

@@ -66,8 +66,9 @@ public:
     const std::vector<std::unique_ptr<HeadlessControl>>& controls() const { return m_controls; }
     // In the order in which they were made, hidden ones too.
     const std::vector<HeadlessDialog*>& pages() const { return m_pages; }
-    // Own controls and those of the pages, in Tab order: pages come behind the tab control.
+    // Own controls and those of the pages, in Tab order.
     std::vector<HeadlessControl*> allControls() const;
+    FocusOrderOf<HeadlessControl> focusOrder() const { return {*this, allControls()}; }
     HeadlessControl* focusedItem() const { return m_focus; }
     // The button that Enter presses now, whether or not it is enabled; null when there is none.
     HeadlessButton* defaultButton() const;
@@ -103,8 +104,6 @@ public:
 
 private:
     friend class HeadlessControl;
-    friend class HeadlessButton;
-    friend class HeadlessRadioButton;
     friend class HeadlessPlatform;
 
     struct Timer {
@@ -126,18 +125,12 @@ private:
     void moveFocusByUser(HeadlessControl* control, bool byKey);
     void moveFocusByProgram(HeadlessControl* control);
     void leaveFocusIfLost();
-    HeadlessControl* nextStop(const HeadlessControl* from, bool backward) const;
-    std::vector<HeadlessRadioButton*> radioGroup(const HeadlessRadioButton& member) const;
-    const HeadlessRadioButton* stopOfGroup(const HeadlessRadioButton& member) const;
 
     // True = used.
     void handleKey(const KeyEvent& event, char32_t typed);
     bool dialogKey(const KeyEvent& event);
     bool mnemonicKey(const KeyEvent& event, char32_t typed);
-    void pressEnter();
-    void pressEscape();
-    void pressButton(HeadlessButton& button);
-    void stepFocus(bool backward);
+    bool perform(const FocusStep<HeadlessControl*>& step);
 
     HeadlessControl* controlAt(Point p) const;
 

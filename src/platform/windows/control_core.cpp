@@ -8,22 +8,6 @@
 #include "platform/windows/windows_dialog.h"
 
 namespace lx {
-namespace {
-
-bool kindTakesTab(ControlKind kind, unsigned styleBits) {
-    switch (kind) {
-        case ControlKind::label:
-        case ControlKind::groupBox:
-        case ControlKind::icon:
-            return false;
-        case ControlKind::picture:
-            return (styleBits & style::focusable) != 0;
-        default:
-            return (styleBits & style::noTabStop) == 0;
-    }
-}
-
-}  // namespace
 
 LRESULT answerDescribe(const DescribeRequest& request, const Text& answer) {
     const std::size_t count = std::min(answer.size(), request.capacity);
@@ -39,8 +23,7 @@ ControlCore::ControlCore(WindowsDialog& dialog, const ControlTemplate& layout)
       m_style(layout.style),
       m_area(dialog.toPixels(layout.area)),
       m_enabled((layout.style & style::disabled) == 0),
-      m_visible((layout.style & style::hidden) == 0),
-      m_tabStop(kindTakesTab(layout.kind, layout.style)) {}
+      m_visible((layout.style & style::hidden) == 0) {}
 
 ControlCore::~ControlCore() = default;
 
@@ -65,7 +48,7 @@ void ControlCore::create(bool startsGroup) {
     DWORD bits = WS_CHILD | kindClass.style;
     if (m_visible) bits |= WS_VISIBLE;
     if (!m_enabled) bits |= WS_DISABLED;
-    if (m_tabStop) bits |= WS_TABSTOP;
+    if (wantsTabStop()) bits |= WS_TABSTOP;
     if (startsGroup) bits |= WS_GROUP;
     m_window = CreateWindowExW(
         kindClass.extendedStyle, kindClass.name, wide(m_text).c_str(), bits, m_area.left,
@@ -160,6 +143,12 @@ bool ControlCore::isReachable() const {
     return isVisible() && (m_host ? m_host->isReachable() : m_dialog.reachable());
 }
 
+ControlFacts ControlCore::facts() const {
+    const bool usable = isEnabled() && (!m_host || m_host->isEnabled());
+    const auto* radio = dynamic_cast<const RadioButton*>(this);
+    return {m_kind, m_id, m_style, 0, isReachable(), usable, radio && radio->checked()};
+}
+
 void ControlCore::doSetText(std::string_view text) {
     m_text = text;
     if (!m_window) return;
@@ -180,7 +169,7 @@ void ControlCore::doEnable(bool on) {
     if (on == isEnabled()) return;
     ControlCore* next = nullptr;
     const bool focusLeaves = !on && containsFocus();
-    if (focusLeaves) next = m_dialog.root().nextStop(this, false);
+    if (focusLeaves) next = m_dialog.root().focusOrder().nextStop(this, false);
     m_enabled = on;
     if (m_window) {
         const Setting guard(*this);
@@ -193,7 +182,7 @@ void ControlCore::doShow(bool on) {
     if (on == isVisible()) return;
     ControlCore* next = nullptr;
     const bool focusLeaves = !on && containsFocus();
-    if (focusLeaves) next = m_dialog.root().nextStop(this, false);
+    if (focusLeaves) next = m_dialog.root().focusOrder().nextStop(this, false);
     m_visible = on;
     if (m_window) {
         const Setting guard(*this);

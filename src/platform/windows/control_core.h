@@ -8,7 +8,7 @@
 #include <utility>
 
 #include "platform/controls.h"
-#include "platform/dialog_template.h"
+#include "platform/focus_order.h"
 #include "platform/windows/describe_message.h"
 
 namespace lx {
@@ -51,7 +51,8 @@ public:
     // Visible with its page or picture: somebody can work with it.
     bool isReachable() const;
     // A stop for the Tab key when enabled and visible.
-    bool wantsTabStop() const { return m_tabStop; }
+    bool wantsTabStop() const { return takesTab(m_kind, m_style); }
+    ControlFacts facts() const;
     // Puts the control back into its own dialog's window.
     void goHome();
     // Remembers everything that must be answered after the window is gone, then lets it go.
@@ -131,7 +132,6 @@ private:
     Rect m_area;
     bool m_enabled;
     bool m_visible;
-    bool m_tabStop;
     HWND m_window = nullptr;
     WNDPROC m_inherited = nullptr;
     ControlCore* m_host = nullptr;

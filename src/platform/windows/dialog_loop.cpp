@@ -1,6 +1,4 @@
 // The modal loop of a dialog, the keys it knows, and the focus.
-#include <algorithm>
-
 #include "platform/windows/platform_windows.h"
 #include "platform/windows/simple_controls.h"
 #include "platform/windows/windows_dialog.h"
@@ -82,7 +80,7 @@ WindowsDialog::Course WindowsDialog::courseOf(const MSG& message) {
     event.alt = message.message == WM_SYSKEYDOWN ? (message.lParam & altBit) != 0 : held(VK_MENU);
     m_swallowCharacter = true;
     const KeyAnswer answer = seenByHandlers(event);
-    if (answer == KeyAnswer::asTab && m_running) stepFocus(false);
+    if (answer == KeyAnswer::asTab && m_running) perform(focusOrder().tab(m_focus, false));
     if (answer != KeyAnswer::pass || !m_running) return Course::done;
     if (m_focus && m_focus->wantsKey(event.key)) {
         m_swallowCharacter = false;
@@ -107,27 +105,11 @@ KeyAnswer WindowsDialog::seenByHandlers(const KeyEvent& event) {
 // ---- keys
 
 bool WindowsDialog::dialogKey(const KeyEvent& event) {
-    if (event.alt) return false;
-    switch (event.key) {
-        case key::tab:
-            if (!event.ctrl) stepFocus(event.shift);
-            return true;
-        case key::enter:
-            pressEnter();
-            return true;
-        case key::escape:
-            if (!event.ctrl) pressCancel();
-            return true;
-        case key::apps:
-            openContextMenu();
-            return true;
-        case key::f10:
-            if (!event.shift || event.ctrl) return false;
-            openContextMenu();
-            return true;
-        default:
-            return !event.ctrl && radioKey(event.key);
-    }
+    const bool menuKey =
+        event.key == key::apps || (event.key == key::f10 && event.shift && !event.ctrl);
+    if (!menuKey || event.alt) return perform(focusOrder().key(event, m_focus));
+    openContextMenu();
+    return true;
 }
 
 // As the system does it, only that every version does it at the same moment.
@@ -138,69 +120,27 @@ void WindowsDialog::openContextMenu() {
     }
 }
 
-void WindowsDialog::pressEnter() {
-    WindowsButton* button = defaultButton();
-    if (button && button->isEnabled() && button->isReachable()) press(*button);
-}
-
-void WindowsDialog::pressCancel() {
-    const auto found = std::find_if(m_controls.begin(), m_controls.end(), [](const auto& control) {
-        return control->number() == id::cancel && dynamic_cast<Button*>(&control->face());
-    });
-    if (found == m_controls.end()) {
-        end(id::cancel);
-    } else if ((*found)->isEnabled()) {
-        press(static_cast<Button&>((*found)->face()));
-    }
-}
-
-void WindowsDialog::press(Button& button) {
-    if (button.onClick) {
-        fire(button.onClick);
-    } else if (button.id() == id::ok || button.id() == id::cancel) {
-        end(button.id());
-    }
-}
-
-// The arrows go round in the group and choose at once.
-bool WindowsDialog::radioKey(int key) {
-    auto* focused = dynamic_cast<WindowsRadioButton*>(m_focus);
-    const bool forward = key == key::right || key == key::down;
-    if (!focused || !(forward || key == key::left || key == key::up)) return false;
-    const std::vector<ControlCore*> group = focused->dialog().radioGroup(*focused);
-    const std::size_t count = group.size();
-    std::size_t at = static_cast<std::size_t>(
-        std::find(group.begin(), group.end(), static_cast<ControlCore*>(focused)) - group.begin());
-    for (std::size_t step = 1; step < count; ++step) {
-        at = (at + (forward ? 1 : count - 1)) % count;
-        ControlCore* next = group[at];
-        if (!next->isEnabled() || !next->isReachable()) continue;
-        SetFocus(next->window());
-        static_cast<WindowsRadioButton&>(*next).choose();
-        break;
+bool WindowsDialog::perform(const FocusStep<ControlCore*>& step) {
+    switch (step.act) {
+        case FocusAct::none:
+            return false;
+        case FocusAct::used:
+            break;
+        case FocusAct::focus:
+            focusByUser(step.control);
+            break;
+        case FocusAct::choose:
+            SetFocus(step.control->window());
+            static_cast<WindowsRadioButton&>(*step.control).choose();
+            break;
+        case FocusAct::press:
+            pressButton(*this, static_cast<WindowsButton&>(*step.control));
+            break;
+        case FocusAct::cancel:
+            end(id::cancel);
+            break;
     }
     return true;
-}
-
-std::vector<ControlCore*> WindowsDialog::radioGroup(const ControlCore& member) const {
-    std::vector<ControlCore*> group;
-    bool found = false;
-    for (const auto& control : m_controls) {
-        if (control->kind() != ControlKind::radioButton) {
-            if (found) break;
-            group.clear();
-            continue;
-        }
-        group.push_back(control.get());
-        found = found || control.get() == &member;
-    }
-    return group;
-}
-
-void WindowsDialog::clearRadioGroup(const ControlCore& member) {
-    for (ControlCore* control : radioGroup(member)) {
-        if (control != &member) static_cast<WindowsRadioButton&>(*control).mark(false);
-    }
 }
 
 // ---- focus
@@ -214,47 +154,6 @@ Control* WindowsDialog::focusedControl() {
     return nullptr;
 }
 
-// One radio button of a group is a stop: the checked one, else the first that can be reached.
-bool WindowsDialog::isStop(const ControlCore& control) const {
-    const auto usable = [](const ControlCore& one) {
-        return one.isEnabled() && one.isReachable() && (!one.host() || one.host()->isEnabled());
-    };
-    if (!control.wantsTabStop() || !usable(control)) return false;
-    if (control.kind() != ControlKind::radioButton) return true;
-    const std::vector<ControlCore*> group = control.dialog().radioGroup(control);
-    const auto checked = std::find_if(group.begin(), group.end(), [&](ControlCore* one) {
-        return usable(*one) && static_cast<WindowsRadioButton&>(*one).checked();
-    });
-    if (checked != group.end()) return *checked == &control;
-    const auto first =
-        std::find_if(group.begin(), group.end(), [&](ControlCore* one) { return usable(*one); });
-    return first != group.end() && *first == &control;
-}
-
-ControlCore* WindowsDialog::nextStop(const ControlCore* from, bool backward) const {
-    const std::vector<ControlCore*> all = allControls();
-    const std::size_t count = all.size();
-    std::vector<ControlCore*> group;  // one stop together
-    if (from && from->kind() == ControlKind::radioButton) group = from->dialog().radioGroup(*from);
-    const auto same = [&](const ControlCore* one) {
-        return one == from || std::find(group.begin(), group.end(), one) != group.end();
-    };
-    if (count == 0) return nullptr;
-    const auto found = std::find(all.begin(), all.end(), from);
-    std::size_t at = found != all.end() ? static_cast<std::size_t>(found - all.begin())
-                     : backward         ? 0
-                                        : count - 1;
-    for (std::size_t step = 0; step < count; ++step) {
-        at = (at + (backward ? count - 1 : 1)) % count;
-        if (!same(all[at]) && isStop(*all[at])) return all[at];
-    }
-    return nullptr;
-}
-
-void WindowsDialog::stepFocus(bool backward) {
-    focusByUser(nextStop(m_focus, backward));
-}
-
 // By the keyboard; a click goes straight to the control's window.
 void WindowsDialog::focusByUser(ControlCore* control) {
     if (!control || !control->isEnabled() || !control->isReachable()) return;
@@ -263,12 +162,10 @@ void WindowsDialog::focusByUser(ControlCore* control) {
 }
 
 void WindowsDialog::focusFirst() {
-    for (ControlCore* control : allControls()) {
-        if (!isStop(*control)) continue;
-        root().moveFocusQuietly(control);
-        control->enteredByTab();
-        return;
-    }
+    ControlCore* first = focusOrder().nextStop(nullptr, false);
+    if (!first) return;
+    root().moveFocusQuietly(first);
+    first->enteredByTab();
 }
 
 void WindowsDialog::moveFocusQuietly(ControlCore* control) {
@@ -290,12 +187,7 @@ void WindowsDialog::focusArrived(ControlCore& control) {
 }
 
 WindowsButton* WindowsDialog::defaultButton() const {
-    if (auto* focused = dynamic_cast<WindowsButton*>(m_focus)) return focused;
-    for (ControlCore* control : allControls()) {
-        auto* button = dynamic_cast<WindowsButton*>(control);
-        if (button && button->isDefault()) return button;
-    }
-    return nullptr;
+    return dynamic_cast<WindowsButton*>(focusOrder().defaultButton(m_focus));
 }
 
 void WindowsDialog::showDefaultButton() {

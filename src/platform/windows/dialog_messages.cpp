@@ -70,11 +70,12 @@ bool WindowsDialog::handleState(UINT message, WPARAM wParam, LPARAM lParam, LRES
             if (LOWORD(lParam)) {
                 focusByUser(root().controlOf(reinterpret_cast<HWND>(wParam)));
             } else {
-                root().stepFocus(wParam != 0);
+                WindowsDialog& top = root();
+                top.perform(top.focusOrder().tab(top.m_focus, wParam != 0));
             }
             return true;
         case WM_CLOSE:
-            if (!isPage() && stands() && IsWindowEnabled(m_window)) pressCancel();
+            if (!isPage() && stands() && IsWindowEnabled(m_window)) perform(focusOrder().escape());
             return true;
         case WM_SIZE:
             if (wParam != SIZE_MINIMIZED) sizeChanged();
@@ -120,7 +121,7 @@ void WindowsDialog::handleCommand(int command) {
     if (found != m_controls.end()) {
         if ((*found)->isEnabled() && (*found)->isReachable()) (*found)->commandArrived(BN_CLICKED);
     } else if (command == id::cancel && !isPage()) {
-        pressCancel();
+        perform(focusOrder().escape());
     }
 }
 

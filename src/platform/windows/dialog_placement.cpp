@@ -135,7 +135,7 @@ void WindowsDialog::show(bool on) {
     m_pageVisible = on;
     WindowsDialog& top = root();
     if (!on && top.m_focus && !top.m_focus->isReachable()) {
-        top.moveFocusQuietly(top.nextStop(top.m_focus, false));
+        top.moveFocusQuietly(top.focusOrder().nextStop(top.m_focus, false));
     }
     if (!m_window) return;
     if (on) {

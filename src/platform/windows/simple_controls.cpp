@@ -48,7 +48,7 @@ void WindowsButton::showAsDefault(bool on) {
 }
 
 void WindowsButton::command(WORD code) {
-    if (code == BN_CLICKED) dialog().press(*this);
+    if (code == BN_CLICKED) pressButton(dialog(), *this);
 }
 
 LRESULT WindowsButton::message(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -124,7 +124,11 @@ void WindowsRadioButton::mark(bool on) {
 }
 
 void WindowsRadioButton::check(bool on) {
-    if (on) dialog().clearRadioGroup(*this);
+    if (on) {
+        for (ControlCore* member : dialog().focusOrder().radioGroup(*this)) {
+            if (member != this) static_cast<WindowsRadioButton*>(member)->mark(false);
+        }
+    }
     mark(on);
 }
 

@@ -28,8 +28,6 @@ public:
     void setIcon(int number) override;
     int icon() const override { return m_icon; }
 
-    // The template's default button.
-    bool isDefault() const { return hasStyle(style::defaultButton); }
     // Draws the button as the one that Enter presses.
     void showAsDefault(bool on);
 

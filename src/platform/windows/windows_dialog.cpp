@@ -234,19 +234,7 @@ Control& WindowsDialog::item(int controlId) {
 
 std::vector<ControlCore*> WindowsDialog::allControls() const {
     std::vector<ControlCore*> result;
-    bool pagesAdded = false;
-    const auto addPages = [&] {
-        for (const WindowsDialog* page : m_pages) {
-            const std::vector<ControlCore*> inner = page->allControls();
-            result.insert(result.end(), inner.begin(), inner.end());
-        }
-        pagesAdded = true;
-    };
-    for (const auto& control : m_controls) {
-        result.push_back(control.get());
-        if (control->kind() == ControlKind::tabControl && !pagesAdded) addPages();
-    }
-    if (!pagesAdded) addPages();
+    addInTabOrder(*this, result);
     return result;
 }
 

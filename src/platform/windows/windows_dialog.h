@@ -72,25 +72,24 @@ public:
     bool stands() const { return m_parent ? m_parent->stands() : m_running && m_shown; }
     // The window could be seen: its own flag and, for a page, the dialog's.
     bool reachable() const;
-    // Every control of this dialog and its pages, in Tab order: pages come behind the tab control.
+    const std::vector<std::unique_ptr<ControlCore>>& controls() const { return m_controls; }
+    const std::vector<WindowsDialog*>& pages() const { return m_pages; }
+    // Every control of this dialog and its pages, in Tab order.
     std::vector<ControlCore*> allControls() const;
+    FocusOrderOf<ControlCore> focusOrder() const { return {*this, allControls()}; }
     // The control whose window this is; null for other windows.
     ControlCore* controlOf(HWND window) const;
     // Messages that a control sent to its parent, whichever window that is. True = handled.
     bool reflect(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result);
     // An exception got as far as the system: the modal dialog ends with -1.
     void failed();
-    void press(Button& button);
     void addTooltip(ControlCore& control);
-    void clearRadioGroup(const ControlCore& member);
 
     // ---- focus, kept by the top-level dialog
     // A control's window has got the focus.
     void focusArrived(ControlCore& control);
     // Moves the focus without telling anybody; null = to no control.
     void moveFocusQuietly(ControlCore* control);
-    // The stop behind (or before) a control in Tab order, or null when there is no other.
-    ControlCore* nextStop(const ControlCore* from, bool backward) const;
     ControlCore* focusCore() const { return m_focus; }
 
 private:
@@ -130,16 +129,11 @@ private:
     Course courseOf(const MSG& message);
     KeyAnswer seenByHandlers(const KeyEvent& event);
     bool dialogKey(const KeyEvent& event);
-    bool radioKey(int key);
     void openContextMenu();
-    void pressEnter();
-    void pressCancel();
-    void stepFocus(bool backward);
+    bool perform(const FocusStep<ControlCore*>& step);
     void focusByUser(ControlCore* control);
     void showDefaultButton();
     WindowsButton* defaultButton() const;
-    std::vector<ControlCore*> radioGroup(const ControlCore& member) const;
-    bool isStop(const ControlCore& control) const;
 
     // ---- messages of the window (dialog_messages.cpp)
     bool handle(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result);
