@@ -84,6 +84,10 @@ TEST_F(DriverTest, FindsControlsAsAUserNamesThem) {
         }
         EXPECT_THROW(d.check("OK", true), DriverError);
         EXPECT_EQ(d.layoutFaults(), Texts{});
+        for (const char* line : {"button #23 Zamčeno disabled\n", "button #24 Vložit překlad\n",
+                                 "edit #10 Název =  focused\n", "button #41 Skryté hidden\n"}) {
+            EXPECT_NE(d.dump().find(line), std::string::npos) << line << " in " << d.dump();
+        }
         d.press("Zrušit");
     });
     EXPECT_EQ(run(), id::cancel);
@@ -161,7 +165,7 @@ TEST_F(DriverTest, FindsTextsThatAreCut) {
     constexpr ControlTemplate bad[] = {
         {ControlKind::label, 1, "Označení bubliny:"_cz, {5, 5, 40, 8}},
         {ControlKind::label, 2, "Popis:"_cz, {60, 5, 40, 6}},
-        {ControlKind::checkBox, 3, "Sklopený řez"_cz, {5, 20, 40, 10}},
+        {ControlKind::checkBox, 3, "Sklopený řez"_cz, {5, 20, 46, 10}},
         {ControlKind::radioButton, 4, "z náhledu"_cz, {60, 20, 30, 10}},
         {ControlKind::edit, 5, "", {5, 35, 40, 8}},
         {ControlKind::dropDownList, 6, "", {60, 35, 40, 12}},

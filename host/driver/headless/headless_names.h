@@ -1,5 +1,5 @@
-// Controls of the headless platform as a user sees them: which one a name means, what it is called,
-// what it looks like. Texts are UTF-8.
+// Controls of the headless platform as a user sees them, by the rules of control_look.h. Texts are
+// UTF-8.
 #pragma once
 
 #include <string>
@@ -11,13 +11,11 @@ namespace lx::host {
 
 // By the rules of ControlName; null when there is none.
 HeadlessControl* findControl(const HeadlessDialog& dialog, std::string_view name);
-// The label before an edit, list, box or picture, without its colon; "" when none stands there.
-std::string labelBefore(const HeadlessControl& control);
 // "#id" and what it is called, such as "#1 OK".
 std::string describeControl(const HeadlessControl& control);
 // The dialog's title, then one control a line.
 std::string dumpControls(const HeadlessDialog& dialog);
 // Controls that overlap, stick out of their dialog or cut their text; one a line.
-std::vector<std::string> findLayoutFaults(const HeadlessDialog& dialog);
+std::vector<std::string> layoutFaultsOf(const HeadlessDialog& dialog);
 
 }  // namespace lx::host

@@ -303,7 +303,7 @@ std::string HeadlessDriver::screenshot(const std::string& fileWithoutExtension) 
 }
 
 std::vector<std::string> HeadlessDriver::layoutFaults() {
-    return findLayoutFaults(dialog());
+    return layoutFaultsOf(dialog());
 }
 
 }  // namespace lx::host

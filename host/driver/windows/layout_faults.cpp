@@ -8,40 +8,22 @@ namespace lx::host {
 
 namespace {
 
-// What a button keeps free around its text, and what the mark of a box takes, in pixels.
-constexpr int buttonEdges = 6;
-constexpr int boxMark = 17;
-
-RECT screenArea(HWND window) {
-    RECT area{};
-    GetWindowRect(window, &area);
-    return area;
+ScreenArea portable(const RECT& area) {
+    return {static_cast<int>(area.left), static_cast<int>(area.top), static_cast<int>(area.right),
+            static_cast<int>(area.bottom)};
 }
 
-RECT screenClient(HWND window) {
+ScreenArea screenArea(HWND window) {
+    RECT area{};
+    GetWindowRect(window, &area);
+    return portable(area);
+}
+
+ScreenArea screenClient(HWND window) {
     RECT area{};
     GetClientRect(window, &area);
     MapWindowPoints(window, nullptr, reinterpret_cast<POINT*>(&area), 2);
-    return area;
-}
-
-std::string numbers(const RECT& area) {
-    return "(" + std::to_string(area.left) + " " + std::to_string(area.top) + " " +
-           std::to_string(area.right) + " " + std::to_string(area.bottom) + ")";
-}
-
-std::string named(HWND window) {
-    return kindName(kindOf(window)) + " " + describeControl(window) + " " +
-           numbers(screenArea(window));
-}
-
-// Group boxes and tab controls stand around others on purpose; a guest lies on its picture.
-bool mayOverlap(HWND a, HWND b) {
-    const auto frames = [](HWND window) {
-        const Kind kind = kindOf(window);
-        return kind == Kind::groupBox || kind == Kind::tabControl;
-    };
-    return frames(a) || frames(b) || IsChild(a, b) || IsChild(b, a);
+    return portable(area);
 }
 
 class TextMeasure {
@@ -79,21 +61,20 @@ bool tooLowForItsFont(HWND window) {
            client.bottom < TextMeasure(window).size("Á", client.right, DT_SINGLELINE).cy;
 }
 
-bool cutsItsText(HWND window) {
+// Empty when all of it is to be seen.
+std::string cutText(HWND window) {
     const Kind kind = kindOf(window);
     const LONG_PTR windowStyle = GetWindowLongPtrW(window, GWL_STYLE);
     RECT client{};
     GetClientRect(window, &client);
-    int width = client.right;
+    int width = client.right - besideText(kind);
     UINT flags = DT_SINGLELINE;
     if (kind == Kind::pushButton) {
         // Such a button shows an icon, its text is for the ear only.
         if ((windowStyle & BS_TYPEMASK) == BS_OWNERDRAW || (windowStyle & BS_ICON) != 0) {
-            return false;
+            return {};
         }
-        width -= buttonEdges;
     } else if (kind == Kind::checkBox || kind == Kind::radioButton) {
-        width -= boxMark;
         if ((windowStyle & BS_MULTILINE) != 0) flags = DT_WORDBREAK;
     } else if (kind == Kind::label) {
         const LONG_PTR type = windowStyle & SS_TYPEMASK;
@@ -101,16 +82,16 @@ bool cutsItsText(HWND window) {
         if ((windowStyle & SS_NOPREFIX) != 0) flags |= DT_NOPREFIX;
     } else if (kind == Kind::comboBox) {
         // A text that may be edited scrolls; here there is the button that opens the list.
-        if ((windowStyle & CBS_DROPDOWNLIST) != CBS_DROPDOWNLIST) return false;
-        width -= GetSystemMetrics(SM_CXVSCROLL) + buttonEdges;
+        if ((windowStyle & CBS_DROPDOWNLIST) != CBS_DROPDOWNLIST) return {};
+        width -= GetSystemMetrics(SM_CXVSCROLL);
         flags |= DT_NOPREFIX;
     } else if (kind != Kind::groupBox) {
-        return false;
+        return {};
     }
-    const std::string text = windowText(window);
-    if (text.empty()) return false;
+    std::string text = windowText(window);
     const SIZE needed = TextMeasure(window).size(text, width, flags);
-    return needed.cx > width || (kind != Kind::groupBox && needed.cy > client.bottom);
+    const bool cut = needed.cx > width || (kind != Kind::groupBox && needed.cy > client.bottom);
+    return cut ? text : std::string();
 }
 
 }  // namespace
@@ -120,28 +101,17 @@ std::vector<std::string> layoutFaultsOf(HWND dialog) {
     seen.erase(std::remove_if(seen.begin(), seen.end(),
                               [](HWND window) { return !IsWindowVisible(window); }),
                seen.end());
-    std::vector<std::string> faults;
-    for (std::size_t i = 0; i < seen.size(); ++i) {
-        const RECT area = screenArea(seen[i]);
-        const RECT room = screenClient(GetParent(seen[i]));
-        RECT common{};
-        if (!IntersectRect(&common, &area, &room) || !EqualRect(&common, &area)) {
-            faults.push_back(named(seen[i]) + " sticks out of " + numbers(room));
-        }
-        if (cutsItsText(seen[i])) {
-            faults.push_back(named(seen[i]) + " cuts its text \"" + windowText(seen[i]) + "\"");
-        }
-        if (tooLowForItsFont(seen[i])) {
-            faults.push_back(named(seen[i]) + " is too low for its font");
-        }
-        for (std::size_t k = i + 1; k < seen.size(); ++k) {
-            const RECT other = screenArea(seen[k]);
-            if (!mayOverlap(seen[i], seen[k]) && IntersectRect(&common, &area, &other)) {
-                faults.push_back(named(seen[i]) + " overlaps " + named(seen[k]));
-            }
-        }
+    std::vector<ControlPlace> shown;
+    for (const HWND window : seen) {
+        const HWND parent = GetParent(window);
+        ControlPlace place{describeControl(window), kindOf(window), screenArea(window),
+                           screenClient(parent), cutText(window)};
+        const auto host = std::find(seen.begin(), seen.end(), parent);
+        if (host != seen.end()) place.host = static_cast<int>(host - seen.begin());
+        place.low = tooLowForItsFont(window);
+        shown.push_back(std::move(place));
     }
-    return faults;
+    return findLayoutFaults(shown);
 }
 
 }  // namespace lx::host

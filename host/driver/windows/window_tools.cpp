@@ -54,21 +54,6 @@ Kind kindOfStatic(LONG_PTR windowStyle) {
     return type == SS_ICON || type == SS_BITMAP || type == SS_OWNERDRAW ? Kind::icon : Kind::label;
 }
 
-std::string withoutColon(std::string text) {
-    while (!text.empty() && (text.back() == ':' || text.back() == ' ')) text.pop_back();
-    return text;
-}
-
-bool isNamedByLabel(Kind kind) {
-    return kind == Kind::edit || kind == Kind::listBox || kind == Kind::comboBox ||
-           kind == Kind::listView || kind == Kind::picture;
-}
-
-bool isNamedByItsText(Kind kind) {
-    return kind == Kind::pushButton || kind == Kind::checkBox || kind == Kind::radioButton ||
-           kind == Kind::picture || kind == Kind::listBox || kind == Kind::listView;
-}
-
 void collect(HWND parent, std::vector<HWND>& found) {
     for (HWND child = GetWindow(parent, GW_CHILD); child != nullptr;
          child = GetWindow(child, GW_HWNDNEXT)) {
@@ -90,35 +75,35 @@ void collect(HWND parent, std::vector<HWND>& found) {
     }
 }
 
-bool matches(HWND window, std::string_view name, int criterion) {
-    const Kind kind = kindOf(window);
-    switch (criterion) {
-        case 0:
-            return name == "#" + std::to_string(GetDlgCtrlID(window));
-        case 1:
-            return isNamedByItsText(kind) && plainText(window) == name;
-        case 2:
-            return isNamedByLabel(kind) && !labelBefore(window).empty() &&
-                   labelBefore(window) == withoutColon(std::string(name));
-        case 3:
-            return !name.empty() && ask(window, DescribeQuestion::tooltip) == name;
-        default:
-            return kind == Kind::groupBox && plainText(window) == name;
-    }
-}
-constexpr int criteria = 5;
+class WindowLook final : public ControlLook {
+public:
+    explicit WindowLook(HWND window) : m_window(window) {}
 
-std::string describeState(HWND window) {
-    std::string state;
-    if (!IsWindowVisible(window)) state += " hidden";
-    if (!IsWindowEnabled(window)) state += " disabled";
-    const Kind kind = kindOf(window);
-    if ((kind == Kind::checkBox || kind == Kind::radioButton) &&
-        SendMessageW(window, BM_GETCHECK, 0, 0) == BST_CHECKED) {
-        state += " checked";
+    int id() const override { return GetDlgCtrlID(m_window); }
+    Kind kind() const override { return kindOf(m_window); }
+    bool shown() const override { return IsWindowVisible(m_window) != FALSE; }
+    bool enabled() const override { return IsWindowEnabled(m_window) != FALSE; }
+    bool checked() const override {
+        return (kind() == Kind::checkBox || kind() == Kind::radioButton) &&
+               SendMessageW(m_window, BM_GETCHECK, 0, 0) == BST_CHECKED;
     }
-    if (GetFocus() == window) state += " focused";
-    return state;
+    bool focused() const override { return GetFocus() == m_window; }
+    std::string text() const override { return windowText(m_window); }
+    std::string textBefore() const override {
+        const HWND before = GetWindow(m_window, GW_HWNDPREV);
+        return before != nullptr && kindOf(before) == Kind::label ? windowText(before)
+                                                                  : std::string();
+    }
+    std::string tooltip() const override { return ask(m_window, DescribeQuestion::tooltip); }
+
+private:
+    HWND m_window;
+};
+
+ControlLooks looksOf(const std::vector<HWND>& windows) {
+    ControlLooks looks;
+    for (const HWND window : windows) looks.push_back(std::make_unique<WindowLook>(window));
+    return looks;
 }
 
 }  // namespace
@@ -136,13 +121,6 @@ Kind kindOf(HWND window) {
     if (is(L"SysTabControl32")) return Kind::tabControl;
     if (is(L"#32770")) return Kind::dialog;
     return Kind::picture;
-}
-
-std::string kindName(Kind kind) {
-    static constexpr std::array<const char*, 13> names = {
-        "label",    "icon",      "group box", "button",      "check box", "radio button", "edit",
-        "list box", "combo box", "list view", "tab control", "dialog",    "picture"};
-    return names[static_cast<std::size_t>(kind)];
 }
 
 std::string quotedName(std::string_view text) {
@@ -208,45 +186,16 @@ bool isPushButton(HWND window) {
 
 HWND findControl(HWND dialog, std::string_view name) {
     const std::vector<HWND> all = controlsOf(dialog);
-    for (const bool visible : {true, false}) {
-        for (int criterion = 0; criterion < criteria; ++criterion) {
-            const auto found = std::find_if(all.begin(), all.end(), [&](HWND window) {
-                return (IsWindowVisible(window) != FALSE) == visible &&
-                       matches(window, name, criterion);
-            });
-            if (found != all.end()) return *found;
-        }
-    }
-    return nullptr;
-}
-
-std::string labelBefore(HWND control) {
-    const HWND before = GetWindow(control, GW_HWNDPREV);
-    if (before == nullptr || kindOf(before) != Kind::label) return {};
-    return withoutColon(plainText(before));
+    const std::size_t place = findNamed(looksOf(all), name);
+    return place < all.size() ? all[place] : nullptr;
 }
 
 std::string describeControl(HWND control) {
-    const Kind kind = kindOf(control);
-    std::string name;
-    if (isNamedByItsText(kind) || kind == Kind::groupBox || kind == Kind::label) {
-        name = plainText(control);
-    }
-    if (name.empty() && isNamedByLabel(kind)) name = labelBefore(control);
-    if (name.empty()) name = ask(control, DescribeQuestion::tooltip);
-    const std::string number = "#" + std::to_string(GetDlgCtrlID(control));
-    return name.empty() ? number : number + " " + name;
+    return describeControl(WindowLook(control));
 }
 
 std::string dumpControls(HWND dialog) {
-    std::string result = "\"" + windowText(dialog) + "\"";
-    for (const HWND window : controlsOf(dialog)) {
-        const Kind kind = kindOf(window);
-        result += "\n" + kindName(kind) + " " + describeControl(window);
-        if (kind == Kind::edit || kind == Kind::comboBox) result += " = " + windowText(window);
-        result += describeState(window);
-    }
-    return result;
+    return dumpControls(windowText(dialog), looksOf(controlsOf(dialog)));
 }
 
 }  // namespace lx::host

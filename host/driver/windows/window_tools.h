@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "host/driver/control_look.h"
 #include "platform/windows/describe_message.h"
 
 namespace lx::host {
@@ -15,23 +16,7 @@ namespace lx::host {
 std::wstring toWide(std::string_view utf8);
 std::string fromWide(std::wstring_view text);
 
-enum class Kind {
-    label,
-    icon,
-    groupBox,
-    pushButton,
-    checkBox,
-    radioButton,
-    edit,
-    listBox,
-    comboBox,
-    listView,
-    tabControl,
-    dialog,  // a dialog or one of its pages
-    picture  // anything else
-};
 Kind kindOf(HWND window);
-std::string kindName(Kind kind);
 
 std::string quotedName(std::string_view text);
 std::string windowText(HWND window);
@@ -52,8 +37,6 @@ bool isPushButton(HWND window);
 
 // By the rules of ControlName; null when there is none.
 HWND findControl(HWND dialog, std::string_view name);
-// The label before an edit, list or box, without its colon; "" when none stands there.
-std::string labelBefore(HWND control);
 // "#id" and what it is called, such as "#1 OK".
 std::string describeControl(HWND control);
 // One control a line, for messages.
