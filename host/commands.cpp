@@ -253,6 +253,8 @@ const std::vector<Command>& commands() {
          }},
         {"right-click", 2, 2, Where::inCall,
          [](C& c, const W& w) { c.driver.rightClickRow(w[0], wholeNumber(w[1])); }},
+        {"scroll", 2, 2, Where::inCall,
+         [](C& c, const W& w) { c.driver.scrollToRow(w[0], wholeNumber(w[1])); }},
         {"click-heading", 2, 2, Where::inCall,
          [](C& c, const W& w) { c.driver.clickHeading(w[0], w[1]); }},
         {"column-width", 3, 3, Where::inCall,

@@ -88,6 +88,8 @@ public:
     // Below the rows of a list with headings.
     virtual void doubleClickGround(ControlName list) = 0;
     virtual void rightClickRow(ControlName list, int row) = 0;
+    // As by the wheel, until the row is seen; what is selected stays so.
+    virtual void scrollToRow(ControlName list, int row) = 0;
     virtual void clickHeading(ControlName list, std::string_view heading) = 0;
     virtual void setColumnWidth(ControlName list, int column, int pixels) = 0;  // as if dragged
     virtual void setColumnOrder(ControlName list,

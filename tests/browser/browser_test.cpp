@@ -57,6 +57,31 @@ TEST_F(Browser, TheCallerSaysWhereItStarts) {
     }
 }
 
+// What is scrolled out comes back first: the entries are about the row where the menu opens.
+TEST_F(Browser, TheKeyboardsMenuIsAboutTheSelectedRowWhereverTheListIsScrolledTo) {
+    std::vector<CatalogueLine> lines;
+    for (int type = 1; type <= 99; ++type) lines.push_back({-type, "T" + formatInt(type)});
+    for (int item = 1; item <= 99; ++item) lines.push_back({1, "I" + formatInt(item)});
+    Session& user = bench.user();
+    std::vector<std::vector<std::string>> entries;
+    user.inDialog("Databáze prefabrikátů (T1)", [&](Driver& d) {
+        for (const char* list : {"types", "items"}) {
+            d.scrollToRow(list, 98);
+            d.focus(list);
+            user.then([&](Driver& menu) {
+                entries.push_back(menu.popup());
+                menu.closePopup();
+            });
+            d.key("Shift+F10");
+            EXPECT_EQ(d.selectedRows(list), std::vector<int>{0});
+        }
+        d.press("Zrušit");
+    });
+    EXPECT_EQ(open(catalogueOf(lines)), 2);
+    EXPECT_EQ(entries, (std::vector<std::vector<std::string>>{{"Nový", "Přejmenovat", "Vymazat"},
+                                                              {"Nový", "Upravit", "Vymazat"}}));
+}
+
 TEST_F(Browser, LeavingBeforeTheListsAreThereStoresNoColumns) {
     bool columns = false;
     bench.user().then([&columns](Driver& d) {

@@ -258,6 +258,14 @@ void HeadlessDriver::rightClickRow(ControlName list, int row) {
     });
 }
 
+void HeadlessDriver::scrollToRow(ControlName list, int row) {
+    HeadlessControl& found = control(list);
+    attempt(list, [&] {
+        if (auto* box = dynamic_cast<HeadlessListBox*>(&found)) return box->userScroll(row);
+        listView(list).userScroll(row);
+    });
+}
+
 void HeadlessDriver::clickHeading(ControlName list, std::string_view heading) {
     HeadlessListView& view = listView(list);
     const Text wanted = czech(heading);

@@ -34,6 +34,7 @@ public:
     void doubleClickRow(ControlName list, int row) override;
     void doubleClickGround(ControlName list) override;
     void rightClickRow(ControlName list, int row) override;
+    void scrollToRow(ControlName list, int row) override;
     void clickHeading(ControlName list, std::string_view heading) override;
     void setColumnWidth(ControlName list, int column, int pixels) override;
     void setColumnOrder(ControlName list, const std::vector<int>& order) override;

@@ -200,6 +200,13 @@ void WindowsDriver::rightClickRow(ControlName name, int row) {
     m_stepper->rest();
 }
 
+void WindowsDriver::scrollToRow(ControlName name, int row) {
+    const HWND window = reachable(name, "scroll");
+    list(name, row);
+    pointInRow(window, row);
+    m_stepper->rest();
+}
+
 void WindowsDriver::clickHeading(ControlName name, std::string_view heading) {
     const HWND window = listView(name);
     reachable(name, "click a heading of");

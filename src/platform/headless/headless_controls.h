@@ -239,6 +239,7 @@ public:
     void userDoubleClick(int row);
     // -1 = below the last row.
     void userRightClick(int row);
+    void userScroll(int row);
 
 protected:
     bool keyDown(const KeyEvent& event) override;
@@ -249,7 +250,8 @@ protected:
 private:
     int shownRows() const;
     void scrollTo(int row);
-    Point pointOf(int row);
+    // Of a row that is scrolled out it lies outside.
+    Point pointOf(int row) const;
     void choose(int row);
     void checkRow(int row) const;
 
@@ -332,6 +334,7 @@ public:
     // -1 = below the last row.
     void userDoubleClick(int row);
     void userRightClick(int row);
+    void userScroll(int row);
     void userHeading(int column);
     void userSetColumnWidth(int column, int pixels);
     void userSetColumnOrder(const std::vector<int>& order);
@@ -344,7 +347,8 @@ protected:
 private:
     int shownRows() const;
     void scrollTo(int row);
-    Point pointOf(int row);
+    // Of a row that is scrolled out it lies outside.
+    Point pointOf(int row) const;
     void checkRow(int row) const;
     bool hasColumn(int column) const { return column >= 0 && column < columnCount(); }
     void checkColumn(int column) const;

@@ -105,10 +105,14 @@ void HeadlessListBox::scrollTo(int row) {
     m_top = scrolled(m_top, row, shownRows());
 }
 
-Point HeadlessListBox::pointOf(int row) {
-    if (row < 0) row = count();
-    if (row < count()) scrollTo(row);
+Point HeadlessListBox::pointOf(int row) const {
     return {m_area.width() / 2, (row - m_top) * m_rowHeight + m_rowHeight / 2};
+}
+
+void HeadlessListBox::userScroll(int row) {
+    checkReachable("be scrolled");
+    checkRow(row);
+    scrollTo(row);
 }
 
 void HeadlessListBox::checkRow(int row) const {
@@ -139,8 +143,8 @@ void HeadlessListBox::userDoubleClick(int row) {
 
 void HeadlessListBox::userRightClick(int row) {
     checkReachable("be clicked");
-    if (row >= 0) checkRow(row);
-    callCopy(onContext, pointOf(row));
+    if (row >= 0) userScroll(row);
+    callCopy(onContext, pointOf(row >= 0 ? row : count()));
     settle();
 }
 
@@ -256,9 +260,13 @@ void HeadlessListView::scrollTo(int row) {
     m_top = scrolled(m_top, row, shownRows());
 }
 
-Point HeadlessListView::pointOf(int row) {
-    if (row < 0) row = m_count;
-    if (row < m_count) scrollTo(row);
+void HeadlessListView::userScroll(int row) {
+    checkReachable("be scrolled");
+    checkRow(row);
+    scrollTo(row);
+}
+
+Point HeadlessListView::pointOf(int row) const {
     const int x = m_columns.empty() ? 4 : std::max(0, m_columns[0].width / 2);
     return {x, headerHeight + (row - m_top) * rowHeight + rowHeight / 2};
 }
@@ -319,7 +327,7 @@ void HeadlessListView::userDoubleClick(int row) {
 
 void HeadlessListView::userRightClick(int row) {
     checkReachable("be clicked");
-    if (row >= 0) checkRow(row);
+    if (row >= 0) userScroll(row);
     clickFocus();
     if (m_dialog->root().running()) {
         if (row >= 0 && !m_rows.contains(row)) {
@@ -328,7 +336,7 @@ void HeadlessListView::userRightClick(int row) {
         } else if (row < 0) {
             choose({}, m_caret);
         }
-        if (m_dialog->root().running()) callCopy(onContext, pointOf(row));
+        if (m_dialog->root().running()) callCopy(onContext, pointOf(row >= 0 ? row : m_count));
     }
     settle();
 }
