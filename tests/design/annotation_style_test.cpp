@@ -40,7 +40,8 @@ TEST_F(StyleOnFile, TakesWhateverIsStored) {
     EXPECT_FALSE(stored("IF_POMLINE1", "yes").auxiliaryLine);
     // The buffers of the keys, one byte of each for the end.
     EXPECT_EQ(stored("HEIGHT1", Text(60, '1')).bubbleHeight.size(), 29U);
-    EXPECT_EQ(stored("COLOR1", Text(60, '0') + "5").bubbleColor, 0);
+    EXPECT_EQ(stored("COLOR1", Text(48, '0') + "5").bubbleColor, 5);
+    EXPECT_EQ(stored("COLOR2", Text(49, '0') + "5").descriptionColor, 0);
     EXPECT_EQ(stored("STYLE", Text(2000, 'S')).textStyle.size(), 1023U);
     EXPECT_EQ(stored("STYLE", "").textStyle, "");
 }
@@ -53,7 +54,7 @@ TEST(StyleRules, APolygonNeedsThreeEdgesWhetherItIsUsedOrNot) {
         return styleRefusal(style);
     };
     for (const bool used : {false, true}) {
-        for (const char* typed : {"3", "3.7", " 12x", "99999999999"}) {
+        for (const char* typed : {"3", "3.7", " 12x", "99999999999", "0000000000000000003"}) {
             EXPECT_EQ(refusal(typed, used), "") << typed;
         }
         for (const char* typed :
