@@ -29,7 +29,7 @@ RezChain designOf(std::int64_t layers) {
     };
     for (std::int64_t i = 0; i < layers; ++i) {
         if (i % 2 == 1) addBend(2 * width, i % 4 == 1 ? 50 : -50, false);
-        const std::int32_t kind = i % 5 == 4 ? kind::insulation : i % 5 == 2 ? kind::beam : 0;
+        const Kind kind = i % 5 == 4 ? Kind::insulation : i % 5 == 2 ? Kind::beam : Kind::precast;
         CRez& added = *design.append(layer(kind, width, "KPV 7/145"));
         added.height = 238;
         added.length = 1450;
@@ -74,7 +74,7 @@ void hugeLayout(benchmark::State& state) {
         bend->run = static_cast<std::int32_t>(random >> 22) - 512 + 140;
     }
     for (CRez* one = head.next; one; one = one->next) {
-        if (one->kind == kind::precast) one->kind = kind::monolith;
+        if (one->kind == Kind::precast) one->kind = Kind::monolith;
     }
     for (auto _ : state) {
         layOut(head);

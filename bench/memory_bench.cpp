@@ -98,7 +98,7 @@ void handOver(benchmark::State& state, const CRez* head, const Bytes& piece) {
 
 void handOverOfLayers(benchmark::State& state) {
     const RezChain design = sampleDesign();
-    handOver(state, design.head(), recordBytes(*layer(kind::precast, 1, ""), false));
+    handOver(state, design.head(), recordBytes(*layer(Kind::precast, 1, ""), false));
 }
 
 void handOverOfBends(benchmark::State& state) {

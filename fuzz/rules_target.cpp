@@ -17,7 +17,7 @@ void readRules(std::string_view input) {
     RezChain offer;
     std::vector<const CRez*> listed;
     for (const char letter : {' ', 'X', 'A', 'B', 'A'}) {
-        CRez* element = offer.append(layer(kind::precast, 70, "KPV 7"));
+        CRez* element = offer.append(layer(Kind::precast, 70, "KPV 7"));
         element->letter = letter;
         listed.push_back(element);
     }

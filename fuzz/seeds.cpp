@@ -39,8 +39,8 @@ Bytes projectFile() {
 
 RezChain sectionOfKinds() {
     RezChain design = sampleDesign("S");
-    for (const std::int32_t kind : {kind::beam, kind::insulation, kind::channel, kind::monolith,
-                                    kind::angleMirrored, kind::space}) {
+    for (const Kind kind : {Kind::beam, Kind::insulation, Kind::channel, Kind::monolith,
+                            Kind::angleMirrored, Kind::space}) {
         design.append(layer(kind, 40))->height = 120;
     }
     layOut(*design.head());

@@ -39,7 +39,7 @@ void repeat(RezChain& design, const CRez& element) {
 CRez* insulateFirstFace(RezChain& design, const CRez& chosen, std::int64_t room) {
     if (design.head()->next == nullptr || room < insulationFrom) return nullptr;
     auto insulation = std::make_unique<CRez>(chosen);
-    makeSpecial(*insulation, kind::insulation);
+    makeSpecial(*insulation, Kind::insulation);
     insulation->width = saturated(room);
     return design.insertAfter(design.head(), std::move(insulation));
 }
@@ -91,7 +91,7 @@ bool addByRule(RuleLayers& layers, char c, const CRez& x, const CRez& chosen,
     if (c == 'X') return layers.add(x) != nullptr;
     if (c == 'I' || c == 'M') {
         CRez* added = layers.add(chosen);
-        if (added) makeSpecial(*added, c == 'I' ? kind::insulation : kind::space);
+        if (added) makeSpecial(*added, c == 'I' ? Kind::insulation : Kind::space);
         return added != nullptr;
     }
     return std::all_of(listed.begin(), listed.end(), [&](const CRez* element) {
@@ -120,18 +120,9 @@ void followRule(RezChain& design, std::string_view rule, const CRez& chosen,
 
 // How deep the first section nests into insulation in front of it, mm; an open one is turned.
 std::int32_t turnTowardsInsulation(CRez& section) {
-    switch (section.kind) {
-        case kind::beam:
-            return section.width / 2;
-        case kind::angle:
-            section.kind = kind::angleMirrored;
-            return section.width;
-        case kind::channel:
-            section.kind = kind::channelMirrored;
-            return section.width;
-        default:
-            return 0;
-    }
+    const KindTraits& before = traits(section.kind);
+    if (before.opensBehind) section.kind = mirrored(section.kind);
+    return nested(before.underInsulation, section.width);
 }
 
 }  // namespace

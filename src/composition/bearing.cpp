@@ -5,8 +5,8 @@
 namespace lx {
 
 std::int32_t settledBearing(CRez& head) {
-    if (head.maxOpening == 0) head.maxOpening = defaultBearing;
-    return head.maxOpening;
+    if (head.headBearing() == 0) head.headBearing() = defaultBearing;
+    return head.headBearing();
 }
 
 std::int32_t lengthOver(std::int32_t opening, std::int32_t bearing) {

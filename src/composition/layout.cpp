@@ -14,21 +14,11 @@ namespace {
 // steel section and a section nests over insulation.
 std::int64_t nesting(const CRez& layer, const CRez* previous) {
     if (!previous) return 0;
-    switch (layer.kind) {
-        case kind::beam:
-            return previous->kind == kind::insulation ? layer.width / 2 : 0;
-        case kind::angleMirrored:
-        case kind::channelMirrored:
-            return previous->kind == kind::insulation ? layer.width : 0;
-        case kind::insulation:
-            if (previous->kind == kind::beam) return previous->width / 2;
-            if (previous->kind == kind::angle || previous->kind == kind::channel) {
-                return previous->width;
-            }
-            return 0;
-        default:
-            return 0;
+    if (layer.kind == Kind::insulation) {
+        return nested(traits(previous->kind).underInsulation, previous->width);
     }
+    if (previous->kind != Kind::insulation) return 0;
+    return nested(traits(layer.kind).overInsulation, layer.width);
 }
 
 // The head up to a bend, from the one before.
@@ -103,9 +93,9 @@ void placeLayers(CRez& head) {
     std::int64_t floor = 0;  // no catalogue element starts before it
     const CRez* previous = nullptr;
     for (CRez* layer = head.next; layer; layer = layer->next) {
-        if (layer->kind == kind::insulation && previous) floor = x;
+        if (layer->kind == Kind::insulation && previous) floor = x;
         x -= nesting(*layer, previous);
-        if (x < floor && layer->kind < kind::special) x = floor;
+        if (x < floor && traits(layer->kind).heldByFloor) x = floor;
         layer->offset = saturated(x);
         x += layer->width;
         previous = layer;
@@ -160,9 +150,8 @@ int LayerCount(const CRez& head) {
 
 Family DesignFamily(const CRez& head) {
     for (const CRez* layer = head.next; layer; layer = layer->next) {
-        if (layer->kind == kind::precast) return Family::precast;
-        if (isSteel(layer->kind)) return Family::steel;
-        if (layer->kind == kind::monolith) return Family::monolith;
+        const Family family = traits(layer->kind).family;
+        if (family != Family::none) return family;
     }
     return Family::none;
 }

@@ -19,8 +19,7 @@ std::vector<std::int32_t> levelsAbove(const CRez& head);
 std::int32_t freeSpace(const CRez& head);
 int LayerCount(const CRez& head);
 
-// 0 = no catalogue or cast layer; else by the first such layer: precast, steel or cast.
-enum class Family { none = 0, precast = 1, steel = 2, monolith = 3 };
+// By the first layer that is of one; insulation and spaces are of none.
 Family DesignFamily(const CRez& head);
 
 }  // namespace lx

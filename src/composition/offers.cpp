@@ -82,7 +82,7 @@ unsigned char lowerAt(std::string_view text, std::size_t position) {
 }  // namespace
 
 std::unique_ptr<CRez> offerRecord(const CPreklItem& item, std::int32_t type, std::int32_t itemIndex,
-                                  std::int32_t kind) {
+                                  Kind kind) {
     auto record = std::make_unique<CRez>(type, itemIndex);
     record->width = item.width;
     record->height = item.height;
@@ -105,7 +105,7 @@ RezChain BuildPrecastOffer(const CPreklItem* catalogue, std::int32_t type, doubl
         if (!belongsTo(*item, type)) continue;
         const std::int32_t index = itemIndex++;
         if (!spans(*item, openingWidth)) continue;
-        Candidate candidate{offerRecord(*item, type, index, kind::precast)};
+        Candidate candidate{offerRecord(*item, type, index, Kind::precast)};
         if (item->length < 0) {
             candidate.record->bearing = saturated(-std::int64_t{item->length});
             candidate.record->length = lengthOver(headLength, candidate.record->bearing);
@@ -124,7 +124,7 @@ void addPicked(RezChain& offer, const std::vector<const CPreklItem*>& picked) {
         known.insert(identity(*record));
     }
     for (const CPreklItem* item : picked) {
-        auto record = offerRecord(*item, 0, 0, kind::precast);
+        auto record = offerRecord(*item, 0, 0, Kind::precast);
         if (known.insert(identity(*record)).second) offer.append(std::move(record));
     }
 }
@@ -134,12 +134,12 @@ RezChain BuildSteelOffer(const CPreklItem* catalogue, std::int32_t type, std::in
     const std::int32_t length =
         lengthOver(headLength, headBearing != 0 ? headBearing : defaultBearing);
     std::vector<Candidate> candidates;
-    std::int32_t shape = 0;
+    Kind shape = Kind::precast;
     std::int32_t itemIndex = 0;
     for (const CPreklItem* item = catalogue; item; item = item->next.get()) {
         // A shape below 0 comes from a damaged catalogue; as a kind it could make a layer a head.
         if (item->group == -std::int64_t{type} - 1 && type >= 0) {
-            shape = std::max(item->length, 0);
+            shape = Kind{std::max(item->length, 0)};
         }
         if (!belongsTo(*item, type)) continue;
         Candidate candidate{offerRecord(*item, type, itemIndex++, shape)};

@@ -16,12 +16,12 @@ RezChain BuildPrecastOffer(const CPreklItem* catalogue, std::int32_t type, doubl
 // Appends the picked items to a precast offer, each as it stands in the catalogue; those that the
 // offer holds already, the same in all but the letter case of the designation, are left out.
 void addPicked(RezChain& offer, const std::vector<const CPreklItem*>& picked);
-// headBearing: the head's maxOpening; 0 gives opening + 300.
+// headBearing: the head's; 0 gives opening + 300.
 RezChain BuildSteelOffer(const CPreklItem* catalogue, std::int32_t type, std::int32_t headLength,
                          std::int32_t headBearing);
 // The record that a catalogue item becomes, its length not yet following the opening.
 std::unique_ptr<CRez> offerRecord(const CPreklItem& item, std::int32_t type, std::int32_t itemIndex,
-                                  std::int32_t kind);
+                                  Kind kind);
 
 // Order of the precast list: without regard to letter case, runs of digits by value (750 before
 // 1000).

@@ -7,28 +7,10 @@
 #include <memory>
 #include <optional>
 
+#include "composition/kind.h"
 #include "platform/text.h"
 
 namespace lx {
-
-// Kinds of a record. 1 to 99 are steel shapes by number; 52 and 53 are 2 and 3 mirrored.
-namespace kind {
-inline constexpr std::int32_t head = -1;
-inline constexpr std::int32_t precast = 0;
-inline constexpr std::int32_t beam = 1;
-inline constexpr std::int32_t angle = 2;
-inline constexpr std::int32_t channel = 3;
-inline constexpr std::int32_t angleMirrored = 52;
-inline constexpr std::int32_t channelMirrored = 53;
-inline constexpr std::int32_t special = 100;  // from here up: layers that no catalogue holds
-inline constexpr std::int32_t insulation = 101;
-inline constexpr std::int32_t space = 102;
-inline constexpr std::int32_t monolith = 103;
-}  // namespace kind
-
-constexpr bool isSteel(std::int32_t k) {
-    return k >= 1 && k <= 99;
-}
 
 // A step of the lintel head across the wall. Owns the bends behind it; destroyed without recursion.
 class CZalom {
@@ -57,13 +39,19 @@ public:
     CRez& operator=(const CRez&) = delete;
     virtual ~CRez() = default;
 
-    bool isHead() const { return kind == kind::head; }
+    bool isHead() const { return kind == Kind::head; }
     // Appends a bend behind the last one.
     void addBend(std::int32_t run, std::int32_t step, bool flag);
     // The head's bubble label lies in the bytes of itemIndex. setLabel takes the first 3 bytes of
     // the text and fills the rest with zeros.
     Text label() const;
     void setLabel(std::string_view text);
+    // The head's bearing length, mm, lies in maxOpening, and the index of its project in level. A
+    // bearing of 0 stands for the default.
+    std::int32_t headBearing() const { return maxOpening; }
+    std::int32_t& headBearing() { return maxOpening; }
+    std::int32_t project() const { return level; }
+    void setProject(std::int32_t index) { level = index; }
     // name, or an empty text where there is none
     std::string_view nameOrEmpty() const {
         if (!name) return {};
@@ -77,10 +65,10 @@ public:
     std::int32_t height = 0;      // mm; head: level of the lintel
     std::int32_t length = 0;      // mm; head: opening width
     std::int32_t weight = 0;      // catalogue weight x 1000
-    std::int32_t maxOpening = 0;  // mm; head: bearing length of steel sections, 0 = 150
+    std::int32_t maxOpening = 0;  // mm; head: its bearing
     std::int32_t offset = 0;      // mm from the first wall face, by layOut
-    std::int32_t level = 0;       // mm, by layOut; head: index of the project
-    std::int32_t kind = 0;
+    std::int32_t level = 0;       // mm, by layOut; head: the project
+    Kind kind = Kind::precast;
     std::optional<Text> name;       // layers; none where a catalogue item has no designation
     std::unique_ptr<CZalom> bends;  // head
     char letter = ' ';              // composition letter

@@ -1,17 +1,10 @@
 #include "composition/special_layers.h"
 
-#include "resources/strings.h"
-
 namespace lx {
 
-std::string_view specialName(std::int32_t kind) {
-    if (kind == kind::insulation) return text::insulation;
-    return kind == kind::space ? text::space : text::monolith;
-}
-
-void makeSpecial(CRez& layer, std::int32_t kind) {
+void makeSpecial(CRez& layer, Kind kind) {
     layer.kind = kind;
-    layer.name = Text(specialName(kind));
+    layer.name = Text(traits(kind).name);
 }
 
 }  // namespace lx

@@ -41,10 +41,10 @@ bool readRecord(CRez& record, BinaryReader& reader, bool isHead) {
     record.maxOpening = reader.int32();
     record.offset = reader.int32();
     record.level = reader.int32();
-    record.kind = reader.int32();
+    record.kind = Kind{reader.int32()};
     record.bearing = reader.int32();
     if (isHead) {
-        record.kind = kind::head;
+        record.kind = Kind::head;
         readBends(record, reader);
     } else {
         record.name = Text(reader.zeroTerminated().substr(0, storedNameLimit));
@@ -67,7 +67,7 @@ void writeRecord(const CRez& record, BinaryWriter& writer, bool isHead) {
     writer.int32(record.maxOpening);
     writer.int32(record.offset);
     writer.int32(record.level);
-    writer.int32(record.kind);
+    writer.int32(code(record.kind));
     writer.int32(record.bearing);
     if (isHead) {
         writeBends(record.bends.get(), writer);

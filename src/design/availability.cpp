@@ -12,12 +12,9 @@ constexpr std::int32_t spaceFrom = 10;
 }  // namespace
 
 std::int64_t insulationRoom(const CRez& head, const CRez* current) {
-    std::int64_t room = freeSpace(head);
-    if (current != nullptr && current->kind == kind::beam) room += current->width / 2;
-    if (current != nullptr && (current->kind == kind::angle || current->kind == kind::channel)) {
-        room += current->width;
-    }
-    return room;
+    const std::int64_t room = freeSpace(head);
+    if (current == nullptr) return room;
+    return room + nested(traits(current->kind).underInsulation, current->width);
 }
 
 Availability availability(const CRez* head, const CRez* current, const CRez* precast,

@@ -13,8 +13,9 @@ std::optional<CatalogueElement> elementOf(const CRez* record, CatalogueKind kind
 }
 
 CatalogueKind kindOf(const CRez& record, CatalogueKind otherwise) {
-    if (record.kind == kind::precast) return CatalogueKind::precast;
-    return isSteel(record.kind) ? CatalogueKind::steel : otherwise;
+    const Family family = traits(record.kind).family;
+    if (family == Family::precast) return CatalogueKind::precast;
+    return family == Family::steel ? CatalogueKind::steel : otherwise;
 }
 
 }  // namespace

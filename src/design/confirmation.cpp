@@ -23,7 +23,7 @@ ConfirmationAnswer confirmDesign(const ConfirmationInput& input, DesignModel& mo
 
     if (CRez* head = model.head()) {
         head->setLabel(input.bubbleName);
-        head->level = library.projects().selected;
+        head->setProject(library.projects().selected);
     }
     if (library.available()) {
         const StoreAnswer stored = library.StoreDesign(model, input.bubbleName);

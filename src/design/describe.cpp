@@ -27,7 +27,7 @@ private:
 };
 
 void addRecord(Lines& lines, int index, const CRez& record) {
-    const std::pair<std::string_view, std::int32_t> fields[] = {{"kind", record.kind},
+    const std::pair<std::string_view, std::int32_t> fields[] = {{"kind", code(record.kind)},
                                                                 {"bearing", record.bearing},
                                                                 {"typeIndex", record.typeIndex},
                                                                 {"itemIndex", record.itemIndex},

@@ -33,13 +33,17 @@ std::int64_t lowestLevel(const CZalom* bends) {
 // One line of the summary, without its count. A cast part reaches down to the lowest point of the
 // head, that far below the head over it, mm.
 Text layerLabel(const CRez& layer, std::int64_t downToLowest) {
-    Text label = shownDesignation(layer);
-    if (layer.kind == kind::insulation) {
-        label += sizeSuffix(layer.width, layer.height, layer.length);
-    } else if (isSteel(layer.kind)) {
-        label += fillIn(lengthFormat, {formatInt(layer.length)});
-    } else if (layer.kind == kind::monolith) {
-        label += sizeSuffix(layer.width, layer.height + downToLowest, layer.length);
+    const Text label = shownDesignation(layer);
+    switch (traits(layer.kind).summary) {
+        case Summary::size:
+            return label + sizeSuffix(layer.width, layer.height, layer.length);
+        case Summary::sizeToLowest:
+            return label + sizeSuffix(layer.width, layer.height + downToLowest, layer.length);
+        case Summary::length:
+            return label + fillIn(lengthFormat, {formatInt(layer.length)});
+        case Summary::designation:
+        case Summary::leftOut:
+            break;
     }
     return label;
 }
@@ -63,7 +67,7 @@ Text descriptionSummary(const CRez& head) {
     };
     for (const CRez* layer = head.next; layer != nullptr; layer = layer->next) {
         const std::int64_t downToLowest = *level++ - lowest;
-        if (layer->kind == kind::space) continue;
+        if (traits(layer->kind).summary == Summary::leftOut) continue;
         Text label = layerLabel(*layer, downToLowest);
         if (count > 0 && label == group) {
             ++count;

@@ -18,11 +18,11 @@ namespace lx {
 
 namespace {
 
-std::optional<int> lastType(const CRez* head, bool (*wanted)(std::int32_t kind)) {
+std::optional<int> lastType(const CRez* head, Family family) {
     std::optional<int> type;
     const CRez* layer = head != nullptr ? head->next : nullptr;
     for (; layer != nullptr; layer = layer->next) {
-        if (wanted(layer->kind)) type = layer->typeIndex;
+        if (traits(layer->kind).family == family) type = layer->typeIndex;
     }
     return type;
 }
@@ -111,18 +111,18 @@ void DesignModel::rebuildPrecastOffer(int type, const std::vector<const CPreklIt
 }
 
 void DesignModel::rebuildSteelOffer(int type) {
-    const std::int32_t bearing = head() ? head()->maxOpening : 0;
+    const std::int32_t bearing = head() ? head()->headBearing() : 0;
     m_steelOffer = type < 0
                        ? Offer()
                        : Offer(BuildSteelOffer(m_values.steel.get(), type, headLength(), bearing));
 }
 
 std::optional<int> DesignModel::precastTypeUsed() const {
-    return lastType(head(), [](std::int32_t kind) { return kind == kind::precast; });
+    return lastType(head(), Family::precast);
 }
 
 std::optional<int> DesignModel::steelTypeUsed() const {
-    return lastType(head(), isSteel);
+    return lastType(head(), Family::steel);
 }
 
 Availability DesignModel::available() const {

@@ -28,10 +28,10 @@ std::int32_t* valueOf(const RezChain& design, const EditTarget& target) {
             return &record->height;
         case EditField::length:
             return &record->length;
-        case EditField::maxOpening:
-            return &record->maxOpening;
+        case EditField::headBearing:
+            return &record->headBearing();
         case EditField::kind:
-            return &record->kind;
+            return nullptr;
         case EditField::bendRun:
         case EditField::bendStep:
             break;

@@ -1,12 +1,12 @@
-// A value of the design that can be typed over in a preview, named by its record rather than by an
-// address, so that a name whose record is gone is noticed.
+// A value of the design that can be typed over in a preview, or changed there by a button, named by
+// its record rather than by an address, so that a name whose record is gone is noticed.
 #pragma once
 
 #include "composition/records.h"
 
 namespace lx {
 
-enum class EditField { width, height, length, maxOpening, kind, bendRun, bendStep };
+enum class EditField { width, height, length, headBearing, kind, bendRun, bendStep };
 
 struct EditTarget {
     const CRez* record = nullptr;  // compared, never followed
@@ -15,7 +15,8 @@ struct EditTarget {
     bool operator==(const EditTarget&) const = default;
 };
 
-// The value; null when the record is no longer in the chain, or has no such bend.
+// The number; null when the record is no longer in the chain, or has no such bend, and for the
+// kind.
 std::int32_t* valueOf(const RezChain& design, const EditTarget& target);
 // The record; null when it is no longer in the chain.
 CRez* recordOf(const RezChain& design, const EditTarget& target);

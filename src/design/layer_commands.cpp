@@ -36,7 +36,7 @@ CRez& insertElement(DesignEdit design, const CRez& element) {
 }
 
 // A new layer behind the current record: a copy of it, or of nothing behind the head.
-CRez& insertSpecial(DesignEdit design, std::int32_t kind, std::int32_t width) {
+CRez& insertSpecial(DesignEdit design, Kind kind, std::int32_t width) {
     const CRez& current = *design.current;
     auto layer = current.isHead() ? std::make_unique<CRez>() : std::make_unique<CRez>(current);
     makeSpecial(*layer, kind);
@@ -87,7 +87,7 @@ CommandAnswer addInsulation(DesignEdit design) {
     const std::int32_t total = lengthOver(head.length, settledBearing(head));
 
     const bool behindHead = design.current->isHead();
-    CRez& layer = insertSpecial(design, kind::insulation, free);
+    CRez& layer = insertSpecial(design, Kind::insulation, free);
     if (behindHead) {
         layer.height = insulationHeight;
         layer.length = total;
@@ -100,7 +100,7 @@ CommandAnswer addSpace(DesignEdit design) {
     if (!layerIsCurrent) return CommandAnswer::nothing;
     const std::int32_t free = freeSpace(*design.chain.head());
     if (free < spaceFrom) return CommandAnswer::nothing;
-    insertSpecial(design, kind::space, free).height = spaceHeight;
+    insertSpecial(design, Kind::space, free).height = spaceHeight;
     return CommandAnswer::done;
 }
 
@@ -113,7 +113,7 @@ CommandAnswer addSteelInsulation(DesignEdit design) {
     const std::int32_t total = lengthOver(head.length, settledBearing(head));
 
     const bool behindHead = design.current->isHead();
-    CRez& layer = insertSpecial(design, kind::insulation, saturated(room));
+    CRez& layer = insertSpecial(design, Kind::insulation, saturated(room));
     if (behindHead) layer.height = insulationHeight;
     layer.length = total;
     return CommandAnswer::done;
@@ -124,10 +124,10 @@ CommandAnswer addMonolith(DesignEdit design) {
     CRez& head = *design.chain.head();
     const std::int32_t free = freeSpace(head);
     if (free < monolithFrom) return CommandAnswer::nothing;
-    if (head.maxOpening < leastCastBearing) head.maxOpening = defaultBearing;
-    CRez& layer = insertSpecial(design, kind::monolith, free);
+    if (head.headBearing() < leastCastBearing) head.headBearing() = defaultBearing;
+    CRez& layer = insertSpecial(design, Kind::monolith, free);
     layer.height = monolithHeight;
-    layer.length = lengthOver(head.length, head.maxOpening);
+    layer.length = lengthOver(head.length, head.headBearing());
     return CommandAnswer::done;
 }
 
@@ -135,7 +135,7 @@ CommandAnswer insertInsulation(DesignEdit design) {
     if (!design.chain.contains(design.current)) return CommandAnswer::nothing;
     const CRez& current = *design.current;
     auto layer = std::make_unique<CRez>();
-    makeSpecial(*layer, kind::insulation);
+    makeSpecial(*layer, Kind::insulation);
     layer->width = thinInsulationWidth;
     layer->length = current.length;
     layer->height = current.height;

@@ -42,7 +42,7 @@ std::int32_t shownBearing(std::int32_t length, double openingWidth) {
 
 std::unique_ptr<CRez> headFromCall(double openingWidth, double wallThickness, double level) {
     auto head = std::make_unique<CRez>();
-    head->kind = kind::head;
+    head->kind = Kind::head;
     head->width = wholeMillimetres(wallThickness);
     head->height = truncateToInt(level * 1000.0);
     head->length = wholeMillimetres(openingWidth);

@@ -5,15 +5,15 @@
 namespace lx {
 
 void settleOverhang(CRez& head, double openingWidth) {
-    head.maxOpening = 0;
+    head.headBearing() = 0;
     if (head.next == nullptr) return;
     const std::int64_t bothEnds = head.next->length - shownOpeningSize(openingWidth);
-    head.maxOpening = static_cast<std::int32_t>(bothEnds / 2);
+    head.headBearing() = static_cast<std::int32_t>(bothEnds / 2);
 }
 
 bool overhangEditable(const CRez& head) {
     for (const CRez* record = &head; record != nullptr; record = record->next) {
-        if (record->kind == kind::precast && record->bearing == 0) return false;
+        if (record->kind == Kind::precast && record->bearing == 0) return false;
     }
     return true;
 }

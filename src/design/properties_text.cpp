@@ -16,8 +16,7 @@ bool isCapital(char c) {
 Text filled(std::string_view designation, const CRez& element, double openingWidth,
             bool mayShowLetter) {
     const Text length = formatInt(element.length);
-    const std::string_view sizeWord =
-        element.kind == kind::insulation ? text::thickness : text::width;
+    const std::string_view sizeWord = traits(element.kind).widthWord;
     const Text width = formatInt(element.width);
     const Text height = formatInt(element.height);
     const Text bearing = formatInt(shownBearing(element.length, openingWidth));

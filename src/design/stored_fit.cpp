@@ -1,7 +1,5 @@
 #include "design/stored_fit.h"
 
-#include "composition/special_layers.h"
-
 namespace lx {
 
 namespace {
@@ -14,8 +12,8 @@ bool suitsOpening(const CRez& head, double openingWidth) {
     const CRez* bearing = nullptr;
     for (const CRez* layer = head.next; layer != nullptr; layer = layer->next) {
         const std::string_view name = layer->nameOrEmpty();
-        if (name == specialName(kind::monolith)) return true;
-        if (bearing == nullptr && name != specialName(kind::insulation)) bearing = layer;
+        if (name == traits(Kind::monolith).name) return true;
+        if (bearing == nullptr && name != traits(Kind::insulation).name) bearing = layer;
     }
     if (bearing == nullptr || bearing->maxOpening == 0) return true;
     return openingWidth - tolerance <= bearing->maxOpening;

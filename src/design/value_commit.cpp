@@ -34,11 +34,11 @@ std::int32_t neededBearing(const CRez& head, std::int32_t typed) {
 
 // The lengths that follow the opening.
 void setBearing(CRez& head, std::int32_t typed, double openingWidth) {
-    head.maxOpening = neededBearing(head, typed);
+    head.headBearing() = neededBearing(head, typed);
     const double opening = std::abs(openingWidth);
-    const std::int32_t length = truncateToInt(opening + 2.0 * head.maxOpening);
+    const std::int32_t length = truncateToInt(opening + 2.0 * head.headBearing());
     for (CRez* layer = head.next; layer != nullptr; layer = layer->next) {
-        if (layer->kind > 0 || layer->bearing != 0) layer->length = length;
+        if (traits(layer->kind).followsBearing || layer->bearing != 0) layer->length = length;
     }
     head.length = truncateToInt(opening);
 }
@@ -91,7 +91,7 @@ CommitAnswer commitValue(DesignEdit design, const ValueEdit& edit, std::string_v
     CommitAnswer answer;
     answer.changed = true;
     if (value == &head.length) answer.precastOffer = answer.steelOffer = true;
-    if (value == &head.maxOpening) {
+    if (value == &head.headBearing()) {
         setBearing(head, number, openingWidth);
         answer.steelOffer = true;
     }

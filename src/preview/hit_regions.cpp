@@ -20,7 +20,7 @@ Text nameOfValue(const EditTarget& target) {
             return "run " + formatInt(target.bend + 1);
         case EditField::bendStep:
             return "step " + formatInt(target.bend + 1);
-        case EditField::maxOpening:
+        case EditField::headBearing:
             return "overhang";
         case EditField::length:
         case EditField::kind:

@@ -86,8 +86,8 @@ void drawFoldedHead(PlanSheet& sheet, const CRez& head) {
 void drawDimensionLine(PlanSheet& sheet, const CRez& head) {
     const int left = sheet.jamb.x;
     const int right = sheet.alongX(static_cast<double>(sheet.opening));
-    const int end = sheet.alongX(-static_cast<double>(head.maxOpening));
-    const int farther = head.maxOpening > 0 ? end : left;
+    const int end = sheet.alongX(-static_cast<double>(head.headBearing()));
+    const int farther = head.headBearing() > 0 ? end : left;
     const int y = sheet.client.height - dimensionLine;
     const auto drawExtension = [&](int x) {
         sheet.line({{x, sheet.client.height - extensionTop}, {x, y + halfTick}});
@@ -99,7 +99,7 @@ void drawDimensionLine(PlanSheet& sheet, const CRez& head) {
     sheet.line({{farther - halfTick, y}, {right + halfTick, y}});
     sheet.tick({left, y});
     sheet.tick({right, y});
-    if (head.maxOpening > 0) sheet.tick({end, y});
+    if (head.headBearing() > 0) sheet.tick({end, y});
 }
 
 void drawOpening(PlanSheet& sheet) {
@@ -110,13 +110,13 @@ void drawOpening(PlanSheet& sheet) {
 }
 
 void drawOverhang(PlanSheet& sheet, const CRez& head) {
-    if (head.maxOpening == 0) return;
-    const Text text = formatInt(head.maxOpening);
+    if (head.headBearing() == 0) return;
+    const Text text = formatInt(head.headBearing());
     const Size size = sheet.canvas.measure(text);
     const Point p{sheet.jamb.x - size.width, sheet.client.height - overhangText};
     sheet.canvas.drawText(p, text);
     if (!sheet.overhangEditable) return;
-    sheet.addRegion(true, region::number, {&head, EditField::maxOpening}, p, size);
+    sheet.addRegion(true, region::number, {&head, EditField::headBearing}, p, size);
 }
 
 }  // namespace

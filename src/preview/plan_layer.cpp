@@ -17,15 +17,16 @@ public:
 private:
     void drawStrip(PenStyle style);
     void drawAxis(double across);
-    void drawShape();
+    void drawProfile();
     void drawFlange(std::int64_t level);
-    void drawWeb(double across);
-    void drawElement();
+    double web() const;
+    void drawBlock();
     void drawInsulation();
     Point lower(std::int64_t level, double across) const;
 
     PlanSheet& m_sheet;
     const CRez& m_layer;
+    const KindTraits& m_traits;
     Color m_color;
     double m_half;  // of the length; all in mm
     double m_near;  // edges across the wall
@@ -38,6 +39,7 @@ private:
 PlanLayer::PlanLayer(PlanSheet& sheet, const CRez& layer, bool current)
     : m_sheet(sheet),
       m_layer(layer),
+      m_traits(traits(layer.kind)),
       m_color(current ? currentColor : layerColor),
       m_half(layer.length / 2.0),
       m_near(layer.offset),
@@ -47,21 +49,15 @@ PlanLayer::PlanLayer(PlanSheet& sheet, const CRez& layer, bool current)
       m_top(std::int64_t{layer.level} + layer.height) {}
 
 void PlanLayer::drawAlong() {
-    switch (m_layer.kind) {
-        case kind::beam:
-            return drawAxis(m_middle);
-        case kind::angle:
-        case kind::channel:
-            return drawAxis(m_near);
-        case kind::angleMirrored:
-        case kind::channelMirrored:
-            return drawAxis(m_far);
-        case kind::insulation:
-        case kind::space:
+    switch (m_traits.symbol) {
+        case Symbol::profile:
+            return drawAxis(web());
+        case Symbol::insulation:
+        case Symbol::space:
             return;
-        case kind::monolith:
+        case Symbol::cast:
             return drawStrip(PenStyle::dash);
-        default:
+        case Symbol::block:
             return drawStrip(PenStyle::dashDotDot);
     }
 }
@@ -79,50 +75,39 @@ void PlanLayer::drawAxis(double across) {
 }
 
 void PlanLayer::drawFolded() {
-    const bool thin = m_layer.kind == kind::insulation || m_layer.kind == kind::monolith;
-    m_sheet.canvas.setPen({m_color, thin ? fine : wide});
-    switch (m_layer.kind) {
-        case kind::insulation:
+    m_sheet.canvas.setPen({m_color, hasFinePen(m_traits.symbol) ? fine : wide});
+    switch (m_traits.symbol) {
+        case Symbol::profile:
+            return drawProfile();
+        case Symbol::insulation:
             return drawInsulation();
-        case kind::space:
+        case Symbol::space:
             return;
-        case kind::monolith:
+        case Symbol::cast:
             return m_sheet.line({lower(m_top, m_far), m_sheet.folded(m_top, m_near)});
-        default:
-            return drawShape();
+        case Symbol::block:
+            return drawBlock();
     }
 }
 
 // Levels point to the left, so flanges stand upright on the screen and webs lie.
-void PlanLayer::drawShape() {
-    switch (m_layer.kind) {
-        case kind::beam:
-            drawFlange(m_bottom);
-            drawFlange(m_top);
-            return drawWeb(m_middle);
-        case kind::angle:
-        case kind::angleMirrored:
-            drawFlange(m_bottom);
-            return drawWeb(m_layer.kind == kind::angle ? m_near : m_far);
-        case kind::channel:
-        case kind::channelMirrored:
-            drawFlange(m_bottom);
-            drawFlange(m_top);
-            return drawWeb(m_layer.kind == kind::channel ? m_near : m_far);
-        default:
-            return drawElement();
-    }
+void PlanLayer::drawProfile() {
+    drawFlange(m_bottom);
+    if (m_traits.topFlange) drawFlange(m_top);
+    m_sheet.line({m_sheet.folded(m_top, web()), m_sheet.folded(m_bottom, web())});
 }
 
 void PlanLayer::drawFlange(std::int64_t level) {
     m_sheet.line({m_sheet.folded(level, m_near), m_sheet.folded(level, m_far)});
 }
 
-void PlanLayer::drawWeb(double across) {
-    m_sheet.line({m_sheet.folded(m_top, across), m_sheet.folded(m_bottom, across)});
+// Where it stands across the wall, mm.
+double PlanLayer::web() const {
+    if (m_traits.web == Web::middle) return m_middle;
+    return m_traits.web == Web::nearEdge ? m_near : m_far;
 }
 
-void PlanLayer::drawElement() {
+void PlanLayer::drawBlock() {
     m_sheet.line({m_sheet.folded(m_bottom, m_near), lower(m_bottom, m_far), lower(m_top, m_far),
                   m_sheet.folded(m_top, m_near), m_sheet.folded(m_bottom, m_near)});
 }

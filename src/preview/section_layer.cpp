@@ -34,70 +34,64 @@ public:
     void drawValues();
 
 private:
-    void drawShape(std::int32_t shape);
+    void drawProfile();
+    void drawBlock();
     void drawInsulation();
     int drawValue(int y, std::string_view word, std::int32_t value, int kind, EditField field);
 
     SectionSheet& m_sheet;
     const CRez& m_layer;
+    const KindTraits& m_traits;
     Color m_color;
-    Rect m_area;  // the layer's four edges; a negative size turns them about
+    Rect m_area;    // the layer's four edges; a negative size turns them about
+    Rect m_inside;  // the lines of profiles and blocks lie a little inside
     Point m_middle;
 };
 
 LayerDrawing::LayerDrawing(SectionSheet& sheet, const CRez& layer, bool current)
-    : m_sheet(sheet), m_layer(layer), m_color(current ? currentColor : layerColor) {
+    : m_sheet(sheet),
+      m_layer(layer),
+      m_traits(traits(layer.kind)),
+      m_color(current ? currentColor : layerColor) {
     const std::int64_t left = layer.offset;
     const std::int64_t bottom = layer.level;
     m_area = {sheet.x(left), sheet.y(bottom + layer.height), sheet.x(left + layer.width),
               sheet.y(bottom)};
+    m_inside = {m_area.left + inset, m_area.top + inset, m_area.right - inset,
+                m_area.bottom - inset};
     m_middle = sheet.at(left + layer.width / 2, bottom + layer.height / 2);
 }
 
 void LayerDrawing::drawSymbol() {
     const auto& [left, top, right, bottom] = m_area;
-    const bool thin = m_layer.kind == kind::insulation || m_layer.kind == kind::space ||
-                      m_layer.kind == kind::monolith;
-    m_sheet.canvas.setPen({m_color, thin ? fine : wide});
-    switch (m_layer.kind) {
-        case kind::insulation:
+    m_sheet.canvas.setPen({m_color, hasFinePen(m_traits.symbol) ? fine : wide});
+    switch (m_traits.symbol) {
+        case Symbol::profile:
+            return drawProfile();
+        case Symbol::insulation:
             return drawInsulation();
-        case kind::space:
+        case Symbol::space:
             return drawMark(m_sheet, m_middle);
-        case kind::monolith:
+        case Symbol::cast:
             m_sheet.line({{right, top}, {left, top}});
             return drawMark(m_sheet, m_middle);
-        default:
-            return drawShape(m_layer.kind);
+        case Symbol::block:
+            return drawBlock();
     }
 }
 
-// The lines of a shape lie a little inside the layer.
-void LayerDrawing::drawShape(std::int32_t shape) {
-    const int left = m_area.left + inset;
-    const int right = m_area.right - inset;
-    const int bottom = m_area.bottom - inset;
-    const int top = m_area.top + inset;
-    const auto across = [&](int y) { m_sheet.line({{left, y}, {right, y}}); };
-    const auto upright = [&](int x) { m_sheet.line({{x, top}, {x, bottom}}); };
-    switch (shape) {
-        case kind::beam:
-            across(bottom);
-            across(top);
-            return upright(m_middle.x);
-        case kind::angle:
-        case kind::angleMirrored:
-            across(bottom);
-            return upright(shape == kind::angle ? left : right);
-        case kind::channel:
-        case kind::channelMirrored:
-            across(bottom);
-            across(top);
-            return upright(shape == kind::channel ? left : right);
-        default:
-            return m_sheet.line(
-                {{left, bottom}, {right, bottom}, {right, top}, {left, top}, {left, bottom}});
-    }
+void LayerDrawing::drawProfile() {
+    const auto& [left, top, right, bottom] = m_inside;
+    m_sheet.line({{left, bottom}, {right, bottom}});
+    if (m_traits.topFlange) m_sheet.line({{left, top}, {right, top}});
+    const int edge = m_traits.web == Web::nearEdge ? left : right;
+    const int web = m_traits.web == Web::middle ? m_middle.x : edge;
+    m_sheet.line({{web, top}, {web, bottom}});
+}
+
+void LayerDrawing::drawBlock() {
+    const auto& [left, top, right, bottom] = m_inside;
+    m_sheet.line({{left, bottom}, {right, bottom}, {right, top}, {left, top}, {left, bottom}});
 }
 
 void LayerDrawing::drawInsulation() {
@@ -131,12 +125,10 @@ int LayerDrawing::drawValue(int y, std::string_view word, std::int32_t value, in
 }
 
 void LayerDrawing::drawValues() {
-    const bool insulation = m_layer.kind == kind::insulation;
     m_sheet.canvas.setFont(labelFont());
     int y = firstValue.y;
-    y += drawValue(y, insulation ? text::thickness : text::width, m_layer.width,
-                   region::specialWidth, EditField::width);
-    if (insulation || m_layer.kind == kind::monolith) {
+    y += drawValue(y, m_traits.widthWord, m_layer.width, region::specialWidth, EditField::width);
+    if (m_traits.beside == Beside::widthAndHeight) {
         y += drawValue(y, text::height, m_layer.height, region::number, EditField::height);
     }
     m_sheet.canvas.setPen({m_color, fine});
@@ -149,10 +141,14 @@ void drawLayer(SectionSheet& sheet, const CRez& layer, bool current, Size mirror
     LayerDrawing drawing(sheet, layer, current);
     drawing.drawSymbol();
     if (!current) return;
-    if (layer.kind > kind::special) {
-        drawing.drawValues();
-    } else if (layer.kind >= kind::angle) {
-        drawing.drawMirrorButton(mirrorButton);
+    switch (traits(layer.kind).beside) {
+        case Beside::nothing:
+            return;
+        case Beside::mirrorButton:
+            return drawing.drawMirrorButton(mirrorButton);
+        case Beside::width:
+        case Beside::widthAndHeight:
+            return drawing.drawValues();
     }
 }
 

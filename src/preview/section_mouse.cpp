@@ -11,9 +11,6 @@ namespace lx {
 
 namespace {
 
-// A mirrored steel section is the same shape this much further on.
-constexpr std::int32_t mirrored = 50;
-
 // All four edges belong to the layer.
 Rect bodyOf(const CRez& layer, const SectionScale& scale) {
     const auto pixels = [&scale](double millimetres, int origin) {
@@ -124,13 +121,13 @@ void SectionMouse::editNext(bool back) {
 
 void SectionMouse::clickRegion(const HitRegion& region, const Text& family, Point p) {
     RezChain& design = m_services.model().chain();
-    std::int32_t* value = valueOf(design, region.target);
-    if (value == nullptr) return;
+    CRez* record = recordOf(design, region.target);
+    if (record == nullptr) return;
     if (region.kind == region::layerName) {
-        m_services.SelectRecord(recordOf(design, region.target));
+        m_services.SelectRecord(record);
     } else if (region.kind == region::mirror) {
-        mirror(*value);
-    } else {
+        mirror(*record);
+    } else if (const std::int32_t* value = valueOf(design, region.target)) {
         const ValueEdit edit{region.kind, region.absoluteOnly, region.target, formatInt(*value)};
         m_services.OpenEdit({edit, family}, m_picture, p);
     }
@@ -138,8 +135,8 @@ void SectionMouse::clickRegion(const HitRegion& region, const Text& family, Poin
 
 // The layers stay where they are until the design is laid out for another reason, and what the user
 // has typed on the geometry page stays.
-void SectionMouse::mirror(std::int32_t& kind) {
-    kind += kind >= mirrored ? -mirrored : mirrored;
+void SectionMouse::mirror(CRez& layer) {
+    layer.kind = mirrored(layer.kind);
     m_services.RefreshShown();
 }
 

@@ -34,7 +34,7 @@ private:
     void clickRegion(const HitRegion& region, const Text& family, Point p);
     void editNext(bool back);
     Text familyOf(const HitRegion& region);
-    void mirror(std::int32_t& kind);
+    void mirror(CRez& layer);
     CRez* layerUnder(Point p);
     bool known(const CRez* record);
     void mark(int offset);

@@ -80,11 +80,11 @@ struct Automatic : RulesFile {
     void SetUp() override { wall(300); }
     void wall(std::int32_t width) {
         design = sampleDesign("A1", width);
-        design.head()->maxOpening = 0;
+        design.head()->headBearing() = 0;
     }
     // At the end of the chain, but at the front of the list.
     CRez* offered(const char* name, std::int32_t width, char letter = ' ') {
-        CRez* element = offer.append(layer(kind::precast, width, name));
+        CRez* element = offer.append(layer(Kind::precast, width, name));
         element->letter = letter;
         listed.insert(listed.begin(), element);
         return element;
@@ -118,7 +118,7 @@ struct Automatic : RulesFile {
 TEST_F(Automatic, WithoutARuleTheLintelIsRepeatedAndTheRestInsulated) {
     const auto filled = [this](std::int32_t wallWidth, std::int32_t width) {
         wall(wallWidth);
-        EXPECT_EQ(compose(layer(kind::precast, width, "P").get()), design.head());
+        EXPECT_EQ(compose(layer(Kind::precast, width, "P").get()), design.head());
         return shown();
     };
     EXPECT_EQ(filled(300, 120), "IZOLACE:60@0 P:120@60 P:120@180 ");
@@ -128,7 +128,7 @@ TEST_F(Automatic, WithoutARuleTheLintelIsRepeatedAndTheRestInsulated) {
     EXPECT_EQ(filled(120, 120), "P:120@0 ");
     EXPECT_EQ(filled(119, 120), "");
     EXPECT_EQ(design.head()->bends->next->run, 120);
-    EXPECT_EQ(design.head()->maxOpening, 0);
+    EXPECT_EQ(design.head()->headBearing(), 0);
     // The repetition ends, whatever the catalogue says.
     for (const auto& [width, rest] : {std::pair{10, 100}, {0, 300}, {-5, 305}, {low, high}}) {
         filled(300, width);
@@ -144,12 +144,12 @@ TEST_F(Automatic, InsulationKeepsTheOtherValuesOfTheChosenElement) {
     const std::string name(chosen->nameOrEmpty());
     wall(180);
     for (const auto& [rule, made] :
-         {std::pair{".", kind::insulation}, {"I80]", kind::insulation}, {"M80]", kind::space}}) {
+         {std::pair{".", Kind::insulation}, {"I80]", Kind::insulation}, {"M80]", Kind::space}}) {
         ruleFor(name, rule);
         compose(chosen.get());
         CRez expected(*chosen);
         expected.kind = made;
-        expected.name = made == kind::space ? "MEZERA" : "IZOLACE";
+        expected.name = made == Kind::space ? "MEZERA" : "IZOLACE";
         expected.width = 80;
         EXPECT_EQ(recordBytes(CRez(*design.head()->next), false), recordBytes(expected, false))
             << rule;
@@ -212,25 +212,25 @@ TEST_F(Automatic, WithoutAnElementOrADesignNothingHappens) {
     EXPECT_FALSE(compose(nullptr) || composeSteel(design, nullptr));
     EXPECT_EQ(designBytes(design.head()), before);
     design.clear();
-    const auto section = layer(kind::angle, 60);
+    const auto section = layer(Kind::angle, 60);
     EXPECT_FALSE(compose(section.get()) || composeSteel(design, section.get()));
-    EXPECT_EQ(section->kind, kind::angle);
+    EXPECT_EQ(section->kind, Kind::angle);
 }
 
 TEST_F(Automatic, ASteelSectionIsTurnedOnceAndNestsIntoTheInsulation) {
-    for (const std::int32_t open : {kind::angle, kind::channel}) {
+    for (const Kind open : {Kind::angle, Kind::channel}) {
         wall(300);
         auto section = layer(open, 60, "S");
         section->length = 777;
         const CRez* current = composeSteel(design, section.get());
         EXPECT_EQ(current, design.head()->next);
         EXPECT_EQ(shown(), "IZOLACE:60@0 S:60@0 S:60@60 S:60@120 S:60@180 S:60@240 ");
-        EXPECT_EQ(section->kind, open + 50);
-        EXPECT_EQ(design.last()->kind, open + 50);
+        EXPECT_EQ(code(section->kind), code(open) + 50);
+        EXPECT_EQ(design.last()->kind, section->kind);
         EXPECT_EQ(design.last()->length, 1500);
         EXPECT_EQ(design.head()->next->length, 777);
 
-        design.head()->maxOpening = 200;
+        design.head()->headBearing() = 200;
         current = composeSteel(design, section.get());
         EXPECT_EQ(current, design.last());
         EXPECT_EQ(shown(), "S:60@0 S:60@60 S:60@120 S:60@180 S:60@240 ");
@@ -239,26 +239,26 @@ TEST_F(Automatic, ASteelSectionIsTurnedOnceAndNestsIntoTheInsulation) {
 }
 
 TEST_F(Automatic, SteelInsulationTakesTheFreeSpaceAndTheNesting) {
-    const auto filled = [this](std::int32_t wallWidth, std::int32_t kind, std::int32_t width) {
+    const auto filled = [this](std::int32_t wallWidth, Kind kind, std::int32_t width) {
         wall(wallWidth);
         const CRez* current = composeSteel(design, layer(kind, width, "S").get());
         return shown() + std::string(current->nameOrEmpty());
     };
-    EXPECT_EQ(filled(210, kind::beam, 101), "IZOLACE:58@0 S:101@8 S:101@109 IZOLACE");
-    EXPECT_EQ(filled(40, kind::beam, 39), "IZOLACE:20@0 S:39@1 IZOLACE");
-    EXPECT_EQ(filled(39, kind::beam, 38), "IZOLACE:20@0 S:38@1 IZOLACE");
-    EXPECT_EQ(filled(38, kind::beam, 38), "S:38@0 S");
-    EXPECT_EQ(filled(119, 4, 50), "S:50@0 S:50@50 S");
-    EXPECT_EQ(filled(120, 4, 50), "IZOLACE:20@0 S:50@20 S:50@70 IZOLACE");
-    EXPECT_EQ(filled(19, kind::channelMirrored, 20), "");
-    EXPECT_EQ(filled(high, kind::angle, high), "IZOLACE:2147483647@0 S:2147483647@0 IZOLACE");
+    EXPECT_EQ(filled(210, Kind::beam, 101), "IZOLACE:58@0 S:101@8 S:101@109 IZOLACE");
+    EXPECT_EQ(filled(40, Kind::beam, 39), "IZOLACE:20@0 S:39@1 IZOLACE");
+    EXPECT_EQ(filled(39, Kind::beam, 38), "IZOLACE:20@0 S:38@1 IZOLACE");
+    EXPECT_EQ(filled(38, Kind::beam, 38), "S:38@0 S");
+    EXPECT_EQ(filled(119, Kind{4}, 50), "S:50@0 S:50@50 S");
+    EXPECT_EQ(filled(120, Kind{4}, 50), "IZOLACE:20@0 S:50@20 S:50@70 IZOLACE");
+    EXPECT_EQ(filled(19, Kind::channelMirrored, 20), "");
+    EXPECT_EQ(filled(high, Kind::angle, high), "IZOLACE:2147483647@0 S:2147483647@0 IZOLACE");
 
     wall(50);
     design.head()->length = high;
-    auto wide = layer(kind::angle, 60);
+    auto wide = layer(Kind::angle, 60);
     EXPECT_EQ(composeSteel(design, wide.get()), design.head());
-    EXPECT_EQ(wide->kind, kind::angleMirrored);
-    EXPECT_EQ(design.head()->maxOpening, 150);
+    EXPECT_EQ(wide->kind, Kind::angleMirrored);
+    EXPECT_EQ(design.head()->headBearing(), 150);
     wide->width = 50;
     composeSteel(design, wide.get());
     EXPECT_EQ(design.last()->length, high);

@@ -61,9 +61,9 @@ TEST(HandOver, ElementsThatFollowTheOpeningTakeTheCatalogueLimit) {
     }
     RezChain design = sampleDesign();
     for (const char* name : {"KPM 7/?", "kpm 7/?"}) {
-        design.append(layer(kind::precast, 70, name))->bearing = 125;
+        design.append(layer(Kind::precast, 70, name))->bearing = 125;
     }
-    const CRez* fixed = design.append(layer(kind::precast, 70, "KPM 7/?"));
+    const CRez* fixed = design.append(layer(Kind::precast, 70, "KPM 7/?"));
     design.append(std::make_unique<CRez>())->bearing = 1;
     refreshMaxOpenings(design.head(), catalogue.get());
     const CRez* follows = design.head()->next->next->next;

@@ -27,7 +27,7 @@ struct Case {
 };
 
 TEST(Layout, LayersNestAsTheirShapesAllow) {
-    constexpr std::int32_t insulation = kind::insulation;
+    constexpr std::int32_t insulation = code(Kind::insulation);
     const Case cases[] = {
         {{}, {}, 300, Family::none},
         {{{1, 100}, {insulation, 80}, {1, 100}}, {0, 50, 100}, 100, Family::steel},
@@ -57,7 +57,7 @@ TEST(Layout, LayersNestAsTheirShapesAllow) {
         CRez* head = design.append(headOf(300));
         head->offset = 7;
         head->level = 4;
-        for (const Layer& l : test.layers) design.append(layer(l.kind, l.width));
+        for (const Layer& l : test.layers) design.append(layer(Kind{l.kind}, l.width));
         layOut(*head);
         std::vector<std::int32_t> offsets;
         for (CRez* l = head->next; l; l = l->next) offsets.push_back(l->offset);
@@ -94,7 +94,7 @@ std::vector<std::int32_t> levelsOf(const CRez& head) {
 TEST(Layout, ALayerLiesAboveTheHighestPartOfTheHeadUnderIt) {
     RezChain design;
     CRez* head = design.append(headOf(300));
-    for (const int width : {160, 40, 10}) design.append(layer(kind::precast, width));
+    for (const int width : {160, 40, 10}) design.append(layer(Kind::precast, width));
     layOut(*head);
     EXPECT_EQ(levelsOf(*head), (std::vector<std::int32_t>{0, 0, 0}));
     head->addBend(160, 100, false);
@@ -119,7 +119,7 @@ TEST(Layout, ALayerLiesAboveTheHighestPartOfTheHeadUnderIt) {
             top.addBend(number(round % 2 == 0 ? -span / 2 : 0), number(-span / 2), false);
         }
         for (int layers = random.below(7); layers > 0; --layers) {
-            any.append(layer(random.oneIn(3) ? kind::insulation : kind::angleMirrored,
+            any.append(layer(random.oneIn(3) ? Kind::insulation : Kind::angleMirrored,
                              number(round % 5 == 0 ? -span / 2 : 0)));
         }
         layOut(top);
@@ -139,7 +139,7 @@ TEST(Layout, HugeDesignsTakeNoTime) {
     for (int i = 0; i < many; ++i) {
         *end = std::make_unique<CZalom>(i % 3, i % 7 - 3, i + 1 == many);
         end = &(*end)->next;
-        design.append(layer(kind::precast, 1));
+        design.append(layer(Kind::precast, 1));
     }
     const auto start = std::chrono::steady_clock::now();
     layOut(head);
@@ -155,10 +155,10 @@ TEST(Layout, AnyNumberFromAFileIsBorne) {
     CRez* head = design.append(headOf(low));
     for (int i = 0; i < 3; ++i) {
         head->addBend(high, high, false);
-        design.append(layer(kind::beam, high));
-        design.append(layer(kind::insulation, low));
+        design.append(layer(Kind::beam, high));
+        design.append(layer(Kind::insulation, low));
     }
-    design.append(layer(kind::precast, high));
+    design.append(layer(Kind::precast, high));
     layOut(*head);
     EXPECT_EQ(freeSpace(*head), low);
     EXPECT_EQ(design.last()->level, high);

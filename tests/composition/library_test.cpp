@@ -85,8 +85,8 @@ TEST(Library, TheSameDesignIsKnownOnAnotherDisplay) {
     CRez& head = *design.append(headOf(300, "A"));
     head.addBend(150, 100, false);
     head.addBend(150, 100, true);
-    design.append(layer(kind::precast, 150));
-    design.append(layer(kind::precast, 150));
+    design.append(layer(Kind::precast, 150));
+    design.append(layer(Kind::precast, 150));
     layOut(head);
     settleSection(head, small);
     const std::int32_t lifted = design.last()->level;

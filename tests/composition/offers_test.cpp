@@ -88,10 +88,10 @@ TEST(PrecastOffer, CatalogueFieldsBecomeThoseOfALayer) {
     item.weight = 52.2999;
     item.maxOpening = std::numeric_limits<std::int32_t>::max();
     item.compositionMark = 'X';
-    const std::unique_ptr<CRez> record = offerRecord(item, 4, 9, 52);
+    const std::unique_ptr<CRez> record = offerRecord(item, 4, 9, Kind::angleMirrored);
     EXPECT_EQ(record->typeIndex, 4);
     EXPECT_EQ(record->itemIndex, 9);
-    EXPECT_EQ(record->kind, 52);
+    EXPECT_EQ(record->kind, Kind::angleMirrored);
     EXPECT_EQ(record->width, 70);
     EXPECT_EQ(record->height, 238);
     EXPECT_EQ(record->length, item.length);
@@ -112,14 +112,14 @@ TEST(SteelOffer, TakesShapeAndLengthAndLeavesOutTheOversized) {
     catalogue->designation.reset();
     const RezChain offer = BuildSteelOffer(head, 0, 1500, 0);
     EXPECT_EQ(shown(offer), "0:2000 2:2020 ");
-    EXPECT_EQ(offer.head()->kind, 0);
+    EXPECT_EQ(offer.head()->kind, Kind::precast);
     EXPECT_FALSE(offer.head()->name);
-    EXPECT_EQ(offer.last()->kind, kind::channel);
+    EXPECT_EQ(offer.last()->kind, Kind::channel);
     EXPECT_EQ(offer.last()->length, 1800);
     EXPECT_EQ(offer.last()->bearing, 0);
     EXPECT_EQ(BuildSteelOffer(head, 0, 1500, 60).last()->length, 1620);
-    catalogue->next->length = kind::head;
-    EXPECT_EQ(BuildSteelOffer(head, 0, 1500, 0).last()->kind, 0);
+    catalogue->next->length = code(Kind::head);
+    EXPECT_EQ(BuildSteelOffer(head, 0, 1500, 0).last()->kind, Kind::precast);
 }
 
 TEST(PrecastOffer, PickedItemsJoinUnlessTheyAreOfferedAlready) {
@@ -178,7 +178,7 @@ TEST(OfferOrder, NumbersStandByValueAndCaseDoesNotCount) {
     EXPECT_TRUE(offerLess("99999999999999999999998", "99999999999999999999999"));
 
     RezChain offer;
-    for (const char* name : {"b", "A 10", "a 9", "B"}) offer.append(layer(0, 1, name));
+    for (const char* name : {"b", "A 10", "a 9", "B"}) offer.append(layer(Kind{0}, 1, name));
     offer.append(std::make_unique<CRez>());
     EXPECT_EQ(offerOrder(offer), (std::vector<int>{4, 2, 1, 0, 3}));
 }

@@ -35,7 +35,7 @@ TEST(Records, CompareTellsTheFirstDifference) {
         change(b);
         return compare(a.head(), b.head());
     };
-    EXPECT_EQ(compared([](RezChain& b) { b.append(layer(kind::space, 10)); }), 2);
+    EXPECT_EQ(compared([](RezChain& b) { b.append(layer(Kind::space, 10)); }), 2);
     EXPECT_EQ(compared([](RezChain& b) { b.unlink(b.last()); }), 1);
     EXPECT_EQ(compared([](RezChain& b) { b.head()->bends->next.reset(); }), 11);
     EXPECT_EQ(compared([](RezChain& b) { b.head()->addBend(1, 1, false); }), 12);
@@ -50,10 +50,11 @@ TEST(Records, CompareTellsTheFirstDifference) {
                   b.head()->setLabel("AB");
               }),
               0);
-    for (const auto field : {&CRez::itemIndex, &CRez::width, &CRez::length, &CRez::offset,
-                             &CRez::level, &CRez::kind}) {
+    for (const auto field :
+         {&CRez::itemIndex, &CRez::width, &CRez::length, &CRez::offset, &CRez::level}) {
         EXPECT_EQ(compared([&](RezChain& b) { ++(b.head()->next->*field); }), 1);
     }
+    EXPECT_EQ(compared([](RezChain& b) { b.head()->next->kind = Kind::beam; }), 1);
     for (const auto field :
          {&CRez::bearing, &CRez::typeIndex, &CRez::height, &CRez::weight, &CRez::maxOpening}) {
         EXPECT_EQ(compared([&](RezChain& b) { ++(b.head()->next->*field); }), 0);
@@ -62,10 +63,10 @@ TEST(Records, CompareTellsTheFirstDifference) {
 
 TEST(Records, AChainKeepsItsEndsThroughEveryChange) {
     RezChain chain;
-    CRez* a = chain.append(layer(0, 1));
-    CRez* c = chain.append(layer(0, 3));
-    CRez* b = chain.insertAfter(a, layer(0, 2));
-    CRez* d = chain.insertAfter(c, layer(0, 4));
+    CRez* a = chain.append(layer(Kind{0}, 1));
+    CRez* c = chain.append(layer(Kind{0}, 3));
+    CRez* b = chain.insertAfter(a, layer(Kind{0}, 2));
+    CRez* d = chain.insertAfter(c, layer(Kind{0}, 4));
     EXPECT_EQ(chain.last(), d);
     EXPECT_EQ(chain.before(c), b);
     EXPECT_EQ(chain.unlink(d)->next, nullptr);
@@ -75,9 +76,9 @@ TEST(Records, AChainKeepsItsEndsThroughEveryChange) {
     EXPECT_EQ(chain.unlink(&stranger), nullptr);
     RezChain moved = std::move(chain);
     EXPECT_EQ(moved.head(), b);
-    const CRez* added = moved.append(layer(0, 5));
+    const CRez* added = moved.append(layer(Kind{0}, 5));
     EXPECT_EQ(c->next, added);
-    const CRez* alone = chain.append(layer(0, 6));
+    const CRez* alone = chain.append(layer(Kind{0}, 6));
     EXPECT_EQ(chain.head(), alone);
 }
 

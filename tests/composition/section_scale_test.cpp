@@ -31,8 +31,8 @@ struct FlaggedHead : testing::Test {
         head = design.append(headOf(wall));
         head->addBend(wall / 2, 100, false);
         head->addBend(wall / 2, 100, true);
-        front = design.append(layer(kind::precast, wall / 2));
-        back = design.append(layer(kind::precast, wall / 2));
+        front = design.append(layer(Kind::precast, wall / 2));
+        back = design.append(layer(Kind::precast, wall / 2));
         layOut(*head);
     }
 };

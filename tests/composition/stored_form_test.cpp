@@ -16,11 +16,11 @@ DesignRead readBytes(std::string_view bytes) {
 }
 
 // A record whose fields are all zero but for the kind.
-Bytes rawRecord(std::int32_t tag, std::int32_t kindCode, std::string_view tail) {
+Bytes rawRecord(std::int32_t tag, Kind kind, std::string_view tail) {
     BinaryWriter writer;
     writer.int32(tag);
     for (int i = 0; i < 9; ++i) writer.int32(0);
-    writer.int32(kindCode);
+    writer.int32(code(kind));
     writer.int32(0);
     writer.raw(tail);
     return writer.take();
@@ -30,14 +30,14 @@ TEST(StoredForm, LongNamesAreCutAndTheNextRecordIsFound) {
     RezChain design = sampleDesign();
     design.last()->name = Text(300, 'n');
     const Bytes bytes = designBytes(design.head()) +
-                        rawRecord(layerTag, 5, Bytes(400, 'm') + '\0' + 'L') +
-                        recordBytes(*layer(7, 40), false);
+                        rawRecord(layerTag, Kind{5}, Bytes(400, 'm') + '\0' + 'L') +
+                        recordBytes(*layer(Kind{7}, 40), false);
     const DesignRead read = readBytes(bytes);
     EXPECT_FALSE(read.damaged);
     const CRez* first = read.design.head()->next->next;
     EXPECT_EQ(first->nameOrEmpty(), Text(249, 'n'));
     EXPECT_EQ(first->next->nameOrEmpty(), Text(249, 'm'));
-    EXPECT_EQ(first->next->next->kind, 7);
+    EXPECT_EQ(first->next->next->kind, Kind{7});
 }
 
 TEST(StoredForm, CutShortAnywhereKeepsWhatWasRead) {
@@ -60,8 +60,8 @@ TEST(StoredForm, CutShortAnywhereKeepsWhatWasRead) {
 
 TEST(StoredForm, WhatIsNoDesignIsLeftOut) {
     const Bytes good = designBytes(sampleDesign().head());
-    const Bytes stray = recordBytes(*layer(0, 1), false);
-    const Bytes headAsLayer = rawRecord(layerTag, kind::head, std::string_view("n\0 ", 3));
+    const Bytes stray = recordBytes(*layer(Kind{0}, 1), false);
+    const Bytes headAsLayer = rawRecord(layerTag, Kind::head, std::string_view("n\0 ", 3));
     for (const Bytes& bytes : {stray + good, good + good, good + headAsLayer + stray}) {
         const DesignRead read = readBytes(bytes);
         EXPECT_TRUE(read.damaged);
@@ -69,16 +69,16 @@ TEST(StoredForm, WhatIsNoDesignIsLeftOut) {
     }
     EXPECT_TRUE(readBytes(stray).design.empty());
     // The tag alone makes a head, and anything else is a layer.
-    const Bytes odd = rawRecord(headTag, kind::precast, std::string_view("\0\0\0\0 ", 5)) +
-                      rawRecord(77, 5, std::string_view("n\0L", 3));
-    EXPECT_EQ(readBytes(odd).design.head()->kind, kind::head);
+    const Bytes odd = rawRecord(headTag, Kind::precast, std::string_view("\0\0\0\0 ", 5)) +
+                      rawRecord(77, Kind{5}, std::string_view("n\0L", 3));
+    EXPECT_EQ(readBytes(odd).design.head()->kind, Kind::head);
     EXPECT_EQ(readBytes(odd).design.last()->letter, 'L');
 }
 
 TEST(StoredForm, EndlessBendsEndWithTheBytes) {
     constexpr std::int32_t high = std::numeric_limits<std::int32_t>::max();
     BinaryWriter writer;
-    writer.raw(rawRecord(headTag, kind::head, {}));
+    writer.raw(rawRecord(headTag, Kind::head, {}));
     for (int i = 0; i < 200'000; ++i) {
         for (const std::int32_t value : {-1, 0, i, high}) writer.int32(value);
         writer.byte(2);
@@ -91,7 +91,7 @@ TEST(StoredForm, EndlessBendsEndWithTheBytes) {
         ASSERT_EQ(bend->run, bends++);
     }
     EXPECT_EQ(bends, 200'000);
-    read.design.append(layer(kind::precast, 100));
+    read.design.append(layer(Kind::precast, 100));
     EXPECT_EQ(levelsAbove(*read.design.head()), std::vector<std::int32_t>{high});
 }
 

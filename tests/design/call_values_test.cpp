@@ -46,7 +46,7 @@ TEST(Opening, LengthsOfTheCallBecomeWholeMillimetres) {
     EXPECT_EQ(shownBearing(std::numeric_limits<std::int32_t>::min(), 1e300), -most);
 
     const auto head = headFromCall(1200.1, 300.1, 2.3);
-    EXPECT_EQ(head->kind, kind::head);
+    EXPECT_EQ(head->kind, Kind::head);
     EXPECT_EQ(head->length, 1201);
     EXPECT_EQ(head->width, 301);
     EXPECT_EQ(head->height, 2300);

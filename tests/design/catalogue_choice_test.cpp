@@ -22,7 +22,7 @@ struct CatalogueOpening : testing::Test {
         values.precast = catalogueOf({{-1, "T"}, {1, "K", 0, 0, 1200}, {1, "K", 0, 0, 1200}});
         model.rebuildPrecastOffer(0);
     }
-    CRez* add(std::int32_t kind, std::int32_t type, std::int32_t item) {
+    CRez* add(Kind kind, std::int32_t type, std::int32_t item) {
         CRez* added = model.chain().append(layer(kind, 50));
         added->typeIndex = type;
         added->itemIndex = item;
@@ -58,14 +58,14 @@ TEST_F(CatalogueOpening, APageOpensItsOwnCatalogueOnTheSelectedElement) {
 
 TEST_F(CatalogueOpening, TheCurrentRecordNamesItsCatalogue) {
     EXPECT_EQ(preview().element, std::nullopt) << "the head is no element";
-    add(kind::channelMirrored, 3, 7);
+    add(Kind::channelMirrored, 3, 7);
     EXPECT_EQ(preview(257).kind, steel);
     EXPECT_FALSE(preview(257).pickMode) << "picked sections would become lintels";
     EXPECT_EQ(preview().element, (CatalogueElement{steel, 3, 7, "L"}));
     model.browserKind = steel;
-    add(kind::precast, 1, 2);
+    add(Kind::precast, 1, 2);
     EXPECT_EQ(preview().kind, precast);
-    add(kind::insulation, 1, 2);
+    add(Kind::insulation, 1, 2);
     EXPECT_EQ(preview().kind, steel) << "insulation is of no catalogue";
 }
 

@@ -34,7 +34,7 @@ struct DesignSession : testing::Test {
         return found == files.content.end() ? Bytes() : found->second;
     }
     void addLayer(std::int32_t width) {
-        model.chain().append(layer(kind::precast, width));
+        model.chain().append(layer(Kind::precast, width));
         model.Relayout();
     }
 };
@@ -98,7 +98,7 @@ TEST_F(DesignSession, AProjectListThatCouldNotBeReadIsNotWrittenOver) {
     EXPECT_EQ(again.LoadProjects(), 7);
     EXPECT_EQ(confirmDesign(input, model, again, settings, files, result),
               ConfirmationAnswer::done);
-    EXPECT_EQ(model.head()->level, 1);
+    EXPECT_EQ(model.head()->project(), 1);
     EXPECT_EQ(parseLibrary(libraryBytes(), 7).entries.size(), 1U);
 }
 

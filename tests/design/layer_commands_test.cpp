@@ -12,7 +12,7 @@ namespace {
 struct LayerCommands : testing::Test {
     RezChain design;
     CRez* current = nullptr;
-    std::unique_ptr<CRez> element = layer(kind::precast, 70, "E");
+    std::unique_ptr<CRez> element = layer(Kind::precast, 70, "E");
 
     void SetUp() override {
         current = design.append(headOf(300));
@@ -26,7 +26,7 @@ struct LayerCommands : testing::Test {
     }
     // "kind width x height, length, bearing, letter" of the current record.
     std::string made() const {
-        return std::to_string(current->kind) + " " + std::to_string(current->width) + "x" +
+        return std::to_string(code(current->kind)) + " " + std::to_string(current->width) + "x" +
                std::to_string(current->height) + ", " + std::to_string(current->length) + ", " +
                std::to_string(current->bearing) + ", " + current->letter;
     }
@@ -40,8 +40,8 @@ struct LayerCommands : testing::Test {
 };
 
 TEST_F(LayerCommands, ALintelGoesBehindTheCurrentRecordElseToTheEnd) {
-    append(layer(kind::insulation, 50, "I"));
-    append(layer(kind::precast, 70, "P"));
+    append(layer(Kind::insulation, 50, "I"));
+    append(layer(Kind::precast, 70, "P"));
     CRez stranger;
     const std::pair<CRez*, const char*> places[] = {
         {design.head(), "E* I P "}, {design.last(), "E I P E* "}, {&stranger, "E I P E E* "}};
@@ -57,18 +57,18 @@ TEST_F(LayerCommands, ALintelGoesBehindTheCurrentRecordElseToTheEnd) {
 TEST_F(LayerCommands, LintelsAndSectionsAreNotMixed) {
     const struct {
         CommandAnswer (*command)(DesignEdit, const CRez*);
-        std::int32_t first, then;
+        Kind first, then;
         CommandAnswer answer;
-    } cases[] = {{addPrecast, kind::precast, kind::channel, CommandAnswer::done},
-                 {addSteel, kind::angleMirrored, kind::precast, CommandAnswer::done},
-                 {addPrecast, kind::channelMirrored, kind::precast, CommandAnswer::wrongType},
-                 {addPrecast, kind::monolith, kind::precast, CommandAnswer::wrongType},
-                 {addSteel, kind::precast, kind::beam, CommandAnswer::wrongType},
-                 {addSteel, kind::monolith, kind::beam, CommandAnswer::wrongType}};
+    } cases[] = {{addPrecast, Kind::precast, Kind::channel, CommandAnswer::done},
+                 {addSteel, Kind::angleMirrored, Kind::precast, CommandAnswer::done},
+                 {addPrecast, Kind::channelMirrored, Kind::precast, CommandAnswer::wrongType},
+                 {addPrecast, Kind::monolith, Kind::precast, CommandAnswer::wrongType},
+                 {addSteel, Kind::precast, Kind::beam, CommandAnswer::wrongType},
+                 {addSteel, Kind::monolith, Kind::beam, CommandAnswer::wrongType}};
     for (const auto& one : cases) {
         RezChain other;
         CRez* place = other.append(headOf(300));
-        for (const std::int32_t kind : {kind::insulation, one.first, one.then}) {
+        for (const Kind kind : {Kind::insulation, one.first, one.then}) {
             other.append(layer(kind, 60));
         }
         EXPECT_EQ(one.command({other, place}, element.get()), one.answer);
@@ -76,20 +76,20 @@ TEST_F(LayerCommands, LintelsAndSectionsAreNotMixed) {
         EXPECT_EQ(LayerCount(*other.head()), done ? 4 : 3);
         if (!done) {
             EXPECT_EQ(one.command({other, place}, nullptr), CommandAnswer::wrongType);
-            EXPECT_EQ(other.head()->maxOpening, 0);
+            EXPECT_EQ(other.head()->headBearing(), 0);
         }
     }
 }
 
 TEST_F(LayerCommands, InsulationFillsTheFreeSpaceLikeTheLayerBeforeIt) {
     EXPECT_EQ(addInsulation(edit()), CommandAnswer::done);
-    EXPECT_EQ(design.head()->maxOpening, 150);
+    EXPECT_EQ(design.head()->headBearing(), 150);
     EXPECT_EQ(current->name, "IZOLACE");
     EXPECT_EQ(made(), "101 300x200, 1300, 0,  ");
 
     current->width = 220;
     layOut(*design.head());
-    CRez* lintel = append(layer(kind::precast, 70, "P"));
+    CRez* lintel = append(layer(Kind::precast, 70, "P"));
     lintel->height = 238;
     lintel->length = 1234;
     lintel->bearing = 117;
@@ -105,7 +105,7 @@ TEST_F(LayerCommands, InsulationFillsTheFreeSpaceLikeTheLayerBeforeIt) {
 
 TEST_F(LayerCommands, ASpaceNeedsALayerBeforeItAndFiveMillimetres) {
     EXPECT_EQ(addSpace(edit()), CommandAnswer::nothing);
-    current = append(layer(kind::precast, 295, "P"));
+    current = append(layer(Kind::precast, 295, "P"));
     current->typeIndex = 3;
     EXPECT_EQ(addSpace(edit()), CommandAnswer::done);
     EXPECT_EQ(names(), "P MEZERA* ");
@@ -117,14 +117,14 @@ TEST_F(LayerCommands, ASpaceNeedsALayerBeforeItAndFiveMillimetres) {
 }
 
 TEST_F(LayerCommands, OnlyASectionAtTheEndTakesTheLengthOfTheDay) {
-    auto section = layer(kind::channel, 60, "S");
+    auto section = layer(Kind::channel, 60, "S");
     section->length = 777;
     EXPECT_EQ(addSteel(edit(), nullptr), CommandAnswer::nothing);
-    EXPECT_EQ(design.head()->maxOpening, 0);
+    EXPECT_EQ(design.head()->headBearing(), 0);
     EXPECT_EQ(addSteel(edit(), section.get()), CommandAnswer::done);
     EXPECT_EQ(current->length, 1300);
-    EXPECT_EQ(design.head()->maxOpening, 150);
-    design.head()->maxOpening = 200;
+    EXPECT_EQ(design.head()->headBearing(), 150);
+    design.head()->headBearing() = 200;
     current = design.head();
     EXPECT_EQ(addSteel(edit(), section.get()), CommandAnswer::done);
     EXPECT_EQ(current->length, 777);
@@ -138,7 +138,7 @@ TEST_F(LayerCommands, OnlyASectionAtTheEndTakesTheLengthOfTheDay) {
 }
 
 TEST_F(LayerCommands, InsulationBesideSteelIsMadeLikeTheSection) {
-    CRez* section = current = append(layer(kind::channel, 220, "S"));
+    CRez* section = current = append(layer(Kind::channel, 220, "S"));
     section->height = 140;
     section->length = 777;
     section->letter = 'Q';
@@ -148,16 +148,17 @@ TEST_F(LayerCommands, InsulationBesideSteelIsMadeLikeTheSection) {
 
 TEST_F(LayerCommands, InsulationBesideSteelNeedsTenMillimetresOfRoom) {
     const struct {
-        std::int32_t kind, width, wall, insulation;
-    } cases[] = {{kind::beam, 100, 105, 55},        {kind::beam, 19, 20, 10},
-                 {kind::beam, 19, 19, -1},          {kind::angle, 60, 10, 10},
-                 {kind::channel, 291, 300, 300},    {kind::angleMirrored, 60, 70, 10},
-                 {kind::angleMirrored, 60, 69, -1}, {4, 60, 160, 100},
-                 {kind::head, 0, 79, 79},           {kind::head, 0, 81, 80}};
+        Kind kind;
+        std::int32_t width, wall, insulation;
+    } cases[] = {{Kind::beam, 100, 105, 55},        {Kind::beam, 19, 20, 10},
+                 {Kind::beam, 19, 19, -1},          {Kind::angle, 60, 10, 10},
+                 {Kind::channel, 291, 300, 300},    {Kind::angleMirrored, 60, 70, 10},
+                 {Kind::angleMirrored, 60, 69, -1}, {Kind{4}, 60, 160, 100},
+                 {Kind::head, 0, 79, 79},           {Kind::head, 0, 81, 80}};
     for (const auto& one : cases) {
         RezChain other;
         CRez* place = other.append(headOf(one.wall));
-        if (one.kind != kind::head) place = other.append(layer(one.kind, one.width));
+        if (one.kind != Kind::head) place = other.append(layer(one.kind, one.width));
         layOut(*other.head());
         const CommandAnswer answer = addSteelInsulation({other, place});
         EXPECT_EQ(answer == CommandAnswer::done ? place->width : -1, one.insulation) << one.wall;
@@ -165,7 +166,7 @@ TEST_F(LayerCommands, InsulationBesideSteelNeedsTenMillimetresOfRoom) {
 }
 
 TEST_F(LayerCommands, NothingIsDoneWithoutACurrentRecordOrADesign) {
-    append(layer(kind::precast, 70, "P"));
+    append(layer(Kind::precast, 70, "P"));
     current = nullptr;
     RezChain none;
     for (const DesignEdit where : {edit(), DesignEdit{none, current}}) {
@@ -180,8 +181,8 @@ TEST_F(LayerCommands, NothingIsDoneWithoutACurrentRecordOrADesign) {
 }
 
 TEST_F(LayerCommands, ALayerIsMovedWithinItsDesign) {
-    append(layer(kind::precast, 70, "P"));
-    append(layer(kind::space, 30, "M"));
+    append(layer(Kind::precast, 70, "P"));
+    append(layer(Kind::space, 30, "M"));
     CRez stranger;
     current = design.last();
     for (CRez* const target : {&stranger, static_cast<CRez*>(nullptr), current}) {
@@ -197,12 +198,12 @@ TEST_F(LayerCommands, ACastPartFillsTheFreeSpaceInAnyDesign) {
         RezChain other;
         CRez* place = other.append(headOf(75));
         place->length = 900;
-        place->maxOpening = bearing;
-        place = other.append(layer(kind::precast, 70, "P"));
+        place->headBearing() = bearing;
+        place = other.append(layer(Kind::precast, 70, "P"));
         place->letter = 'Q';
         layOut(*other.head());
         EXPECT_EQ(addMonolith({other, place}), CommandAnswer::done);
-        EXPECT_EQ(other.head()->maxOpening, settled);
+        EXPECT_EQ(other.head()->headBearing(), settled);
         EXPECT_EQ(place->width, 5);
         EXPECT_EQ(place->length, 900 + 2 * settled);
         EXPECT_EQ(place->letter, 'Q');
@@ -216,8 +217,8 @@ TEST_F(LayerCommands, TheMenuInsertsThinInsulationWithoutAskingForRoom) {
     design.head()->height = 2300;
     EXPECT_EQ(insertInsulation(edit()), CommandAnswer::done);
     EXPECT_EQ(made(), "101 30x2300, 1000, 0,  ");
-    CRez* lintel = current = append(layer(kind::precast, 400, "P"));
-    append(layer(kind::precast, 70, "Q"));
+    CRez* lintel = current = append(layer(Kind::precast, 400, "P"));
+    append(layer(Kind::precast, 70, "Q"));
     lintel->height = 238;
     lintel->length = 1190;
     lintel->bearing = 125;
@@ -229,7 +230,7 @@ TEST_F(LayerCommands, TheMenuInsertsThinInsulationWithoutAskingForRoom) {
 
 TEST_F(LayerCommands, ButtonsAreOfferedByTheFreeSpace) {
     CRez* head = design.head();
-    CRez* filler = append(layer(kind::precast, 0));
+    CRez* filler = append(layer(Kind::precast, 0));
     const auto at = [&](std::int32_t free, const CRez* record) {
         filler->width = 300 - free;
         return availability(head, record, element.get(), nullptr);
@@ -240,7 +241,7 @@ TEST_F(LayerCommands, ButtonsAreOfferedByTheFreeSpace) {
     EXPECT_EQ(at(20, filler), (Availability{true, false, false, false, true, true}));
     EXPECT_EQ(at(19, filler), (Availability{true, false, false, false, false, true}));
     EXPECT_EQ(at(9, filler), (Availability{true, false, false, false, false, false}));
-    EXPECT_TRUE(availability(head, filler, nullptr, layer(kind::beam, 9).get()).addSteel);
+    EXPECT_TRUE(availability(head, filler, nullptr, layer(Kind::beam, 9).get()).addSteel);
     EXPECT_EQ(availability(nullptr, nullptr, element.get(), nullptr), Availability{});
 }
 

@@ -15,28 +15,28 @@ TEST(StoredFit, TheFirstElementOtherThanInsulationDecides) {
     RezChain design;
     const CRez& head = *design.append(headOf(300));
     EXPECT_TRUE(suitsOpening(head, 5000));
-    design.append(layer(kind::insulation, 50, "IZOLACE"))->maxOpening = 1;
+    design.append(layer(Kind::insulation, 50, "IZOLACE"))->maxOpening = 1;
     EXPECT_TRUE(suitsOpening(head, 5000));
     // Stored and read again, a missing name is an empty one, and no insulation.
     for (const char* name : {static_cast<const char*>(nullptr), ""}) {
-        CRez* nameless = design.append(layer(kind::precast, 70, ""));
+        CRez* nameless = design.append(layer(Kind::precast, 70, ""));
         if (!name) nameless->name.reset();
         nameless->maxOpening = 1000;
         EXPECT_FALSE(suitsOpening(head, 5000));
         design.unlink(nameless);
     }
-    CRez* lintel = design.append(layer(kind::precast, 70, "KP"));
+    CRez* lintel = design.append(layer(Kind::precast, 70, "KP"));
     EXPECT_TRUE(suitsOpening(head, 5000));
     lintel->maxOpening = 1500;
-    design.append(layer(kind::precast, 70, "KP"))->maxOpening = 1;
+    design.append(layer(Kind::precast, 70, "KP"))->maxOpening = 1;
     EXPECT_TRUE(suitsOpening(head, 1500.0000005));
     EXPECT_FALSE(suitsOpening(head, 1500.00001));
-    CRez* space = design.append(layer(kind::space, 10, "MEZERA"));
+    CRez* space = design.append(layer(Kind::space, 10, "MEZERA"));
     space->maxOpening = 100;
     design.insertAfter(design.head(), design.unlink(space));
     EXPECT_FALSE(suitsOpening(head, 1200));
     // Whatever stands before it.
-    design.append(layer(kind::monolith, 50, "MONOLIT"));
+    design.append(layer(Kind::monolith, 50, "MONOLIT"));
     EXPECT_TRUE(suitsOpening(head, 5000));
 }
 
@@ -56,7 +56,7 @@ struct StoredDesigns : testing::Test {
         for (const char* label : labels) {
             LibraryEntry entry{paddedLabel(label), {}};
             entry.design.append(headOf(450, label))->height = 7;
-            entry.design.append(layer(kind::precast, 70, label))->maxOpening = 1000;
+            entry.design.append(layer(Kind::precast, 70, label))->maxOpening = 1000;
             entries.push_back(std::move(entry));
         }
         model.setStoredDesigns(std::move(entries));

@@ -30,7 +30,7 @@ struct ValueCommit : testing::Test {
         return commitValue({design, current}, edit, typed, opening);
     }
     CommitAnswer typeBearing(std::string_view typed) {
-        return type({head(), EditField::maxOpening}, typed, edit_kind::number, true);
+        return type({head(), EditField::headBearing}, typed, edit_kind::number, true);
     }
     CommitAnswer typeLevel(std::string_view typed) {
         return type({head(), EditField::height}, typed, 103, true);
@@ -61,8 +61,8 @@ TEST_F(ValueCommit, LevelsAreMetresInStepsOfFiveMillimetres) {
 }
 
 TEST_F(ValueCommit, OnlyTheWidthOfASpecialLayerIsTestedAgainstTheWall) {
-    append(layer(kind::precast, 160));
-    CRez* space = append(layer(kind::space, 100));
+    append(layer(Kind::precast, 160));
+    CRez* space = append(layer(Kind::space, 100));
     ASSERT_EQ(freeSpace(*head()), 40);
     const EditTarget width{space, EditField::width};
 
@@ -101,37 +101,37 @@ TEST_F(ValueCommit, NumbersAreLeadingDigitsWithinTheRange) {
 }
 
 TEST_F(ValueCommit, TheBearingSetsEveryLengthThatFollowsTheOpening) {
-    CRez* fixed = append(layer(kind::precast, 70));
+    CRez* fixed = append(layer(Kind::precast, 70));
     fixed->length = 1750;
-    CRez* section = append(layer(kind::channelMirrored, 60));
-    CRez* cast = append(layer(kind::monolith, 60));
+    CRez* section = append(layer(Kind::channelMirrored, 60));
+    CRez* cast = append(layer(Kind::monolith, 60));
     const CommitAnswer answer = typeBearing("200");
     EXPECT_TRUE(answer.changed && answer.steelOffer && !answer.precastOffer);
-    EXPECT_EQ(head()->maxOpening, 200);
+    EXPECT_EQ(head()->headBearing(), 200);
     EXPECT_EQ(head()->length, 1200);
     EXPECT_EQ(section->length, 1600);
     EXPECT_EQ(cast->length, 1600);
     EXPECT_EQ(fixed->length, 1750);
     for (const char* typed : {"20", "-50", "0"}) {
         typeBearing(typed);
-        EXPECT_EQ(head()->maxOpening, 50) << typed;
+        EXPECT_EQ(head()->headBearing(), 50) << typed;
     }
 
     // An element made for openings up to 1500 with a bearing of 125: beyond 150 it no longer fits.
-    CRez* following = append(layer(kind::precast, 70));
+    CRez* following = append(layer(Kind::precast, 70));
     following->bearing = 125;
     following->maxOpening = 1500;
     typeBearing("60");
-    EXPECT_EQ(head()->maxOpening, 125);
+    EXPECT_EQ(head()->headBearing(), 125);
     EXPECT_EQ(following->length, 1450);
     typeBearing("150");
-    EXPECT_EQ(head()->maxOpening, 150);
+    EXPECT_EQ(head()->headBearing(), 150);
     typeBearing("151");
-    EXPECT_EQ(head()->maxOpening, 275);
+    EXPECT_EQ(head()->headBearing(), 275);
     // Made for less than the opening: its own bearing holds.
     following->maxOpening = 600;
     typeBearing("300");
-    EXPECT_EQ(head()->maxOpening, 125);
+    EXPECT_EQ(head()->headBearing(), 125);
     EXPECT_TRUE(typeBearing("2147483647").changed);
 }
 

@@ -18,7 +18,7 @@ struct SectionHand : DesignDialog {
         given.append(headOf(300, "S"));
         given.head()->length = 1200;
     }
-    CRez* add(std::int32_t kind, std::int32_t width, const char* name) {
+    CRez* add(Kind kind, std::int32_t width, const char* name) {
         CRez* added = given.append(layer(kind, width, name));
         added->height = 150;
         return added;
@@ -39,7 +39,7 @@ struct SectionHand : DesignDialog {
 };
 
 TEST_F(SectionHand, ADragIsMarkedAndEndsWithTheButtonOrTheLayer) {
-    for (const char* name : {"A", "B", "C"}) add(kind::precast, 60, name);
+    for (const char* name : {"A", "B", "C"}) add(Kind::precast, 60, name);
     runOn([this](Driver& d) {
         const auto drawn = [&d](const std::string& what) {
             return d.drawing(section).find(what) != std::string::npos;
@@ -187,7 +187,7 @@ TEST_F(SectionHand, AnEditIsTakenByTheNextActAndLeftByEsc) {
 
 TEST_F(SectionHand, KeysGoThroughTheNumbers) {
     given.head()->addBend(100, 40, false);
-    add(kind::insulation, 80, "I");
+    add(Kind::insulation, 80, "I");
     runOn([](Driver& d) {
         click(d, "layer 1");
         d.key("F2");
@@ -210,8 +210,8 @@ TEST_F(SectionHand, KeysGoThroughTheNumbers) {
 }
 
 TEST_F(SectionHand, AWidthThatDoesNotFitTheWallIsRefused) {
-    add(kind::precast, 160, "A");
-    add(kind::space, 100, "M");
+    add(Kind::precast, 160, "A");
+    add(Kind::space, 100, "M");
     const auto typeWidth = [this](const char* width, const char* leave) {
         bench.user().then([=](Driver& d) {
             EXPECT_TRUE(has(d, "record 2 width 100"));

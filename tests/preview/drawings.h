@@ -34,8 +34,7 @@ struct DrawnDesign {
         design.head()->addBend(run, step, flagged);
         return self();
     }
-    Scene& add(std::int32_t kind, std::int32_t width, std::int32_t height,
-               const char* name = "prvek") {
+    Scene& add(Kind kind, std::int32_t width, std::int32_t height, const char* name = "prvek") {
         design.append(layer(kind, width, name))->height = height;
         return self();
     }
@@ -137,8 +136,8 @@ void forWildScenes(const Check& check) {
             for (const std::int32_t place : numbers) {
                 Scene scene(wall);
                 scene.bend(place, size).bend(size, place, true).bend(size, size);
-                for (const std::int32_t k : {1, 2, 3, 53, 0, 101, 102, 103, 500, -1}) {
-                    scene.add(k, place, size);
+                for (const int k : {1, 2, 3, 53, 0, 101, 102, 103, 500, -1}) {
+                    scene.add(Kind{k}, place, size);
                 }
                 check(scene, size, place);
             }

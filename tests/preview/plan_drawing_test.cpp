@@ -12,8 +12,7 @@ namespace {
 // Layers are 1200 long and follow the opening.
 struct Scene : DrawnDesign<Scene, PlanInput> {
     explicit Scene(std::int32_t wall, Size client = {370, 130}) : DrawnDesign(wall, 900, client) {}
-    Scene& add(std::int32_t kind, std::int32_t width, std::int32_t height,
-               std::int32_t length = 1200) {
+    Scene& add(Kind kind, std::int32_t width, std::int32_t height, std::int32_t length = 1200) {
         DrawnDesign::add(kind, width, height);
         design.last()->length = length;
         design.last()->bearing = 125;
@@ -34,8 +33,8 @@ struct Scene : DrawnDesign<Scene, PlanInput> {
 };
 
 void bentFolded(Scene& s) {
-    s.bend(101, 75).bend(99, -150).add(kind::precast, 70, 238).add(kind::insulation, 80, 203);
-    s.add(kind::monolith, 150, 250).here().folded(2100);
+    s.bend(101, 75).bend(99, -150).add(Kind::precast, 70, 238).add(Kind::insulation, 80, 203);
+    s.add(Kind::monolith, 150, 250).here().folded(2100);
 }
 
 constexpr Size usual{370, 130};
@@ -47,32 +46,35 @@ constexpr NamedScene<Scene> drawings[] = {
      365,
      {417, 152},
      [](Scene& s) {
-         s.opening(1200.6).add(kind::precast, 70, 238, 1450).add(kind::insulation, 80, 200, 1450);
-         s.add(kind::beam, 55, 100, 1450).add(kind::space, 20, 238, 1450);
-         s.add(kind::monolith, 140, 250, 1450).here();
+         s.opening(1200.6).add(Kind::precast, 70, 238, 1450).add(Kind::insulation, 80, 200, 1450);
+         s.add(Kind::beam, 55, 100, 1450).add(Kind::space, 20, 238, 1450);
+         s.add(Kind::monolith, 140, 250, 1450).here();
      }},
     {"plan-fixed-lintel", 300, usual,
      [](Scene& s) {
-         s.add(kind::beam, 100, 100, 1199).add(kind::precast, 71, 238, 1490).folded(-30);
+         s.add(Kind::beam, 100, 100, 1199).add(Kind::precast, 71, 238, 1490).folded(-30);
          s.design.last()->bearing = 0;
      }},
     {"plan-bent", 300, large, bentFolded},
     // The head slopes from its second bend on.
     {"plan-sloping", 300, large,
      [](Scene& s) {
-         s.bend(100, 50).bend(100, 60, true).add(kind::beam, 91, 161).here();
-         s.add(kind::insulation, 150, 300).folded();
+         s.bend(100, 50).bend(100, 60, true).add(Kind::beam, 91, 161).here();
+         s.add(Kind::insulation, 150, 300).folded();
      }},
     {"plan-short-layer", 400, large,
      [](Scene& s) {
-         s.add(kind::angle, 45, 61, 799).add(kind::angleMirrored, 45, 61).here();
-         s.add(kind::channel, 45, 81).add(kind::channelMirrored, 45, 81).folded(-1005);
+         s.add(Kind::angle, 45, 61, 799).add(Kind::angleMirrored, 45, 61).here();
+         s.add(Kind::channel, 45, 81).add(Kind::channelMirrored, 45, 81).folded(-1005);
      }},
-    {"plan-thin-wall", 199, usual, [](Scene& s) { s.opening(600).add(5, 81, 100, 601).here(); }},
+    {"plan-thin-wall", 199, usual,
+     [](Scene& s) { s.opening(600).add(Kind{5}, 81, 100, 601).here(); }},
     {"plan-narrow-opening",
      300,
      {190, 300},
-     [](Scene& s) { s.opening(-199.9).add(104, 71, 238, 450).add(60, 21, 31, 450).folded(); }},
+     [](Scene& s) {
+         s.opening(-199.9).add(Kind{104}, 71, 238, 450).add(Kind{60}, 21, 31, 450).folded();
+     }},
 };
 
 TEST(PlanDrawing, DrawsWhatTheFilesSay) {

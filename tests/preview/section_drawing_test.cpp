@@ -19,8 +19,8 @@ struct Scene : DrawnDesign<Scene, SectionInput> {
 };
 
 void beamsAndInsulation(Scene& s) {
-    s.bend(151, -30).add(kind::beam, 101, 161, "I 160").add(kind::insulation, 81, 203).here();
-    s.add(kind::beam, 101, 161, "I 160");
+    s.bend(151, -30).add(Kind::beam, 101, 161, "I 160").add(Kind::insulation, 81, 203).here();
+    s.add(Kind::beam, 101, 161, "I 160");
 }
 
 constexpr Size usual{480, 400};
@@ -30,50 +30,50 @@ constexpr NamedScene<Scene> drawings[] = {
     {"one_bend", 300, usual,
      [](Scene& s) {
          s.opening(1200.6).here().bend(100, 50);
-         s.add(kind::precast, 71, 238, "KPV 7/145").add(kind::precast, 71, 238);
+         s.add(Kind::precast, 71, 238, "KPV 7/145").add(Kind::precast, 71, 238);
          s.input.exteriorLeft = false;
      }},
     {"beams_and_insulation", 300, usual, beamsAndInsulation},
     {"sloping_head", 301, usual,
      [](Scene& s) {
-         s.bend(101, 75).bend(7, 53, true).add(kind::precast, 71, 239, "KV ?/1 ?").here();
+         s.bend(101, 75).bend(7, 53, true).add(Kind::precast, 71, 239, "KV ?/1 ?").here();
          s.design.last()->bearing = 125;
          s.design.last()->length = 1500;
-         s.add(kind::precast, 71, 239, "KP").add(kind::space, 33, 100);
+         s.add(Kind::precast, 71, 239, "KP").add(Kind::space, 33, 100);
      }},
     // The flagged bend is not the last one, and goes down.
     {"sloping_middle", 300, usual,
      [](Scene& s) { s.bend(90, 60).bend(0, -45, true).bend(20, 10); }},
     {"angles", 200, usual,
      [](Scene& s) {
-         s.add(kind::angle, 45, 61, "L").here();
-         s.add(kind::insulation, 15, 61).add(kind::angleMirrored, 45, 61, "L");
+         s.add(Kind::angle, 45, 61, "L").here();
+         s.add(Kind::insulation, 15, 61).add(Kind::angleMirrored, 45, 61, "L");
      }},
     {"channels", 200, usual,
      [](Scene& s) {
-         s.add(kind::channel, 45, 81, "U").add(kind::space, 51, 81, "MEZERA");
-         s.add(kind::channelMirrored, 45, 81, "U").here();
+         s.add(Kind::channel, 45, 81, "U").add(Kind::space, 51, 81, "MEZERA");
+         s.add(Kind::channelMirrored, 45, 81, "U").here();
          s.input.dropMarker = 96;
      }},
     {"current_space", 365, other,
      [](Scene& s) {
-         s.add(kind::space, 123, 77, "MEZERA").here();
+         s.add(Kind::space, 123, 77, "MEZERA").here();
          s.input.dropMarker = 0;
      }},
     // A cast layer wider than the wall.
     {"current_monolith", 250, other,
      [](Scene& s) {
-         s.bend(125, 50).bend(60, 25).add(kind::monolith, 333, 251, "MONOLIT").here();
+         s.bend(125, 50).bend(60, 25).add(Kind::monolith, 333, 251, "MONOLIT").here();
      }},
     {"other_shapes", 400, usual,
      [](Scene& s) {
-         s.add(5, 81, 100, "?").here();
-         s.add(kind::precast, 70, 100).add(104, 33, 55).add(60, 21, 31);
+         s.add(Kind{5}, 81, 100, "?").here();
+         s.add(Kind::precast, 70, 100).add(Kind{104}, 33, 55).add(Kind{60}, 21, 31);
          s.design.head()->next->next->name.reset();
      }},
     // Elements without a value of their own to be typed over.
-    {"current_beam", 200, usual, [](Scene& s) { s.add(kind::beam, 99, 100, "I 100").here(); }},
-    {"current_of_no_kind", 200, usual, [](Scene& s) { s.add(105, 99, 100).here(); }},
+    {"current_beam", 200, usual, [](Scene& s) { s.add(Kind::beam, 99, 100, "I 100").here(); }},
+    {"current_of_no_kind", 200, usual, [](Scene& s) { s.add(Kind{105}, 99, 100).here(); }},
 };
 
 TEST(SectionDrawing, DrawsWhatTheFilesSay) {
@@ -87,7 +87,7 @@ TEST(SectionDrawing, TheMirrorButtonBelongsToShapesBehindTheFirst) {
                                                        {99, true}, {100, true}, {101, false}};
     for (const auto& [kind, mirrored] : kinds) {
         Scene scene(200);
-        scene.add(kind, 99, 100).here();
+        scene.add(Kind{kind}, 99, 100).here();
         RecordingCanvas canvas;
         const HitRegions regions = scene.draw(canvas);
         EXPECT_EQ(std::any_of(regions.begin(), regions.end(),

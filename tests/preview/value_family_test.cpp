@@ -64,7 +64,7 @@ TEST_F(ValueFamily, MoreBendsAreCountedFromTheRight) {
 
 TEST_F(ValueFamily, TheNumbersOfASpecialLayerAreKnownBesideABend) {
     bend(50, 200);
-    const CRez* layer = design.append(lx::layer(kind::insulation, 50));
+    const CRez* layer = design.append(lx::layer(Kind::insulation, 50));
     put(region::specialWidth, 66, {layer, EditField::width});
     put(region::number, 53, {layer, EditField::height});
     EXPECT_EQ(families(),

@@ -10,7 +10,7 @@
 
 namespace lx {
 
-inline std::unique_ptr<CRez> layer(std::int32_t kind, std::int32_t width, const char* name = "L") {
+inline std::unique_ptr<CRez> layer(Kind kind, std::int32_t width, const char* name = "L") {
     auto record = std::make_unique<CRez>();
     record->kind = kind;
     record->width = width;
@@ -20,7 +20,7 @@ inline std::unique_ptr<CRez> layer(std::int32_t kind, std::int32_t width, const 
 
 inline std::unique_ptr<CRez> headOf(std::int32_t wall, std::string_view label = {}) {
     auto record = std::make_unique<CRez>();
-    record->kind = kind::head;
+    record->kind = Kind::head;
     record->width = wall;
     record->setLabel(label);
     return record;
@@ -35,7 +35,7 @@ inline RezChain sampleDesign(std::string_view label = "A1", std::int32_t wall = 
     head->level = 1;
     head->addBend(100, 50, false);
     head->addBend(120, -30, true);
-    CRez* lintel = design.append(layer(kind::precast, 70, "KPV 7/145"));
+    CRez* lintel = design.append(layer(Kind::precast, 70, "KPV 7/145"));
     lintel->bearing = 125;
     lintel->typeIndex = 2;
     lintel->itemIndex = 5;
@@ -46,7 +46,7 @@ inline RezChain sampleDesign(std::string_view label = "A1", std::int32_t wall = 
     lintel->level = 50;
     lintel->letter = 'X';
     CRez* space = design.append(std::make_unique<CRez>());
-    space->kind = kind::space;
+    space->kind = Kind::space;
     space->offset = 70;
     return design;
 }

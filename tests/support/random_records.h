@@ -93,18 +93,19 @@ public:
             for (std::int32_t* field :
                  {&record->typeIndex, &record->itemIndex, &record->width, &record->height,
                   &record->length, &record->weight, &record->maxOpening, &record->offset,
-                  &record->level, &record->kind, &record->bearing}) {
+                  &record->level, &record->bearing}) {
                 *field = number();
             }
+            record->kind = Kind{number()};
             record->letter = letter();
             if (made.empty()) {
-                record->kind = kind::head;
+                record->kind = Kind::head;
                 record->setLabel(text(3));
                 for (int bends = below(4); bends > 0; --bends) {
                     record->addBend(number(), number(), oneIn(2));
                 }
             } else {
-                if (record->kind == kind::head) record->kind = kind::space;
+                if (record->kind == Kind::head) record->kind = Kind::space;
                 if (!oneIn(4)) record->name = text(storedNameLimit);
             }
             made.append(std::move(record));

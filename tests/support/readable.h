@@ -74,7 +74,7 @@ inline std::string readable(const CPreklItem* chain) {
 inline std::string readable(const CRez* head) {
     std::string text;
     for (const CRez* record = head; record; record = record->next) {
-        text += readableFields({{"kind", record->kind},
+        text += readableFields({{"kind", code(record->kind)},
                                 {"type", record->typeIndex},
                                 {"item", record->itemIndex},
                                 {"width", record->width},
