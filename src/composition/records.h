@@ -12,19 +12,63 @@
 
 namespace lx {
 
+// The stored fields of a bend and of a record, each told once and in the order in which files hold
+// them: field(type, name, value at first). The lists make the members and eachField, by which
+// records are read, written, copied, compared and printed. A CRez field has a FieldUse behind.
+#define LX_BEND_FIELDS(field)                                                             \
+    field(std::int32_t, run, 0);  /* mm from the previous bend, or from the first face */ \
+    field(std::int32_t, step, 0); /* mm, signed: change of the head's level here */       \
+    field(bool, flag, false);     /* a sloping last bend */
+#define LX_REZ_FIELDS(field)                                                                      \
+    field(std::int32_t, typeIndex, 0, carried);  /* catalogue type, from 0 */                     \
+    field(std::int32_t, itemIndex, 0, compared); /* item within its type, from 0; head: label */  \
+    field(std::int32_t, width, 0, compared);     /* mm across the wall; head: wall thickness */   \
+    field(std::int32_t, height, 0, carried);     /* mm; head: level of the lintel */              \
+    field(std::int32_t, length, 0, compared);    /* mm; head: opening width */                    \
+    field(std::int32_t, weight, 0, carried);     /* catalogue weight x 1000 */                    \
+    field(std::int32_t, maxOpening, 0, carried); /* mm; head: its bearing */                      \
+    field(std::int32_t, offset, 0, placed);      /* mm from the first wall face, by layOut */     \
+    field(std::int32_t, level, 0, placed);       /* mm, by layOut; head: its project */           \
+    field(Kind, kind, Kind::precast, compared);                                                   \
+    field(std::int32_t, bearing, 0, carried); /* mm; not 0: the length follows the opening */     \
+    field(std::optional<Text>, name, {}, compared);      /* layers; none without a designation */ \
+    field(std::unique_ptr<CZalom>, bends, {}, compared); /* head */                               \
+    field(char, letter, ' ', carried);                   /* composition letter */
+
+enum class FieldUse {
+    carried,   // by a copy
+    compared,  // the same, and by compare
+    placed     // compared, but a copy has no place yet
+};
+
+struct RezField {
+    std::string_view name;
+    FieldUse use;
+};
+
+#define LX_MEMBER(type, name, initial, ...) type name = initial
+
 // A step of the lintel head across the wall. Owns the bends behind it; destroyed without recursion.
 class CZalom {
 public:
+    CZalom() = default;
     CZalom(std::int32_t runMm, std::int32_t stepMm, bool isFlagged)
         : run(runMm), step(stepMm), flag(isFlagged) {}
-    CZalom(const CZalom& other) : run(other.run), step(other.step), flag(other.flag) {}
+    // Stands alone.
+    CZalom(const CZalom& other);
     CZalom& operator=(const CZalom&) = delete;
     virtual ~CZalom();
 
-    std::int32_t run = 0;   // mm from the previous bend, or from the first wall face
-    std::int32_t step = 0;  // mm, signed: change of the head's level here
-    bool flag = false;      // a sloping last bend
+    LX_BEND_FIELDS(LX_MEMBER)
     std::unique_ptr<CZalom> next;
+
+    // visit(name, the field of each bend)
+    template <class Visit, class... Bends>
+    static void eachField(Visit&& visit, Bends&... bends) {
+#define LX_VISIT(type, name, ...) visit(std::string_view(#name), bends.name...)
+        LX_BEND_FIELDS(LX_VISIT)
+#undef LX_VISIT
+    }
 };
 
 // Bubble label: up to 3 bytes and zeros behind them.
@@ -58,22 +102,21 @@ public:
         return *name;
     }
 
-    std::int32_t bearing = 0;  // mm; not 0: the length follows the opening by this much at each end
-    std::int32_t typeIndex = 0;   // catalogue type, from 0
-    std::int32_t itemIndex = 0;   // item within its type, from 0; head: the label
-    std::int32_t width = 0;       // mm across the wall; head: wall thickness
-    std::int32_t height = 0;      // mm; head: level of the lintel
-    std::int32_t length = 0;      // mm; head: opening width
-    std::int32_t weight = 0;      // catalogue weight x 1000
-    std::int32_t maxOpening = 0;  // mm; head: its bearing
-    std::int32_t offset = 0;      // mm from the first wall face, by layOut
-    std::int32_t level = 0;       // mm, by layOut; head: the project
-    Kind kind = Kind::precast;
-    std::optional<Text> name;       // layers; none where a catalogue item has no designation
-    std::unique_ptr<CZalom> bends;  // head
-    char letter = ' ';              // composition letter
-    CRez* next = nullptr;           // not owned
+    LX_REZ_FIELDS(LX_MEMBER)
+    CRez* next = nullptr;  // not owned
+
+    // visit(RezField, the field of each record)
+    template <class Visit, class... Records>
+    static void eachField(Visit&& visit, Records&... records) {
+#define LX_VISIT(type, name, initial, use) visit(RezField{#name, FieldUse::use}, records.name...)
+        LX_REZ_FIELDS(LX_VISIT)
+#undef LX_VISIT
+    }
 };
+
+#undef LX_MEMBER
+#undef LX_REZ_FIELDS
+#undef LX_BEND_FIELDS
 
 // Owns a chain of records and destroys it record by record. The links of its records are changed
 // through the chain alone.

@@ -6,51 +6,92 @@ namespace lx {
 
 namespace {
 
-void writeBends(const CZalom* bend, BinaryWriter& writer) {
-    writer.int32(bend ? 1 : 0);
-    for (; bend; bend = bend->next.get()) {
-        writer.int32(bendTag);
-        writer.int32(bend->run);
-        writer.int32(bend->step);
-        writer.byte(bend->flag ? 1 : 0);
-        writer.int32(bend->next ? 1 : 0);
-    }
-}
+// A head has bends where a layer has its name.
+class FieldWriter {
+public:
+    FieldWriter(BinaryWriter& writer, bool isHead) : m_writer(writer), m_isHead(isHead) {}
 
-void readBends(CRez& head, BinaryReader& reader) {
-    std::unique_ptr<CZalom>* end = &head.bends;
-    while (reader.int32() != 0) {
-        reader.int32();  // the tag, which decides nothing
-        const std::int32_t run = reader.int32();
-        if (reader.cutShort()) return;
-        const std::int32_t step = reader.int32();
-        *end = std::make_unique<CZalom>(run, step, reader.byte() != 0);
-        end = &(*end)->next;
+    template <class Field>
+    void operator()(const Field&, std::int32_t value) {
+        m_writer.int32(value);
     }
-}
+    template <class Field>
+    void operator()(const Field&, bool value) {
+        m_writer.byte(value ? 1 : 0);
+    }
+    void operator()(const RezField&, Kind kind) { m_writer.int32(code(kind)); }
+    void operator()(const RezField&, char letter) {
+        m_writer.byte(static_cast<unsigned char>(letter));
+    }
+    void operator()(const RezField&, const std::optional<Text>& name) {
+        if (m_isHead) return;
+        std::string_view text;
+        if (name) text = std::string_view(*name).substr(0, storedNameLimit);
+        m_writer.zeroTerminated(text.substr(0, text.find('\0')));
+    }
+    void operator()(const RezField&, const std::unique_ptr<CZalom>& bends) {
+        if (!m_isHead) return;
+        m_writer.int32(bends ? 1 : 0);
+        for (const CZalom* bend = bends.get(); bend; bend = bend->next.get()) {
+            m_writer.int32(bendTag);
+            CZalom::eachField(*this, *bend);
+            m_writer.int32(bend->next ? 1 : 0);
+        }
+    }
+
+private:
+    BinaryWriter& m_writer;
+    bool m_isHead;
+};
+
+// A field that is cut short becomes 0, but for the letter.
+class FieldReader {
+public:
+    FieldReader(BinaryReader& reader, bool isHead) : m_reader(reader), m_isHead(isHead) {}
+
+    template <class Field>
+    void operator()(const Field&, std::int32_t& value) {
+        value = m_reader.int32();
+    }
+    template <class Field>
+    void operator()(const Field&, bool& value) {
+        value = m_reader.byte() != 0;
+    }
+    void operator()(const RezField&, Kind& kind) {
+        kind = Kind{m_reader.int32()};
+        if (m_isHead) kind = Kind::head;
+    }
+    void operator()(const RezField&, char& letter) {
+        const auto read = static_cast<char>(m_reader.byte());
+        if (!m_reader.cutShort()) letter = read;
+    }
+    void operator()(const RezField&, std::optional<Text>& name) {
+        if (!m_isHead) name = Text(m_reader.zeroTerminated().substr(0, storedNameLimit));
+    }
+    void operator()(const RezField&, std::unique_ptr<CZalom>& bends) {
+        std::unique_ptr<CZalom>* end = &bends;
+        while (m_isHead && m_reader.int32() != 0) {
+            m_reader.int32();  // the tag, which decides nothing
+            if (!anyIntegerLeft()) return skipRest();
+            *end = std::make_unique<CZalom>();
+            CZalom::eachField(*this, **end);
+            end = &(*end)->next;
+        }
+    }
+    bool anyIntegerLeft() const { return m_reader.remaining() >= sizeof(std::int32_t); }
+
+private:
+    void skipRest() { m_reader.int32(); }
+
+    BinaryReader& m_reader;
+    bool m_isHead;
+};
 
 // What stands behind the tag. False when the bytes end before the first field.
 bool readRecord(CRez& record, BinaryReader& reader, bool isHead) {
-    record.typeIndex = reader.int32();
-    if (reader.cutShort()) return false;
-    record.itemIndex = reader.int32();
-    record.width = reader.int32();
-    record.height = reader.int32();
-    record.length = reader.int32();
-    record.weight = reader.int32();
-    record.maxOpening = reader.int32();
-    record.offset = reader.int32();
-    record.level = reader.int32();
-    record.kind = Kind{reader.int32()};
-    record.bearing = reader.int32();
-    if (isHead) {
-        record.kind = Kind::head;
-        readBends(record, reader);
-    } else {
-        record.name = Text(reader.zeroTerminated().substr(0, storedNameLimit));
-    }
-    const auto letter = static_cast<char>(reader.byte());
-    if (!reader.cutShort()) record.letter = letter;
+    FieldReader fields(reader, isHead);
+    if (!fields.anyIntegerLeft()) return false;
+    CRez::eachField(fields, record);
     return true;
 }
 
@@ -58,24 +99,7 @@ bool readRecord(CRez& record, BinaryReader& reader, bool isHead) {
 
 void writeRecord(const CRez& record, BinaryWriter& writer, bool isHead) {
     writer.int32(isHead ? headTag : layerTag);
-    writer.int32(record.typeIndex);
-    writer.int32(record.itemIndex);
-    writer.int32(record.width);
-    writer.int32(record.height);
-    writer.int32(record.length);
-    writer.int32(record.weight);
-    writer.int32(record.maxOpening);
-    writer.int32(record.offset);
-    writer.int32(record.level);
-    writer.int32(code(record.kind));
-    writer.int32(record.bearing);
-    if (isHead) {
-        writeBends(record.bends.get(), writer);
-    } else {
-        const std::string_view name = record.nameOrEmpty().substr(0, storedNameLimit);
-        writer.zeroTerminated(name.substr(0, name.find('\0')));
-    }
-    writer.byte(static_cast<unsigned char>(record.letter));
+    CRez::eachField(FieldWriter(writer, isHead), record);
 }
 
 void writeDesign(const CRez* head, BinaryWriter& writer) {

@@ -26,33 +26,47 @@ private:
     Text m_text;
 };
 
-void addRecord(Lines& lines, int index, const CRez& record) {
-    const std::pair<std::string_view, std::int32_t> fields[] = {{"kind", code(record.kind)},
-                                                                {"bearing", record.bearing},
-                                                                {"typeIndex", record.typeIndex},
-                                                                {"itemIndex", record.itemIndex},
-                                                                {"width", record.width},
-                                                                {"height", record.height},
-                                                                {"length", record.length},
-                                                                {"weight", record.weight},
-                                                                {"maxOpening", record.maxOpening},
-                                                                {"offset", record.offset},
-                                                                {"level", record.level}};
-    for (const auto& [field, value] : fields) lines.add("record", index, field, value);
-    if (record.isHead()) {
-        lines.add("record", index, "label", record.label());
-    } else {
-        lines.add("record", index, "name", record.nameOrEmpty());
+// The fields of a record or bend.
+class FieldLines {
+public:
+    FieldLines(Lines& lines, std::string_view what, int index)
+        : m_lines(lines), m_what(what), m_index(index) {}
+
+    void operator()(const RezField& field, std::int32_t value) { add(field.name, value); }
+    void operator()(const RezField& field, Kind kind) { add(field.name, code(kind)); }
+    void operator()(const RezField& field, char letter) {
+        add(field.name, std::string_view(&letter, 1));
     }
-    lines.add("record", index, "letter", std::string_view(&record.letter, 1));
+    // What a head and a layer do not share stands behind.
+    void operator()(const RezField&, const std::optional<Text>&) {}
+    void operator()(const RezField&, const std::unique_ptr<CZalom>&) {}
+    void operator()(std::string_view field, std::int32_t value) { add(field, value); }
+
+    template <class Value>
+    void add(std::string_view field, const Value& value) {
+        m_lines.add(m_what, m_index, field, value);
+    }
+
+private:
+    Lines& m_lines;
+    std::string_view m_what;
+    int m_index;
+};
+
+void addRecord(Lines& lines, int index, const CRez& record) {
+    FieldLines fields(lines, "record", index);
+    CRez::eachField(fields, record);
+    if (record.isHead()) {
+        fields.add("label", record.label());
+    } else {
+        fields.add("name", record.nameOrEmpty());
+    }
 }
 
 void addBends(Lines& lines, const CZalom* bends) {
     int index = 0;
     for (const CZalom* bend = bends; bend != nullptr; bend = bend->next.get(), ++index) {
-        lines.add("bend", index, "run", bend->run);
-        lines.add("bend", index, "step", bend->step);
-        lines.add("bend", index, "flag", bend->flag ? 1 : 0);
+        CZalom::eachField(FieldLines(lines, "bend", index), *bend);
     }
 }
 

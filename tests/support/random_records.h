@@ -90,28 +90,30 @@ public:
         RezChain made;
         for (int left = 1 + below(5); left > 0; --left) {
             auto record = std::make_unique<CRez>();
-            for (std::int32_t* field :
-                 {&record->typeIndex, &record->itemIndex, &record->width, &record->height,
-                  &record->length, &record->weight, &record->maxOpening, &record->offset,
-                  &record->level, &record->bearing}) {
-                *field = number();
-            }
-            record->kind = Kind{number()};
-            record->letter = letter();
+            CRez::eachField(*this, *record);
             if (made.empty()) {
                 record->kind = Kind::head;
+                record->name.reset();
                 record->setLabel(text(3));
                 for (int bends = below(4); bends > 0; --bends) {
                     record->addBend(number(), number(), oneIn(2));
                 }
             } else {
                 if (record->kind == Kind::head) record->kind = Kind::space;
-                if (!oneIn(4)) record->name = text(storedNameLimit);
             }
             made.append(std::move(record));
         }
         return made;
     }
+
+    // The fields of records.
+    void operator()(const RezField&, std::int32_t& value) { value = number(); }
+    void operator()(const RezField&, Kind& kind) { kind = Kind{number()}; }
+    void operator()(const RezField&, char& value) { value = letter(); }
+    void operator()(const RezField&, std::optional<Text>& name) {
+        if (!oneIn(4)) name = text(storedNameLimit);
+    }
+    void operator()(const RezField&, const std::unique_ptr<CZalom>&) {}
 
 private:
     void setItem(CPreklItem& record) {

@@ -70,28 +70,43 @@ inline std::string readable(const CPreklItem* chain) {
     return text;
 }
 
+// "name=value" of each field but the texts, with blanks between.
+class ReadableFields {
+public:
+    void operator()(std::string_view name, double value) { add(name, readable(value)); }
+    void operator()(std::string_view name, std::int32_t value) { add(name, std::to_string(value)); }
+    void operator()(std::string_view name, char value) {
+        add(name, readable(std::string_view(&value, 1)));
+    }
+    void operator()(std::string_view, const std::optional<Text>&) {}
+    template <class Value>
+    void operator()(const RezField& field, const Value& value) {
+        (*this)(field.name, value);
+    }
+    void operator()(const RezField& field, Kind kind) { (*this)(field.name, code(kind)); }
+    void operator()(const RezField&, const std::unique_ptr<CZalom>&) {}
+
+    const std::string& text() const { return m_text; }
+
+private:
+    void add(std::string_view name, const std::string& value) {
+        m_text.append(m_text.empty() ? "" : " ").append(name).append("=").append(value);
+    }
+    std::string m_text;
+};
+
 // A line for each record and each bend. A missing name is stored as an empty one.
 inline std::string readable(const CRez* head) {
     std::string text;
     for (const CRez* record = head; record; record = record->next) {
-        text += readableFields({{"kind", code(record->kind)},
-                                {"type", record->typeIndex},
-                                {"item", record->itemIndex},
-                                {"width", record->width},
-                                {"height", record->height},
-                                {"length", record->length},
-                                {"weight", record->weight},
-                                {"maxOpening", record->maxOpening},
-                                {"offset", record->offset},
-                                {"level", record->level},
-                                {"bearing", record->bearing}});
-        text += " letter=" + readable(std::string_view(&record->letter, 1)) + " " +
+        ReadableFields fields;
+        CRez::eachField(fields, *record);
+        text += fields.text() + " " +
                 readable(record->isHead() ? record->label() : Text(record->nameOrEmpty())) + "\n";
         for (const CZalom* bend = record->bends.get(); bend; bend = bend->next.get()) {
-            text +=
-                "  bend " +
-                readableFields({{"run", bend->run}, {"step", bend->step}, {"flag", bend->flag}}) +
-                "\n";
+            ReadableFields ofBend;
+            CZalom::eachField(ofBend, *bend);
+            text += "  bend " + ofBend.text() + "\n";
         }
     }
     return text;
