@@ -15,7 +15,7 @@ bool CEdDlg1::DoModal() {
                             {id::itemWeight, &texts.weight, 12, 1},
                             {id::itemQu, &texts.qu, 12, 3},
                             {id::itemDescription, &texts.description, 50},
-                            {id::itemMark, &texts.mark, 1}};
+                            {id::itemMark, &texts.compositionMark, 1}};
     return run(layout, fields, [this](Dialog& window) { window.setTitle(title); });
 }
 

@@ -46,20 +46,51 @@ void closeUp(CPreklItem* chain, std::int32_t number) {
     }
 }
 
+// visit(text, value of the item, its decimals)
+template <class Texts, class Item, class Visit>
+void eachValue(Texts& texts, Item& item, const Visit& visit) {
+#define LX_VISIT(type, name, initial, decimals) visit(texts.name, item.name, decimals)
+    LX_ITEM_VALUES(LX_VISIT)
+#undef LX_VISIT
+}
+
+struct Shown {
+    void operator()(Text& text, std::int32_t value, int) const { text = formatInt(value); }
+    void operator()(Text& text, double value, int decimals) const {
+        text = formatFixed(value, decimals);
+    }
+    void operator()(Text& text, const std::optional<Text>& value, int) const {
+        text = value.value_or(Text());
+    }
+    void operator()(Text& text, char mark, int) const {
+        text.clear();
+        if (static_cast<unsigned char>(mark) >= '0') text = Text(1, mark);
+    }
+};
+
+struct Typed {
+    void operator()(const Text& text, std::int32_t& value, int) const { value = leadingInt(text); }
+    void operator()(const Text& text, double& value, int) const { value = leadingDouble(text); }
+    void operator()(const Text& text, std::optional<Text>& value, int) const { value = text; }
+    void operator()(const Text& text, char& mark, int) const {
+        if (!text.empty()) mark = text.front();
+    }
+};
+
+void fill(EditorTexts& texts, const CPreklItem& item) {
+    eachValue(texts, item, Shown());
+}
+
 }  // namespace
+
+EditorTexts::EditorTexts() {
+    fill(*this, CPreklItem());
+    maxOpening.clear();
+}
 
 EditorTexts editorTexts(const CPreklItem& item) {
     EditorTexts texts;
-    texts.designation = item.nameOrEmpty();
-    texts.length = formatInt(item.length);
-    texts.width = formatInt(item.width);
-    texts.height = formatInt(item.height);
-    texts.maxOpening = formatInt(item.maxOpening);
-    texts.weight = formatFixed(item.weight, 1);
-    texts.qu = formatFixed(item.qu, 3);
-    texts.description = item.description.value_or(Text());
-    const char mark = item.compositionMark;
-    if (static_cast<unsigned char>(mark) >= '0') texts.mark = Text(1, mark);
+    fill(texts, item);
     return texts;
 }
 
@@ -121,15 +152,7 @@ CPreklItem& appendItem(Catalogue& chain, const CPreklItem& type, const EditorTex
 }
 
 void changeItem(CPreklItem& item, const EditorTexts& texts) {
-    item.designation = texts.designation;
-    item.length = leadingInt(texts.length);
-    item.width = leadingInt(texts.width);
-    item.height = leadingInt(texts.height);
-    item.maxOpening = leadingInt(texts.maxOpening);
-    item.weight = leadingDouble(texts.weight);
-    item.qu = leadingDouble(texts.qu);
-    item.description = texts.description;
-    if (!texts.mark.empty()) item.compositionMark = texts.mark.front();
+    eachValue(texts, item, Typed());
 }
 
 std::unique_ptr<CPreklItem> unlinkItem(Catalogue& chain, const CPreklItem& item) {

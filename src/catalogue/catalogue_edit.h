@@ -9,17 +9,15 @@
 
 namespace lx {
 
-// An item as the item editor holds it; at first as the editor opens for an item without a model.
+// An item as the item editor holds it: the texts of its values. An empty mark leaves the record's
+// as it is.
 struct EditorTexts {
-    Text designation;
-    Text length = "0";  // whole mm, as are the next three
-    Text width = "0";
-    Text height = "0";
-    Text maxOpening;
-    Text weight = "0.0";
-    Text qu = "0.000";
-    Text description;
-    Text mark;  // the composition mark; empty leaves the record's as it is
+    // As the editor opens for an item without a model.
+    EditorTexts();
+
+#define LX_TEXT(type, name, ...) Text name
+    LX_ITEM_VALUES(LX_TEXT)
+#undef LX_TEXT
 };
 
 EditorTexts editorTexts(const CPreklItem& item);

@@ -9,38 +9,47 @@ namespace lx {
 
 namespace {
 
-enum class Field {
-    designation,
-    length,
-    width,
-    height,
-    maxOpening,
-    weight,
-    qu,
-    description,
-    compositionMark
-};
+Text shown(std::int32_t value) {
+    return formatInt(value);
+}
+Text shown(const std::optional<Text>& value) {
+    return value.value_or(Text());
+}
+Text shown(char mark) {
+    return mark == '\0' ? Text() : Text(1, mark);
+}
+
+template <auto field>
+Text cell(const CPreklItem& record) {
+    return shown(record.*field);
+}
+Text weightCell(const CPreklItem& record) {
+    return formatFixed(record.weight, weightDecimals);
+}
+Text quCell(const CPreklItem& record) {
+    return record.qu > 0 ? formatFixed(record.qu, quDecimals) : Text(text::notGiven);
+}
 
 struct Column {
-    Field field;
+    Text (*cell)(const CPreklItem& record);
     std::string_view heading;
 };
 
-constexpr Column precastColumns[] = {{Field::designation, text::designation},
-                                     {Field::length, text::itemLength},
-                                     {Field::width, text::itemWidth},
-                                     {Field::height, text::itemHeight},
-                                     {Field::maxOpening, text::itemMaxOpening},
-                                     {Field::weight, text::itemWeight},
-                                     {Field::qu, text::itemQu},
-                                     {Field::description, text::description},
-                                     {Field::compositionMark, text::compositionMark}};
-constexpr Column steelColumns[] = {{Field::designation, text::designation},
-                                   {Field::width, text::itemWidth},
-                                   {Field::height, text::itemHeight},
-                                   {Field::weight, text::weightPerMetre},
-                                   {Field::qu, text::itemQu},
-                                   {Field::description, text::description}};
+constexpr Column precastColumns[] = {{cell<&CPreklItem::designation>, text::designation},
+                                     {cell<&CPreklItem::length>, text::itemLength},
+                                     {cell<&CPreklItem::width>, text::itemWidth},
+                                     {cell<&CPreklItem::height>, text::itemHeight},
+                                     {cell<&CPreklItem::maxOpening>, text::itemMaxOpening},
+                                     {weightCell, text::itemWeight},
+                                     {quCell, text::itemQu},
+                                     {cell<&CPreklItem::description>, text::description},
+                                     {cell<&CPreklItem::compositionMark>, text::compositionMark}};
+constexpr Column steelColumns[] = {{cell<&CPreklItem::designation>, text::designation},
+                                   {cell<&CPreklItem::width>, text::itemWidth},
+                                   {cell<&CPreklItem::height>, text::itemHeight},
+                                   {weightCell, text::weightPerMetre},
+                                   {quCell, text::itemQu},
+                                   {cell<&CPreklItem::description>, text::description}};
 
 std::span<const Column> columnsOf(CatalogueKind kind) {
     if (kind == CatalogueKind::steel) return steelColumns;
@@ -51,10 +60,6 @@ const Column* findColumn(int column, CatalogueKind kind) {
     const std::span<const Column> columns = columnsOf(kind);
     if (column < 0 || static_cast<std::size_t>(column) >= columns.size()) return nullptr;
     return &columns[static_cast<std::size_t>(column)];
-}
-
-Text markText(char mark) {
-    return mark == '\0' ? Text() : Text(1, mark);
 }
 
 }  // namespace
@@ -70,28 +75,7 @@ std::string_view itemHeading(int column, CatalogueKind kind) {
 
 Text cellText(const CPreklItem& record, int column, CatalogueKind kind) {
     const Column* found = findColumn(column, kind);
-    if (!found) return {};
-    switch (found->field) {
-        case Field::designation:
-            return Text(record.nameOrEmpty());
-        case Field::length:
-            return formatInt(record.length);
-        case Field::width:
-            return formatInt(record.width);
-        case Field::height:
-            return formatInt(record.height);
-        case Field::maxOpening:
-            return formatInt(record.maxOpening);
-        case Field::weight:
-            return formatFixed(record.weight, 1);
-        case Field::qu:
-            return record.qu > 0 ? formatFixed(record.qu, 3) : Text(text::notGiven);
-        case Field::description:
-            return record.description.value_or(Text());
-        case Field::compositionMark:
-            return markText(record.compositionMark);
-    }
-    return {};
+    return found ? found->cell(record) : Text();
 }
 
 Text rowsAsText(std::span<const CPreklItem* const> records, CatalogueKind kind) {

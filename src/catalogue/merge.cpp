@@ -12,15 +12,10 @@ namespace lx {
 
 namespace {
 
+// Of the same designation. The group is told anew behind.
 void update(CPreklItem& item, CPreklItem& from) {
-    item.length = from.length;
-    item.width = from.width;
-    item.height = from.height;
-    item.maxOpening = from.maxOpening;
-    item.weight = from.weight;
-    item.qu = from.qu;
-    item.description = std::move(from.description);
-    item.compositionMark = from.compositionMark;
+    CPreklItem::eachField([](std::string_view, auto& to, auto& value) { to = std::move(value); },
+                          item, from);
 }
 
 // The first item of each designation. One table serves one group after the other: what it needs is

@@ -8,22 +8,38 @@ namespace lx {
 
 namespace {
 
-std::optional<Text> readText(BinaryReader& reader, bool& damaged) {
-    std::string_view text = reader.zeroTerminated();
-    if (text.empty()) return std::nullopt;
-    if (text.size() > catalogueTextLimit) {
-        damaged = true;
-        text = text.substr(0, catalogueTextLimit);
-    }
-    return Text(text);
-}
+struct FieldReader {
+    BinaryReader& reader;
+    bool& damaged;
 
-void writeText(const std::optional<Text>& text, BinaryWriter& writer) {
-    std::string_view bytes;
-    if (text) bytes = std::string_view(*text).substr(0, catalogueTextLimit);
-    // A zero inside would end the text early and shift everything behind it.
-    writer.zeroTerminated(bytes.substr(0, bytes.find('\0')));
-}
+    void operator()(std::string_view, std::int32_t& value) const { value = reader.int32(); }
+    void operator()(std::string_view, double& value) const { value = reader.float64(); }
+    void operator()(std::string_view, char& value) const {
+        value = static_cast<char>(reader.byte());
+    }
+    void operator()(std::string_view, std::optional<Text>& value) const {
+        std::string_view text = reader.zeroTerminated();
+        if (text.empty()) return;
+        if (text.size() > catalogueTextLimit) damaged = true;
+        value = Text(text.substr(0, catalogueTextLimit));
+    }
+};
+
+struct FieldWriter {
+    BinaryWriter& writer;
+
+    void operator()(std::string_view, std::int32_t value) const { writer.int32(value); }
+    void operator()(std::string_view, double value) const { writer.float64(value); }
+    void operator()(std::string_view, char value) const {
+        writer.byte(static_cast<unsigned char>(value));
+    }
+    void operator()(std::string_view, const std::optional<Text>& value) const {
+        std::string_view bytes;
+        if (value) bytes = std::string_view(*value).substr(0, catalogueTextLimit);
+        // A zero inside would end the text early and shift everything behind it.
+        writer.zeroTerminated(bytes.substr(0, bytes.find('\0')));
+    }
+};
 
 }  // namespace
 
@@ -33,30 +49,12 @@ CPreklItem::~CPreklItem() {
 
 bool CPreklItem::readRecord(BinaryReader& reader, bool& damaged) {
     if (reader.remaining() < sizeof(std::int32_t)) return false;
-    group = reader.int32();
-    length = reader.int32();
-    width = reader.int32();
-    height = reader.int32();
-    maxOpening = reader.int32();
-    weight = reader.float64();
-    qu = reader.float64();
-    designation = readText(reader, damaged);
-    description = readText(reader, damaged);
-    compositionMark = static_cast<char>(reader.byte());
+    eachField(FieldReader{reader, damaged}, *this);
     return !reader.cutShort();
 }
 
 void CPreklItem::writeRecord(BinaryWriter& writer) const {
-    writer.int32(group);
-    writer.int32(length);
-    writer.int32(width);
-    writer.int32(height);
-    writer.int32(maxOpening);
-    writer.float64(weight);
-    writer.float64(qu);
-    writeText(designation, writer);
-    writeText(description, writer);
-    writer.byte(static_cast<unsigned char>(compositionMark));
+    eachField(FieldWriter{writer}, *this);
 }
 
 }  // namespace lx

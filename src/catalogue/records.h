@@ -18,6 +18,28 @@ enum class CatalogueKind : std::int32_t { precast = 0, steel = 1 };
 // Longest text of a record, in bytes, without its terminating zero.
 inline constexpr std::size_t catalogueTextLimit = 99;
 
+inline constexpr int weightDecimals = 1;
+inline constexpr int quDecimals = 3;
+
+// The stored fields of a record, each told once and in the order in which files hold them:
+// field(type, name, value at first, decimals where it is shown). The list makes the members, the
+// texts of the item editor, and eachField, by which records are read, written, merged and printed.
+#define LX_ITEM_FIELDS(field)                                              \
+    field(std::int32_t, group, -1, 0); /* type k: -k; item of type k: k */ \
+    LX_ITEM_VALUES(field)
+// Those that a user types. A negative length is the opening plus that much at each end; of a steel
+// type it is the number of the shape.
+#define LX_ITEM_VALUES(field)                                                           \
+    field(std::int32_t, length, 0, 0);          /* mm */                                \
+    field(std::int32_t, width, 0, 0);           /* mm */                                \
+    field(std::int32_t, height, 0, 0);          /* mm */                                \
+    field(std::int32_t, maxOpening, 0, 0);      /* mm */                                \
+    field(double, weight, 0.0, weightDecimals); /* kg per piece, steel: kg per metre */ \
+    field(double, qu, 0.0, quDecimals);         /* kN/m; 0 or less = none given */      \
+    field(std::optional<Text>, designation, {}, 0);                                     \
+    field(std::optional<Text>, description, {}, 0);                                     \
+    field(char, compositionMark, ' ', 0); /* letter in the rules file; blank = none */
+
 // One record. Owns the rest of the chain; destroyed without recursion.
 class CPreklItem {
 public:
@@ -41,19 +63,19 @@ public:
         return *designation;
     }
 
-    std::int32_t rowNo = 0;   // number in the browser's current list; never stored
-    std::int32_t group = -1;  // type k: -k; item of type k: k
-    std::int32_t length =
-        0;  // mm; negative: opening plus that much at each end; steel type: shape number
-    std::int32_t width = 0;       // mm
-    std::int32_t height = 0;      // mm
-    std::int32_t maxOpening = 0;  // mm
-    double weight = 0.0;          // kg per piece, steel: kg per metre
-    double qu = 0.0;              // kN/m; 0 or less = none given
-    std::optional<Text> designation;
-    std::optional<Text> description;
-    char compositionMark = ' ';  // letter that the rules file uses; blank = none
+#define LX_MEMBER(type, name, initial, decimals) type name = initial
+    LX_ITEM_FIELDS(LX_MEMBER)
+#undef LX_MEMBER
+    std::int32_t rowNo = 0;  // number in the browser's current list; never stored
     std::unique_ptr<CPreklItem> next;
+
+    // visit(name, the field of each record)
+    template <class Visit, class... Records>
+    static void eachField(Visit&& visit, Records&... records) {
+#define LX_VISIT(type, name, ...) visit(std::string_view(#name), records.name...)
+        LX_ITEM_FIELDS(LX_VISIT)
+#undef LX_VISIT
+    }
 };
 
 using Catalogue = std::unique_ptr<CPreklItem>;

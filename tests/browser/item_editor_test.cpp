@@ -29,7 +29,7 @@ struct ItemEditor : testing::Test {
     static std::string joined(const EditorTexts& t) {
         std::string all;
         for (const Text* text : {&t.designation, &t.length, &t.width, &t.height, &t.maxOpening,
-                                 &t.weight, &t.qu, &t.description, &t.mark}) {
+                                 &t.weight, &t.qu, &t.description, &t.compositionMark}) {
             all += toUtf8(*text) + "|";
         }
         return all;
@@ -42,7 +42,7 @@ struct ItemEditor : testing::Test {
 
 TEST_F(ItemEditor, OpensWithItsTextsAndKeepsThemOnCancel) {
     precast.texts.designation = "RZP 1/10"_cz;
-    precast.texts.mark = "A"_cz;
+    precast.texts.compositionMark = "A"_cz;
     EXPECT_FALSE(run(precast, title, [](Driver& d) {
         EXPECT_EQ(d.editSelection("Označení"), "0-8");
         retype(d, "Označení", "P1");

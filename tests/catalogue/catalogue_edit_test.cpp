@@ -77,7 +77,7 @@ TEST(CatalogueEdit, TakesAChainThatADamagedFileMade) {
 
 TEST(CatalogueEdit, FillsTheEditorFromARecordAndBack) {
     EditorTexts texts = editorTexts(CPreklItem());
-    EXPECT_EQ(texts.designation + texts.description + texts.mark, "");
+    EXPECT_EQ(texts.designation + texts.description + texts.compositionMark, "");
     EXPECT_EQ(texts.maxOpening + texts.weight + texts.qu, "00.00.000");
 
     const Catalogue made = madeCatalogue(1, 1);
@@ -101,7 +101,7 @@ TEST(CatalogueEdit, FillsTheEditorFromARecordAndBack) {
     } marks[] = {{' ', ""}, {'/', ""}, {'0', "0"}, {'Z', "Z"}, {'\xC8', "Č"_cz}, {'\0', ""}};
     for (const auto& expected : marks) {
         item.compositionMark = expected.mark;
-        EXPECT_EQ(editorTexts(item).mark, expected.text) << int{expected.mark};
+        EXPECT_EQ(editorTexts(item).compositionMark, expected.text) << int{expected.mark};
     }
 }
 
@@ -114,13 +114,13 @@ TEST(CatalogueEdit, ReadsLeadingNumbersAndKeepsAnEmptyMarkAndDescription) {
     texts.height = "99999999999";
     texts.weight = "1.5kg";
     texts.qu = "";
-    texts.mark = "XY";
+    texts.compositionMark = "XY";
     CPreklItem& item = appendItem(chain, *chain->next, texts);
     EXPECT_EQ(readable(&item),
-              "group=2 length=12 width=0 height=2147483647 maxOpening=0 weight=1.5 qu=0 mark=\"X\" "
-              "\"b\" \"\"\n");
+              "group=2 length=12 width=0 height=2147483647 maxOpening=0 weight=1.5 qu=0 "
+              "designation=\"b\" description=\"\" compositionMark=\"X\"\n");
 
-    texts.mark.clear();
+    texts.compositionMark.clear();
     changeItem(item, texts);
     EXPECT_EQ(item.compositionMark, 'X');
     EXPECT_EQ(appendItem(chain, *chain, texts).compositionMark, ' ');

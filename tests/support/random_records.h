@@ -57,12 +57,7 @@ public:
         Catalogue* end = &head;
         for (int left = below(8); left > 0; --left) {
             CPreklItem& record = appended(end);
-            record.group = number();
-            record.length = number();
-            setItem(record);
-            // An empty text is stored as none.
-            record.designation = text(catalogueTextLimit);
-            if (record.designation->empty()) record.designation.reset();
+            CPreklItem::eachField(*this, record);
         }
         return head;
     }
@@ -76,10 +71,11 @@ public:
         std::int32_t types = 0;
         for (int left = below(25); left > 0; --left) {
             CPreklItem& record = appended(end);
+            CPreklItem::eachField(*this, record);
             record.group = oneIn(3) ? -++types : below(6);
             if (anyNumbers) record.group = oneIn(8) ? (oneIn(2) ? lowest : highest) : below(8) - 4;
             record.length = below(4);
-            setItem(record);
+            record.designation.reset();
             if (!oneIn(5)) record.designation = Text(1, "aAbB"[below(4)]);
         }
         return head;
@@ -115,18 +111,16 @@ public:
     }
     void operator()(const RezField&, const std::unique_ptr<CZalom>&) {}
 
-private:
-    void setItem(CPreklItem& record) {
-        record.width = number();
-        record.height = number();
-        record.maxOpening = number();
-        record.weight = real();
-        record.qu = real();
-        record.compositionMark = letter();
-        record.description = text(catalogueTextLimit);
-        if (record.description->empty()) record.description.reset();
+    void operator()(std::string_view, std::int32_t& value) { value = number(); }
+    void operator()(std::string_view, double& value) { value = real(); }
+    void operator()(std::string_view, char& value) { value = letter(); }
+    // An empty text is stored as none.
+    void operator()(std::string_view, std::optional<Text>& value) {
+        value = text(catalogueTextLimit);
+        if (value->empty()) value.reset();
     }
 
+private:
     std::mt19937 m_random;
 };
 

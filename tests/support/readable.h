@@ -53,24 +53,7 @@ inline std::string readableFields(
     return text;
 }
 
-// A line for each record.
-inline std::string readable(const CPreklItem* chain) {
-    std::string text;
-    for (const CPreklItem* record = chain; record; record = record->next.get()) {
-        text += readableFields({{"group", record->group},
-                                {"length", record->length},
-                                {"width", record->width},
-                                {"height", record->height},
-                                {"maxOpening", record->maxOpening}});
-        text += " weight=" + readable(record->weight) + " qu=" + readable(record->qu) +
-                " mark=" + readable(std::string_view(&record->compositionMark, 1)) + " " +
-                readableOrNone(record->designation) + " " + readableOrNone(record->description) +
-                "\n";
-    }
-    return text;
-}
-
-// "name=value" of each field but the texts, with blanks between.
+// "name=value" of each field but the texts of layers and what they own, with blanks between.
 class ReadableFields {
 public:
     void operator()(std::string_view name, double value) { add(name, readable(value)); }
@@ -78,12 +61,15 @@ public:
     void operator()(std::string_view name, char value) {
         add(name, readable(std::string_view(&value, 1)));
     }
-    void operator()(std::string_view, const std::optional<Text>&) {}
+    void operator()(std::string_view name, const std::optional<Text>& value) {
+        add(name, readableOrNone(value));
+    }
     template <class Value>
     void operator()(const RezField& field, const Value& value) {
         (*this)(field.name, value);
     }
     void operator()(const RezField& field, Kind kind) { (*this)(field.name, code(kind)); }
+    void operator()(const RezField&, const std::optional<Text>&) {}
     void operator()(const RezField&, const std::unique_ptr<CZalom>&) {}
 
     const std::string& text() const { return m_text; }
@@ -94,6 +80,17 @@ private:
     }
     std::string m_text;
 };
+
+// A line for each record.
+inline std::string readable(const CPreklItem* chain) {
+    std::string text;
+    for (const CPreklItem* record = chain; record; record = record->next.get()) {
+        ReadableFields fields;
+        CPreklItem::eachField(fields, *record);
+        text += fields.text() + "\n";
+    }
+    return text;
+}
 
 // A line for each record and each bend. A missing name is stored as an empty one.
 inline std::string readable(const CRez* head) {
