@@ -1,6 +1,7 @@
 #include "catalogue/item_cells.h"
 
 #include <cstddef>
+#include <variant>
 
 #include "platform/numbers.h"
 #include "resources/strings.h"
@@ -9,47 +10,50 @@ namespace lx {
 
 namespace {
 
-Text shown(std::int32_t value) {
-    return formatInt(value);
-}
-Text shown(const std::optional<Text>& value) {
-    return value.value_or(Text());
-}
-Text shown(char mark) {
-    return mark == '\0' ? Text() : Text(1, mark);
-}
-
-template <auto field>
-Text cell(const CPreklItem& record) {
-    return shown(record.*field);
-}
-Text weightCell(const CPreklItem& record) {
-    return formatFixed(record.weight, weightDecimals);
-}
-Text quCell(const CPreklItem& record) {
-    return record.qu > 0 ? formatFixed(record.qu, quDecimals) : Text(text::notGiven);
-}
-
 struct Column {
-    Text (*cell)(const CPreklItem& record);
     std::string_view heading;
+    std::variant<std::int32_t CPreklItem::*, double CPreklItem::*,
+                 std::optional<Text> CPreklItem::*, char CPreklItem::*>
+        field;
+    int decimals = 0;
 };
 
-constexpr Column precastColumns[] = {{cell<&CPreklItem::designation>, text::designation},
-                                     {cell<&CPreklItem::length>, text::itemLength},
-                                     {cell<&CPreklItem::width>, text::itemWidth},
-                                     {cell<&CPreklItem::height>, text::itemHeight},
-                                     {cell<&CPreklItem::maxOpening>, text::itemMaxOpening},
-                                     {weightCell, text::itemWeight},
-                                     {quCell, text::itemQu},
-                                     {cell<&CPreklItem::description>, text::description},
-                                     {cell<&CPreklItem::compositionMark>, text::compositionMark}};
-constexpr Column steelColumns[] = {{cell<&CPreklItem::designation>, text::designation},
-                                   {cell<&CPreklItem::width>, text::itemWidth},
-                                   {cell<&CPreklItem::height>, text::itemHeight},
-                                   {weightCell, text::weightPerMetre},
-                                   {quCell, text::itemQu},
-                                   {cell<&CPreklItem::description>, text::description}};
+// The text of a field.
+struct Cell {
+    const CPreklItem& record;
+    int decimals;
+
+    Text operator()(std::int32_t CPreklItem::*field) const { return formatInt(record.*field); }
+    Text operator()(double CPreklItem::*field) const {
+        if (field == &CPreklItem::qu && !(record.qu > 0)) return Text(text::notGiven);
+        return formatFixed(record.*field, decimals);
+    }
+    Text operator()(std::optional<Text> CPreklItem::*field) const {
+        return (record.*field).value_or(Text());
+    }
+    Text operator()(char CPreklItem::*field) const {
+        return record.*field == '\0' ? Text() : Text(1, record.*field);
+    }
+};
+
+constexpr Column designation{text::designation, &CPreklItem::designation};
+constexpr Column width{text::itemWidth, &CPreklItem::width};
+constexpr Column height{text::itemHeight, &CPreklItem::height};
+constexpr Column qu{text::itemQu, &CPreklItem::qu, quDecimals};
+constexpr Column description{text::description, &CPreklItem::description};
+
+constexpr Column precastColumns[] = {designation,
+                                     {text::itemLength, &CPreklItem::length},
+                                     width,
+                                     height,
+                                     {text::itemMaxOpening, &CPreklItem::maxOpening},
+                                     {text::itemWeight, &CPreklItem::weight, weightDecimals},
+                                     qu,
+                                     description,
+                                     {text::compositionMark, &CPreklItem::compositionMark}};
+constexpr Column steelColumns[] = {
+    designation, width,      height, {text::weightPerMetre, &CPreklItem::weight, weightDecimals},
+    qu,          description};
 
 std::span<const Column> columnsOf(CatalogueKind kind) {
     if (kind == CatalogueKind::steel) return steelColumns;
@@ -75,7 +79,7 @@ std::string_view itemHeading(int column, CatalogueKind kind) {
 
 Text cellText(const CPreklItem& record, int column, CatalogueKind kind) {
     const Column* found = findColumn(column, kind);
-    return found ? found->cell(record) : Text();
+    return found ? std::visit(Cell{record, found->decimals}, found->field) : Text();
 }
 
 Text rowsAsText(std::span<const CPreklItem* const> records, CatalogueKind kind) {

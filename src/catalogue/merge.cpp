@@ -14,8 +14,8 @@ namespace {
 
 // Of the same designation. The group is told anew behind.
 void update(CPreklItem& item, CPreklItem& from) {
-    CPreklItem::eachField([](std::string_view, auto& to, auto& value) { to = std::move(value); },
-                          item, from);
+    CPreklItem::eachField([](const char*, auto& to, auto& value) { to = std::move(value); }, item,
+                          from);
 }
 
 // The first item of each designation. One table serves one group after the other: what it needs is

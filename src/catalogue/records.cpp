@@ -12,12 +12,10 @@ struct FieldReader {
     BinaryReader& reader;
     bool& damaged;
 
-    void operator()(std::string_view, std::int32_t& value) const { value = reader.int32(); }
-    void operator()(std::string_view, double& value) const { value = reader.float64(); }
-    void operator()(std::string_view, char& value) const {
-        value = static_cast<char>(reader.byte());
-    }
-    void operator()(std::string_view, std::optional<Text>& value) const {
+    void operator()(const char*, std::int32_t& value) const { value = reader.int32(); }
+    void operator()(const char*, double& value) const { value = reader.float64(); }
+    void operator()(const char*, char& value) const { value = static_cast<char>(reader.byte()); }
+    void operator()(const char*, std::optional<Text>& value) const {
         std::string_view text = reader.zeroTerminated();
         if (text.empty()) return;
         if (text.size() > catalogueTextLimit) damaged = true;
@@ -28,12 +26,12 @@ struct FieldReader {
 struct FieldWriter {
     BinaryWriter& writer;
 
-    void operator()(std::string_view, std::int32_t value) const { writer.int32(value); }
-    void operator()(std::string_view, double value) const { writer.float64(value); }
-    void operator()(std::string_view, char value) const {
+    void operator()(const char*, std::int32_t value) const { writer.int32(value); }
+    void operator()(const char*, double value) const { writer.float64(value); }
+    void operator()(const char*, char value) const {
         writer.byte(static_cast<unsigned char>(value));
     }
-    void operator()(std::string_view, const std::optional<Text>& value) const {
+    void operator()(const char*, const std::optional<Text>& value) const {
         std::string_view bytes;
         if (value) bytes = std::string_view(*value).substr(0, catalogueTextLimit);
         // A zero inside would end the text early and shift everything behind it.

@@ -72,7 +72,7 @@ public:
     // visit(name, the field of each record)
     template <class Visit, class... Records>
     static void eachField(Visit&& visit, Records&... records) {
-#define LX_VISIT(type, name, ...) visit(std::string_view(#name), records.name...)
+#define LX_VISIT(type, name, ...) visit(#name, records.name...)
         LX_ITEM_FIELDS(LX_VISIT)
 #undef LX_VISIT
     }

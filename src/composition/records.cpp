@@ -80,7 +80,7 @@ int compareRecords(const CRez& a, const CRez& b) {
 }  // namespace
 
 CZalom::CZalom(const CZalom& other) {
-    eachField([](std::string_view, auto& to, const auto& from) { to = from; }, *this, other);
+    eachField([](const char*, auto& to, const auto& from) { to = from; }, *this, other);
 }
 
 CZalom::~CZalom() {

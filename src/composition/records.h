@@ -42,7 +42,7 @@ enum class FieldUse {
 };
 
 struct RezField {
-    std::string_view name;
+    const char* name;
     FieldUse use;
 };
 
@@ -65,7 +65,7 @@ public:
     // visit(name, the field of each bend)
     template <class Visit, class... Bends>
     static void eachField(Visit&& visit, Bends&... bends) {
-#define LX_VISIT(type, name, ...) visit(std::string_view(#name), bends.name...)
+#define LX_VISIT(type, name, ...) visit(#name, bends.name...)
         LX_BEND_FIELDS(LX_VISIT)
 #undef LX_VISIT
     }
@@ -108,7 +108,12 @@ public:
     // visit(RezField, the field of each record)
     template <class Visit, class... Records>
     static void eachField(Visit&& visit, Records&... records) {
-#define LX_VISIT(type, name, initial, use) visit(RezField{#name, FieldUse::use}, records.name...)
+#define LX_VISIT(type, name, initial, use)                     \
+    {                                                          \
+        static constexpr RezField field{#name, FieldUse::use}; \
+        visit(field, records.name...);                         \
+    }                                                          \
+    static_cast<void>(0)
         LX_REZ_FIELDS(LX_VISIT)
 #undef LX_VISIT
     }

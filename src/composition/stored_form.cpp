@@ -12,37 +12,41 @@ public:
     FieldWriter(BinaryWriter& writer, bool isHead) : m_writer(writer), m_isHead(isHead) {}
 
     template <class Field>
-    void operator()(const Field&, std::int32_t value) {
+    void operator()(const Field&, std::int32_t value) const {
         m_writer.int32(value);
     }
     template <class Field>
-    void operator()(const Field&, bool value) {
+    void operator()(const Field&, bool value) const {
         m_writer.byte(value ? 1 : 0);
     }
-    void operator()(const RezField&, Kind kind) { m_writer.int32(code(kind)); }
-    void operator()(const RezField&, char letter) {
+    void operator()(const RezField&, Kind kind) const { m_writer.int32(code(kind)); }
+    void operator()(const RezField&, char letter) const {
         m_writer.byte(static_cast<unsigned char>(letter));
     }
-    void operator()(const RezField&, const std::optional<Text>& name) {
-        if (m_isHead) return;
-        std::string_view text;
-        if (name) text = std::string_view(*name).substr(0, storedNameLimit);
-        m_writer.zeroTerminated(text.substr(0, text.find('\0')));
-    }
-    void operator()(const RezField&, const std::unique_ptr<CZalom>& bends) {
-        if (!m_isHead) return;
-        m_writer.int32(bends ? 1 : 0);
-        for (const CZalom* bend = bends.get(); bend; bend = bend->next.get()) {
-            m_writer.int32(bendTag);
-            CZalom::eachField(*this, *bend);
-            m_writer.int32(bend->next ? 1 : 0);
-        }
-    }
+    void operator()(const RezField&, const std::optional<Text>& name) const;
+    void operator()(const RezField&, const std::unique_ptr<CZalom>& bends) const;
 
 private:
     BinaryWriter& m_writer;
     bool m_isHead;
 };
+
+void FieldWriter::operator()(const RezField&, const std::optional<Text>& name) const {
+    if (m_isHead) return;
+    std::string_view text;
+    if (name) text = std::string_view(*name).substr(0, storedNameLimit);
+    m_writer.zeroTerminated(text.substr(0, text.find('\0')));
+}
+
+void FieldWriter::operator()(const RezField&, const std::unique_ptr<CZalom>& bends) const {
+    if (!m_isHead) return;
+    m_writer.int32(bends ? 1 : 0);
+    for (const CZalom* bend = bends.get(); bend; bend = bend->next.get()) {
+        m_writer.int32(bendTag);
+        CZalom::eachField(*this, *bend);
+        m_writer.int32(bend->next ? 1 : 0);
+    }
+}
 
 // A field that is cut short becomes 0, but for the letter.
 class FieldReader {
@@ -50,48 +54,51 @@ public:
     FieldReader(BinaryReader& reader, bool isHead) : m_reader(reader), m_isHead(isHead) {}
 
     template <class Field>
-    void operator()(const Field&, std::int32_t& value) {
+    void operator()(const Field&, std::int32_t& value) const {
         value = m_reader.int32();
     }
     template <class Field>
-    void operator()(const Field&, bool& value) {
+    void operator()(const Field&, bool& value) const {
         value = m_reader.byte() != 0;
     }
-    void operator()(const RezField&, Kind& kind) {
+    void operator()(const RezField&, Kind& kind) const {
         kind = Kind{m_reader.int32()};
         if (m_isHead) kind = Kind::head;
     }
-    void operator()(const RezField&, char& letter) {
-        const auto read = static_cast<char>(m_reader.byte());
-        if (!m_reader.cutShort()) letter = read;
+    void operator()(const RezField&, char& letter) const {
+        const auto byte = static_cast<char>(m_reader.byte());
+        if (!m_reader.cutShort()) letter = byte;
     }
-    void operator()(const RezField&, std::optional<Text>& name) {
-        if (!m_isHead) name = Text(m_reader.zeroTerminated().substr(0, storedNameLimit));
-    }
-    void operator()(const RezField&, std::unique_ptr<CZalom>& bends) {
-        std::unique_ptr<CZalom>* end = &bends;
-        while (m_isHead && m_reader.int32() != 0) {
-            m_reader.int32();  // the tag, which decides nothing
-            if (!anyIntegerLeft()) return skipRest();
-            *end = std::make_unique<CZalom>();
-            CZalom::eachField(*this, **end);
-            end = &(*end)->next;
-        }
-    }
-    bool anyIntegerLeft() const { return m_reader.remaining() >= sizeof(std::int32_t); }
+    void operator()(const RezField&, std::optional<Text>& name) const;
+    void operator()(const RezField&, std::unique_ptr<CZalom>& bends) const;
 
 private:
-    void skipRest() { m_reader.int32(); }
-
     BinaryReader& m_reader;
     bool m_isHead;
 };
 
+void FieldReader::operator()(const RezField&, std::optional<Text>& name) const {
+    if (!m_isHead) name = Text(m_reader.zeroTerminated().substr(0, storedNameLimit));
+}
+
+// A bend without its run is none.
+void FieldReader::operator()(const RezField&, std::unique_ptr<CZalom>& bends) const {
+    std::unique_ptr<CZalom>* end = &bends;
+    while (m_isHead && m_reader.int32() != 0) {
+        m_reader.int32();  // the tag, which decides nothing
+        const bool any = m_reader.remaining() >= sizeof(std::int32_t);
+        auto bend = std::make_unique<CZalom>();
+        CZalom::eachField(*this, *bend);
+        if (!any) return;
+        *end = std::move(bend);
+        end = &(*end)->next;
+    }
+}
+
 // What stands behind the tag. False when the bytes end before the first field.
 bool readRecord(CRez& record, BinaryReader& reader, bool isHead) {
-    FieldReader fields(reader, isHead);
-    if (!fields.anyIntegerLeft()) return false;
-    CRez::eachField(fields, record);
+    if (reader.remaining() < sizeof(std::int32_t)) return false;
+    CRez::eachField(FieldReader(reader, isHead), record);
     return true;
 }
 

@@ -26,26 +26,18 @@ private:
     Text m_text;
 };
 
-// The fields of a record or bend.
+// The fields of a record or bend. What a head and a layer do not share stands behind.
 class FieldLines {
 public:
     FieldLines(Lines& lines, std::string_view what, int index)
         : m_lines(lines), m_what(what), m_index(index) {}
 
-    void operator()(const RezField& field, std::int32_t value) { add(field.name, value); }
-    void operator()(const RezField& field, Kind kind) { add(field.name, code(kind)); }
-    void operator()(const RezField& field, char letter) {
-        add(field.name, std::string_view(&letter, 1));
-    }
-    // What a head and a layer do not share stands behind.
-    void operator()(const RezField&, const std::optional<Text>&) {}
-    void operator()(const RezField&, const std::unique_ptr<CZalom>&) {}
-    void operator()(std::string_view field, std::int32_t value) { add(field, value); }
-
-    template <class Value>
-    void add(std::string_view field, const Value& value) {
-        m_lines.add(m_what, m_index, field, value);
-    }
+    void operator()(const char* field, std::int32_t value) const;
+    void operator()(const RezField& field, std::int32_t value) const { (*this)(field.name, value); }
+    void operator()(const RezField& field, Kind kind) const { (*this)(field.name, code(kind)); }
+    void operator()(const RezField& field, char letter) const;
+    void operator()(const RezField&, const std::optional<Text>&) const {}
+    void operator()(const RezField&, const std::unique_ptr<CZalom>&) const {}
 
 private:
     Lines& m_lines;
@@ -53,13 +45,20 @@ private:
     int m_index;
 };
 
+void FieldLines::operator()(const char* field, std::int32_t value) const {
+    m_lines.add(m_what, m_index, field, value);
+}
+
+void FieldLines::operator()(const RezField& field, char letter) const {
+    m_lines.add(m_what, m_index, field.name, std::string_view(&letter, 1));
+}
+
 void addRecord(Lines& lines, int index, const CRez& record) {
-    FieldLines fields(lines, "record", index);
-    CRez::eachField(fields, record);
+    CRez::eachField(FieldLines(lines, "record", index), record);
     if (record.isHead()) {
-        fields.add("label", record.label());
+        lines.add("record", index, "label", record.label());
     } else {
-        fields.add("name", record.nameOrEmpty());
+        lines.add("record", index, "name", record.nameOrEmpty());
     }
 }
 

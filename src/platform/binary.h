@@ -66,8 +66,8 @@ private:
 
 class BinaryWriter {
 public:
-    void int32(std::int32_t value) { number(value); }
-    void float64(double value) { number(value); }
+    void int32(std::int32_t value);
+    void float64(double value);
     void byte(unsigned char value) { m_bytes.push_back(static_cast<char>(value)); }
     void raw(std::string_view bytes) { m_bytes.append(bytes); }
     void zeroTerminated(std::string_view text) {
@@ -81,13 +81,6 @@ public:
     Bytes take() { return std::move(m_bytes); }
 
 private:
-    template <class T>
-    void number(T value) {
-        char buffer[sizeof value];
-        std::memcpy(buffer, &value, sizeof value);
-        m_bytes.append(buffer, sizeof value);
-    }
-
     Bytes m_bytes;
 };
 

@@ -111,11 +111,11 @@ public:
     }
     void operator()(const RezField&, const std::unique_ptr<CZalom>&) {}
 
-    void operator()(std::string_view, std::int32_t& value) { value = number(); }
-    void operator()(std::string_view, double& value) { value = real(); }
-    void operator()(std::string_view, char& value) { value = letter(); }
+    void operator()(const char*, std::int32_t& value) { value = number(); }
+    void operator()(const char*, double& value) { value = real(); }
+    void operator()(const char*, char& value) { value = letter(); }
     // An empty text is stored as none.
-    void operator()(std::string_view, std::optional<Text>& value) {
+    void operator()(const char*, std::optional<Text>& value) {
         value = text(catalogueTextLimit);
         if (value->empty()) value.reset();
     }

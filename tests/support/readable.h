@@ -56,12 +56,12 @@ inline std::string readableFields(
 // "name=value" of each field but the texts of layers and what they own, with blanks between.
 class ReadableFields {
 public:
-    void operator()(std::string_view name, double value) { add(name, readable(value)); }
-    void operator()(std::string_view name, std::int32_t value) { add(name, std::to_string(value)); }
-    void operator()(std::string_view name, char value) {
+    void operator()(const char* name, double value) { add(name, readable(value)); }
+    void operator()(const char* name, std::int32_t value) { add(name, std::to_string(value)); }
+    void operator()(const char* name, char value) {
         add(name, readable(std::string_view(&value, 1)));
     }
-    void operator()(std::string_view name, const std::optional<Text>& value) {
+    void operator()(const char* name, const std::optional<Text>& value) {
         add(name, readableOrNone(value));
     }
     template <class Value>
