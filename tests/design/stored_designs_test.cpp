@@ -137,9 +137,13 @@ TEST(LibraryProjects, NobodysOldDesignsAreANewProjects) {
         std::vector<std::int32_t> listed;
         std::vector<std::int32_t> stored;
         std::int32_t expected;
-    } cases[] = {{{0}, {}, 1},          {{0}, {7, 3, deletedProject}, 8},
-                 {{0, 9}, {7}, 10},     {{-7}, {}, 0},
-                 {{0, highest}, {}, 1}, {{0, highest}, {1, 3}, 2},
+    } cases[] = {{{0}, {}, 1},
+                 {{0}, {7, 3, deletedProject}, 8},
+                 {{0, 9}, {7}, 10},
+                 {{-7}, {deletedProject}, -6},
+                 {{-2}, {}, 0},
+                 {{0, highest}, {}, 1},
+                 {{0, highest}, {1, 3}, 2},
                  {{0, 1}, {highest}, 2}};
     for (const auto& c : cases) {
         MemoryFiles files;
