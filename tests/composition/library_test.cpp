@@ -224,9 +224,9 @@ TEST(Library, ImpossibleLengthsEndTheReading) {
         put(entry, 0, length);
         put(entry, 4, 1);
         foreign.content[path] += entry;
+        EXPECT_EQ(parseLibrary(foreign.content[path], 1).damaged, length == 8) << length;
         store(foreign, 1, "B", 310);
         EXPECT_EQ(listed(foreign.content[path], 1), "A  300 B  310 ") << length;
-        EXPECT_EQ(parseLibrary(foreign.content[path], 1).damaged, length == 8);
         EXPECT_EQ(deleteEntries(path, 1, "", foreign), length == 8) << length;
     }
 

@@ -64,6 +64,16 @@ TEST_F(FlaggedHead, TheRunReachesTheSecondFaceBeforeLevelsAreTaken) {
     EXPECT_EQ(back->level, 100);
 }
 
+TEST_F(FlaggedHead, ALayerWhoseBottomIsTheTopOfTheStepStaysAsHighAsItIs) {
+    make(300);
+    head->bends->step = 99;
+    head->bends->next->step = 4;
+    layOut(*head);
+    // 0.3 pixels a millimetre: 99 mm and the step's top, in two parts, both end in the 30th pixel.
+    settleSection(*head, {225, 300});
+    EXPECT_EQ(back->level, 99);
+}
+
 TEST_F(FlaggedHead, ImpossibleValuesAreHeld) {
     make(300);
     head->bends->run = 2147483647;

@@ -45,6 +45,20 @@ TEST_F(DesignModelTest, AHandedOverDesignReplacesTheHeadOfTheCall) {
     EXPECT_EQ(model.head()->label(), "Z");
 }
 
+TEST_F(DesignModelTest, WhatTheTypeItselfOffersFirstStaysSelectedBehindPicks) {
+    values.precast = catalogueOf({{-1, "T"},
+                                  {1, "C", 1500, 70, 1200},
+                                  {1, "B", 1500, 70, 1200},
+                                  {-2, "U"},
+                                  {2, "A", 1500, 70, 1200}});
+    const CPreklItem* last = values.precast.get();
+    while (last->next) last = last->next.get();
+    model.rebuildPrecastOffer(0, {last});
+    ASSERT_EQ(model.precastOffer().count(), 3);
+    EXPECT_EQ(model.precastOffer().selectedRecord()->name, "B");
+    EXPECT_EQ(model.precastOffer().selected(), 1);
+}
+
 TEST_F(DesignModelTest, WithoutADesignEverythingAnswers) {
     model.clear();
     EXPECT_EQ(values.precast, nullptr);

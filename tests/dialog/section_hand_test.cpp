@@ -66,6 +66,19 @@ TEST_F(SectionHand, ADragIsMarkedAndEndsWithTheButtonOrTheLayer) {
     });
 }
 
+TEST_F(SectionHand, EveryKindTurnsByFifty) {
+    add(Kind{60}, 40, "A");
+    add(Kind{50}, 40, "B");
+    runOn([](Driver& d) {
+        for (const char* name : {"layer 1", "layer 2"}) {
+            click(d, name);
+            click(d, "mirror");
+        }
+        EXPECT_TRUE(has(d, "record 1 kind 10") && has(d, "record 2 kind 0"));
+        d.press("OK");
+    });
+}
+
 TEST_F(SectionHand, ValuesTypedBeforeAreOfferedAndCanBeForgotten) {
     given.head()->addBend(175, 40, false);
     for (const auto& [key, value] :
