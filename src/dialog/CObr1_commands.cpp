@@ -80,7 +80,6 @@ void CObr1::OpenCatalogue(int request) {
     // change again.
     m_model.rebuildPrecastOffer(m_precast->selectedType(), browser.picked());
     m_precast->showOffer();
-    // The design is as it was: laid out, it would lose a description that the user has typed.
     RebuildSteelOffer();
 }
 

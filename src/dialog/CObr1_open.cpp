@@ -12,8 +12,6 @@
 
 namespace lx {
 
-namespace {}  // namespace
-
 void CObr1::connect() {
     Dialog& window = *m_window;
     DesignServices& services = *this;
