@@ -48,6 +48,7 @@ TEST(Resizing, AMinimizedDialogIsLaidOutAsItWillBeSeen) {
     for (const std::int32_t state : {8, 2}) {
         ResizableDialog open(bench);
         const Rect start = open.dialog->windowArea();
+        const int right = open.dialog->item(items).area().right;
         const std::int32_t dpi = bench.platform().screen().verticalDpi;
         const std::int32_t size[] = {start.width() + 50, start.height() + 20};
         const std::int32_t stored[] = {10, 10, size[0], size[1], dpi, state, items, 40};
@@ -56,6 +57,7 @@ TEST(Resizing, AMinimizedDialogIsLaidOutAsItWillBeSeen) {
         EXPECT_EQ(open.dialog->placement().normal,
                   (Rect{10, 10, start.width() + 60, start.height() + 30}));
         EXPECT_EQ(open.dialog->item(items).area().width(), 190) << state;
+        EXPECT_EQ(open.dialog->item(items).area().right, right + 50) << state;
     }
 }
 
