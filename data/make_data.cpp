@@ -24,8 +24,7 @@ public:
         if (m_types == 0) line.fail("an item before the first type");
         CPreklItem& item = append();
         item.group = m_types;
-        item.designation = line.text(1);
-        if (item.designation->empty()) line.fail("an item without a designation");
+        if (line.text(1).empty()) line.fail("an item without a designation");
         ++m_items;
         return item;
     }
@@ -47,64 +46,79 @@ private:
     int m_items = 0;
 };
 
-std::optional<Text> textOrNone(Text text) {
-    if (text.empty()) return std::nullopt;
-    return text;
+// Takes the values of an item's line by the names that the table gives to its fields; what it does
+// not name stays as it is.
+class NamedFields {
+public:
+    NamedFields(const SourceLine& names, const SourceLine& line) : m_names(names), m_line(line) {}
+
+    void operator()(const char* name, std::int32_t& value) {
+        if (const auto field = place(name)) value = m_line.whole(*field);
+    }
+    void operator()(const char* name, double& value) {
+        if (const auto field = place(name)) value = m_line.number(*field);
+    }
+    void operator()(const char* name, std::optional<Text>& value) {
+        const auto field = place(name);
+        if (field && !m_line.text(*field).empty()) value = m_line.text(*field);
+    }
+    void operator()(const char* name, char& value) {
+        const auto field = place(name);
+        const Text mark = field ? m_line.text(*field) : Text();
+        if (mark.size() > 1) m_line.fail("a mark is one letter");
+        if (!mark.empty()) value = mark.front();
+    }
+    std::size_t taken() const { return m_taken; }
+
+private:
+    std::optional<std::size_t> place(const std::string& name) {
+        for (std::size_t field = 1; field < m_names.fields(); ++field) {
+            if (m_names.utf8(field) != name) continue;
+            ++m_taken;
+            return field;
+        }
+        return std::nullopt;
+    }
+
+    const SourceLine& m_names;
+    const SourceLine& m_line;
+    std::size_t m_taken = 0;
+};
+
+void addItem(const SourceLine& names, const SourceLine& line, CatalogueBuilder& catalogue) {
+    line.expectFields(names.fields());
+    NamedFields fields(names, line);
+    CPreklItem::eachField(fields, catalogue.addItem(line));
+    if (fields.taken() + 1 != names.fields()) names.fail("a field that items do not have");
 }
 
-void addPrecastItem(const SourceLine& line, CatalogueBuilder& catalogue) {
-    line.expectFields(10);
-    CPreklItem& item = catalogue.addItem(line);
-    item.length = line.whole(2);
-    item.width = line.whole(3);
-    item.height = line.whole(4);
-    item.maxOpening = line.whole(5);
-    item.weight = line.number(6);
-    item.qu = line.number(7);
-    const Text mark = line.text(8);
-    if (mark.size() > 1) line.fail("a mark is one letter");
-    if (!mark.empty()) item.compositionMark = mark.front();
-    item.description = textOrNone(line.text(9));
+void addType(const SourceLine& line, CatalogueKind kind, CatalogueBuilder& catalogue) {
+    const bool steel = kind == CatalogueKind::steel;
+    line.expectFields(steel ? 3 : 2);
+    CPreklItem& type = catalogue.addType(line);
+    if (!steel) return;
+    type.length = line.whole(2);
+    if (type.length < 1 || type.length > 99) line.fail("a shape number is 1 to 99");
 }
 
-Catalogue precastCatalogue(const std::string& source, int& items) {
+Catalogue catalogueFrom(const std::string& source, CatalogueKind kind, int& items) {
     CatalogueBuilder catalogue;
+    std::optional<SourceLine> names;
     for (const SourceLine& line : readTable(source)) {
-        if (line.what() == "type") {
-            line.expectFields(2);
-            catalogue.addType(line);
-        } else if (line.what() == "item") {
-            addPrecastItem(line, catalogue);
+        if (line.what() == "fields") {
+            names = line;
+        } else if (line.what() == "type") {
+            addType(line, kind, catalogue);
+        } else if (line.what() == "item" && names) {
+            addItem(*names, line, catalogue);
         } else {
-            line.fail("neither type nor item");
+            line.fail("neither fields, nor a type, nor an item behind them");
         }
     }
     items = catalogue.items();
-    return catalogue.take();
-}
-
-Catalogue steelCatalogue(const std::string& source, int& items) {
-    CatalogueBuilder catalogue;
-    for (const SourceLine& line : readTable(source)) {
-        if (line.what() == "type") {
-            line.expectFields(3);
-            const int shape = line.whole(2);
-            if (shape < 1 || shape > 99) line.fail("a shape number is 1 to 99");
-            catalogue.addType(line).length = shape;
-        } else if (line.what() == "item") {
-            line.expectFields(6);
-            CPreklItem& item = catalogue.addItem(line);
-            item.length = 1;
-            item.width = line.whole(2);
-            item.height = line.whole(3);
-            item.weight = line.number(4);
-            item.description = textOrNone(line.text(5));
-        } else {
-            line.fail("neither type nor item");
-        }
-    }
-    items = catalogue.items();
-    return catalogue.take();
+    Catalogue head = catalogue.take();
+    completeShapes(kind, head.get());
+    return head;
 }
 
 // Whether a designation is meant: the same, or for "KPV 7/*" one that begins so.
@@ -185,8 +199,10 @@ std::string inFolder(const std::string& folder, std::string_view name) {
 void makeAll(const std::string& sources, const std::string& out) {
     int precastItems = 0;
     int sections = 0;
-    const Catalogue precast = precastCatalogue(inFolder(sources, "precast.txt"), precastItems);
-    const Catalogue steel = steelCatalogue(inFolder(sources, "steel.txt"), sections);
+    const Catalogue precast =
+        catalogueFrom(inFolder(sources, "precast.txt"), CatalogueKind::precast, precastItems);
+    const Catalogue steel =
+        catalogueFrom(inFolder(sources, "steel.txt"), CatalogueKind::steel, sections);
     RulesBuilder rules(precast.get());
     for (const SourceLine& line : readTable(inFolder(sources, "rules.txt"))) {
         if (line.what() == "wall") {

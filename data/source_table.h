@@ -22,6 +22,7 @@ public:
     void expectFields(std::size_t count) const {
         if (m_fields.size() != count) fail("expected " + std::to_string(count) + " fields");
     }
+    std::size_t fields() const { return m_fields.size(); }
     const std::string& what() const { return m_fields.front(); }
     std::string utf8(std::size_t field) const { return m_fields.at(field); }
     Text text(std::size_t field) const {

@@ -43,6 +43,11 @@ TEST(Layout, LayersNestAsTheirShapesAllow) {
          -90,
          Family::precast},
         {{{2, 60}, {insulation, 20}, {102, 10}, {4, 30}}, {0, 0, 20, 60}, 210, Family::steel},
+        // Shapes beside those that nest.
+        {{{insulation, 30}, {51, 20}, {insulation, 30}, {54, 60}, {4, 10}, {insulation, 20}},
+         {0, 30, 50, 80, 140, 150},
+         130,
+         Family::steel},
         // Special layers may; halves truncate.
         {{{1, 101}, {insulation, 20}, {103, 30}}, {0, 51, 71}, 199, Family::steel},
         {{{insulation, 80}, {1, 75}}, {0, 43}, 182, Family::steel},
