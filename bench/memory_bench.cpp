@@ -42,10 +42,10 @@ void catalogue(benchmark::State& state) {
     CPreklItem item;
     item.group = 1;
     BinaryWriter record;
-    writeRecord(item, record);
+    item.writeRecord(record);
     const HostileFile file(state, {}, [&](int) { return record.bytes(); });
     measure(state, [] {
-        auto loaded = loadCatalogue(CatalogueKind::precast, filePath, systemFiles());
+        auto loaded = loadCatalogue(CatalogueKind::precast, systemFiles().read(filePath).bytes);
         benchmark::DoNotOptimize(loaded);
     });
 }
