@@ -14,9 +14,9 @@
 
 #include "bench/growth.h"
 #include "catalogue/catalogue_file.h"
+#include "catalogue/item_rows.h"
 #include "catalogue/merge.h"
 #include "catalogue/natural_order.h"
-#include "catalogue/row_list.h"
 #include "tests/support/catalogues.h"
 
 namespace {

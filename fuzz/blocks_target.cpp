@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "fuzz/targets.h"
-#include "settings/store.h"
+#include "settings/ini_store.h"
 #include "tests/support/memory_files.h"
 #include "widgets/placement_list.h"
 #include "widgets/resize_rules.h"

@@ -1,8 +1,8 @@
 #include <utility>
 
 #include "catalogue/catalogue_file.h"
+#include "catalogue/item_rows.h"
 #include "catalogue/merge.h"
-#include "catalogue/row_list.h"
 #include "composition/offers.h"
 #include "fuzz/targets.h"
 #include "tests/support/catalogues.h"

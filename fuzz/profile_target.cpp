@@ -5,8 +5,8 @@
 #include "design/annotation_style.h"
 #include "entry/erase_choice.h"
 #include "fuzz/targets.h"
-#include "settings/keys.h"
-#include "settings/store.h"
+#include "settings/ini_store.h"
+#include "settings/setting_keys.h"
 #include "tests/support/memory_files.h"
 
 namespace lx::fuzz {

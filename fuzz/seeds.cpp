@@ -8,7 +8,7 @@
 #include "composition/projects.h"
 #include "design/annotation_style.h"
 #include "fuzz/targets.h"
-#include "settings/store.h"
+#include "settings/ini_store.h"
 #include "settings/value_history.h"
 #include "tests/support/catalogues.h"
 #include "tests/support/designs.h"

@@ -10,8 +10,8 @@
 #include "host/calls.h"
 #include "host/driver/driver.h"
 #include "host/held.h"
+#include "host/host_services.h"
 #include "host/scenario_folders.h"
-#include "host/services.h"
 
 namespace lx::host {
 

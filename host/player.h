@@ -9,7 +9,7 @@
 #include "host/calls.h"
 #include "host/chance.h"
 #include "host/driver/driver.h"
-#include "host/services.h"
+#include "host/host_services.h"
 
 namespace lx::host {
 

@@ -1,9 +1,9 @@
 #include "host/headless/headless_module.h"
 
-#include "entry/application.h"
+#include "entry/CLXdata6dlgApp.h"
 #include "entry/exports.h"
 #include "host/paths.h"
-#include "platform/headless/modules_headless.h"
+#include "platform/headless/headless_modules.h"
 
 namespace lx::host {
 

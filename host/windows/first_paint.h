@@ -3,9 +3,9 @@
 
 #include <iosfwd>
 
+#include "host/host_services.h"
 #include "host/options.h"
 #include "host/player.h"
-#include "host/services.h"
 
 namespace lx::host {
 

@@ -8,7 +8,7 @@ namespace {
 constexpr int longestName = 50;
 }
 
-bool CAddVyrobce::DoModal() {
+bool CAddVyrobce::doModal() {
     const Field fields[] = {{id::name, &name, longestName}};
     return run(nameTemplate, fields, [this](Dialog& window) {
         window.setTitle(title);

@@ -16,7 +16,7 @@ public:
     Text name;  // proposed; after OK what the user typed
 
     // True after OK.
-    bool DoModal();
+    bool doModal();
     // The window's title as caption, the stop icon.
     void showMessage(std::string_view text) { stop(text, title); }
 };

@@ -5,7 +5,7 @@
 
 namespace lx {
 
-int CBaseDlg::DoModal() {
+int CBaseDlg::doModal() {
     const std::unique_ptr<Dialog> window = m_platform.createDialog(chooserTemplate, m_parent);
     window->setIcon(icon::module);
     for (const int choice : {id::choosePrecast, id::chooseSteel}) {

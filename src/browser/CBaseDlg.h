@@ -11,7 +11,7 @@ public:
     CBaseDlg(Platform& platform, Owner parent) : m_platform(platform), m_parent(parent) {}
 
     // id::choosePrecast, id::chooseSteel, id::cancel, or -1 when the dialog could not be made.
-    int DoModal();
+    int doModal();
 
 private:
     Platform& m_platform;

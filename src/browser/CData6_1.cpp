@@ -41,7 +41,7 @@ MessageAnswer CData6_1::message(std::string_view text, std::string_view caption,
 
 int CData6_1::runStandAlone() {
     m_standAlone = true;
-    const int choice = CBaseDlg(m_platform, m_owner).DoModal();
+    const int choice = CBaseDlg(m_platform, m_owner).doModal();
     if (choice == failed) return failed;
     if (choice == id::cancel) return nothingChosen;
     m_request.kind = choice == id::choosePrecast ? CatalogueKind::precast : CatalogueKind::steel;

@@ -11,7 +11,7 @@
 #include "catalogue/catalogue_edit.h"
 #include "catalogue/catalogue_session.h"
 #include "catalogue/column_settings.h"
-#include "widgets/resize_wnd.h"
+#include "widgets/resizeWnd.h"
 
 namespace lx {
 

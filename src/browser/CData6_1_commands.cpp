@@ -41,7 +41,7 @@ bool CData6_1::mayDelete(const CPreklItem& record, std::string_view question) co
 
 std::optional<Text> CData6_1::askTypeName(int& shape) {
     const auto accepted = [this](auto& dialog) -> std::optional<Text> {
-        while (dialog.DoModal()) {
+        while (dialog.doModal()) {
             const std::string_view refusal = newTypeRefusal(m_items->get(), dialog.name);
             if (refusal.empty()) return dialog.name;
             dialog.showMessage(refusal);
@@ -76,7 +76,7 @@ void CData6_1::renameType() {
     dialog.title = text::renameType;
     dialog.label = text::name;
     dialog.name = type->nameOrEmpty();
-    while (dialog.DoModal()) {
+    while (dialog.doModal()) {
         const std::string_view refusal = renameRefusal(m_items->get(), *type, dialog.name);
         if (!refusal.empty()) {
             dialog.showMessage(refusal);
@@ -111,7 +111,7 @@ std::optional<EditorTexts> CData6_1::askItem(bool asNew) {
     editor.title = Text(asNew ? text::newBefore : text::changeBefore)
                        .append(steel() ? text::section : text::lintel);
     if (const CPreklItem* model = m_list->selected()) editor.texts = editorTexts(*model);
-    while (editor.DoModal()) {
+    while (editor.doModal()) {
         if (!editor.texts.designation.empty()) return editor.texts;
         editor.showMessage(text::nameMissing);
     }

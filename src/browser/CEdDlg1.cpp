@@ -4,7 +4,7 @@
 
 namespace lx {
 
-bool CEdDlg1::DoModal() {
+bool CEdDlg1::doModal() {
     const DialogTemplate& layout =
         m_kind == CatalogueKind::steel ? steelItemTemplate : precastItemTemplate;
     const Field fields[] = {{id::itemDesignation, &texts.designation, 50},

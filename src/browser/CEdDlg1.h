@@ -17,7 +17,7 @@ public:
     EditorTexts texts;  // proposed; after OK what the user left
 
     // True after OK; otherwise the texts stay.
-    bool DoModal();
+    bool doModal();
     // "Upozornění" as caption, the stop icon.
     void showMessage(std::string_view text);
 

@@ -4,7 +4,7 @@
 #include <functional>
 #include <span>
 
-#include "catalogue/records.h"
+#include "catalogue/CPreklItem.h"
 #include "platform/dialog.h"
 
 namespace lx {

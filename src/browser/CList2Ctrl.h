@@ -5,7 +5,7 @@
 #include <functional>
 #include <vector>
 
-#include "catalogue/row_list.h"
+#include "catalogue/item_rows.h"
 #include "platform/platform.h"
 
 namespace lx {

@@ -16,7 +16,7 @@ constexpr int usableShapes = static_cast<int>(std::size(text::shapes));
 
 }  // namespace
 
-bool CTypPrurez::DoModal() {
+bool CTypPrurez::doModal() {
     const Field fields[] = {{id::sectionName, &name, longestName}};
     return run(sectionTypeTemplate, fields, [this](Dialog& window) { dressShapes(window); });
 }

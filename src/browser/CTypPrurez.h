@@ -16,7 +16,7 @@ public:
     int shape = 0;  // of the button clicked last, from 1; 0 = none was
 
     // True after OK.
-    bool DoModal();
+    bool doModal();
     // No caption, the stop icon.
     void showMessage(std::string_view text) { stop(text, {}); }
 

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "catalogue/records.h"
+#include "catalogue/CPreklItem.h"
 
 namespace lx {
 

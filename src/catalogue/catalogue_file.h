@@ -3,8 +3,8 @@
 
 #include <optional>
 
+#include "catalogue/CPreklItem.h"
 #include "catalogue/catalogue_state.h"
-#include "catalogue/records.h"
 #include "platform/files.h"
 #include "platform/host.h"
 

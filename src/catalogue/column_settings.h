@@ -7,9 +7,9 @@
 #include <span>
 #include <vector>
 
-#include "catalogue/records.h"
-#include "settings/keys.h"
+#include "catalogue/CPreklItem.h"
 #include "settings/profile.h"
+#include "settings/setting_keys.h"
 
 namespace lx {
 

@@ -3,7 +3,7 @@
 
 #include <span>
 
-#include "catalogue/records.h"
+#include "catalogue/CPreklItem.h"
 
 namespace lx {
 

@@ -2,7 +2,7 @@
 // user's own types and items survive.
 #pragma once
 
-#include "catalogue/records.h"
+#include "catalogue/CPreklItem.h"
 
 namespace lx {
 

@@ -5,7 +5,7 @@
 
 #include <span>
 
-#include "composition/records.h"
+#include "composition/CRez.h"
 #include "settings/profile.h"
 
 namespace lx {

@@ -2,7 +2,7 @@
 // end.
 #pragma once
 
-#include "composition/records.h"
+#include "composition/CRez.h"
 
 namespace lx {
 

@@ -2,8 +2,8 @@
 // and module.
 #pragma once
 
-#include "catalogue/records.h"
-#include "composition/records.h"
+#include "catalogue/CPreklItem.h"
+#include "composition/CRez.h"
 #include "platform/files.h"
 
 namespace lx {

@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "composition/records.h"
+#include "composition/CRez.h"
 
 namespace lx {
 

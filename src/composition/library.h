@@ -6,7 +6,7 @@
 #include <set>
 #include <vector>
 
-#include "composition/records.h"
+#include "composition/CRez.h"
 #include "platform/files.h"
 #include "platform/geometry.h"
 

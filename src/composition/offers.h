@@ -3,8 +3,8 @@
 
 #include <vector>
 
-#include "catalogue/records.h"
-#include "composition/records.h"
+#include "catalogue/CPreklItem.h"
+#include "composition/CRez.h"
 
 namespace lx {
 

@@ -1,6 +1,6 @@
 #include <utility>
 
-#include "composition/records.h"
+#include "composition/CRez.h"
 
 namespace lx {
 

@@ -3,7 +3,7 @@
 // that is shown, stored and compared depends on the size of the preview.
 #pragma once
 
-#include "composition/records.h"
+#include "composition/CRez.h"
 #include "platform/geometry.h"
 
 namespace lx {

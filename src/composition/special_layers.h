@@ -1,7 +1,7 @@
 // Layers that come from no catalogue.
 #pragma once
 
-#include "composition/records.h"
+#include "composition/CRez.h"
 
 namespace lx {
 

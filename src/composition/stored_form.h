@@ -1,7 +1,7 @@
 // Designs as bytes: the record form that the library, project and hand-over files share.
 #pragma once
 
-#include "composition/records.h"
+#include "composition/CRez.h"
 #include "platform/binary.h"
 
 namespace lx {

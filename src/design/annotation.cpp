@@ -1,6 +1,6 @@
 #include "design/annotation.h"
 
-#include "settings/keys.h"
+#include "settings/setting_keys.h"
 
 namespace lx {
 

@@ -5,7 +5,7 @@
 
 #include "platform/numbers.h"
 #include "resources/strings.h"
-#include "settings/keys.h"
+#include "settings/setting_keys.h"
 
 namespace lx {
 

@@ -1,7 +1,7 @@
 // Which of the layer buttons may be used now.
 #pragma once
 
-#include "composition/records.h"
+#include "composition/CRez.h"
 
 namespace lx {
 

@@ -1,7 +1,7 @@
 // The ready-made shapes of a bent lintel head.
 #pragma once
 
-#include "composition/records.h"
+#include "composition/CRez.h"
 
 namespace lx {
 

@@ -1,7 +1,7 @@
 // The design as text for programs that compare: every field of every record and bend, one a line.
 #pragma once
 
-#include "composition/records.h"
+#include "composition/CRez.h"
 
 namespace lx {
 

@@ -1,7 +1,7 @@
 // The description of a lintel that goes into the drawing: its layers, equal neighbours counted.
 #pragma once
 
-#include "composition/records.h"
+#include "composition/CRez.h"
 
 namespace lx {
 

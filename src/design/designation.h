@@ -1,7 +1,7 @@
 // How a layer is called where it is shown.
 #pragma once
 
-#include "composition/records.h"
+#include "composition/CRez.h"
 
 namespace lx {
 

@@ -1,7 +1,7 @@
 #include "design/dialog_settings.h"
 
 #include "platform/numbers.h"
-#include "settings/keys.h"
+#include "settings/setting_keys.h"
 
 namespace lx {
 

@@ -2,7 +2,7 @@
 // its record rather than by an address, so that a name whose record is gone is noticed.
 #pragma once
 
-#include "composition/records.h"
+#include "composition/CRez.h"
 
 namespace lx {
 

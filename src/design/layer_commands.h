@@ -2,7 +2,7 @@
 // its current record. None of them lays the design out.
 #pragma once
 
-#include "composition/records.h"
+#include "composition/CRez.h"
 
 namespace lx {
 

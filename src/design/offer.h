@@ -4,7 +4,7 @@
 #include <span>
 #include <vector>
 
-#include "composition/records.h"
+#include "composition/CRez.h"
 
 namespace lx {
 

@@ -6,7 +6,7 @@
 #include <memory>
 #include <optional>
 
-#include "composition/records.h"
+#include "composition/CRez.h"
 
 namespace lx {
 

@@ -1,7 +1,7 @@
 // How far a lintel reaches beyond the opening at each end, as the plan shows it.
 #pragma once
 
-#include "composition/records.h"
+#include "composition/CRez.h"
 
 namespace lx {
 

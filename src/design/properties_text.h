@@ -2,7 +2,7 @@
 // selected in an offer.
 #pragma once
 
-#include "composition/records.h"
+#include "composition/CRez.h"
 
 namespace lx {
 

@@ -1,7 +1,7 @@
 // Whether a stored design still suits the opening.
 #pragma once
 
-#include "composition/records.h"
+#include "composition/CRez.h"
 
 namespace lx {
 

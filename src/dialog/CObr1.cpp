@@ -38,7 +38,7 @@ CObr1::~CObr1() {
     m_model.clear();
 }
 
-int CObr1::DoModal() {
+int CObr1::doModal() {
     m_helpTopic = resultB != 0 ? helpTopicFoldedSection : helpTopic;
     m_window = m_context.platform.createDialog(designTemplate, m_owner);
     m_window->onInit = [this] { open(); };
@@ -52,15 +52,15 @@ std::array<DesignPage*, page::count> CObr1::pages() const {
 
 int CObr1::Relayout() {
     if (!m_model.Relayout()) return -1;
-    RefreshShown();
-    m_geometry->RefreshDescription();
+    refreshShown();
+    m_geometry->refreshDescription();
     return 0;
 }
 
-void CObr1::RefreshShown() {
-    RedrawPreviews();
+void CObr1::refreshShown() {
+    redrawPreviews();
     RefreshProperties();
-    RefreshAvailability();
+    refreshAvailability();
     m_precast->refreshOfferLooks();
     m_steel->refreshOfferLooks();
     m_libraryPage->refreshDesignLooks();
@@ -68,22 +68,22 @@ void CObr1::RefreshShown() {
 
 void CObr1::SelectRecord(CRez* record) {
     m_model.select(record);
-    RedrawPreviews();
+    redrawPreviews();
     RefreshProperties();
-    RefreshAvailability();
+    refreshAvailability();
 }
 
-void CObr1::RedrawPreviews() {
+void CObr1::redrawPreviews() {
     m_section->redraw();
     m_geometry->redrawPlan();
 }
 
-void CObr1::ShowBearing(std::int32_t bearing) {
+void CObr1::showBearing(std::int32_t bearing) {
     const Text text = fillIn(text::bearing, {formatInt(bearing)});
     m_window->get<Edit>(id::properties).setText(text);
 }
 
-void CObr1::EnableConfirmation(bool on) {
+void CObr1::enableConfirmation(bool on) {
     m_window->item(id::ok).enable(on);
 }
 
@@ -109,7 +109,7 @@ void CObr1::RefreshProperties() {
     }
 }
 
-void CObr1::RefreshAvailability() {
+void CObr1::refreshAvailability() {
     const Availability available = m_model.available();
     for (DesignPage* one : pages()) one->showAvailability(available);
 }
@@ -117,15 +117,15 @@ void CObr1::RefreshAvailability() {
 void CObr1::RebuildPrecastOffer() {
     m_model.rebuildPrecastOffer(m_precast->selectedType());
     m_precast->showOffer();
-    EndEdit();
-    RefreshAvailability();
+    endEdit();
+    refreshAvailability();
     RefreshProperties();
 }
 
 void CObr1::RebuildSteelOffer() {
     m_model.rebuildSteelOffer(m_steel->selectedType());
     m_steel->showOffer();
-    RefreshAvailability();
+    refreshAvailability();
     RefreshProperties();
 }
 
@@ -154,7 +154,7 @@ KeyAnswer CObr1::key(const KeyEvent& event) {
 
 // A page that goes takes its focused control along, so the new page has to take the focus over.
 void CObr1::changeTab(int index) {
-    EndEdit();
+    endEdit();
     const bool keepFocus = focusOutsidePages();
     m_window->get<TabControl>(id::tabs).select(index);
     ShowTab(index);
@@ -179,11 +179,11 @@ void CObr1::layOutToConfirm() {
     const bool untouched = m_geometry->description() == descriptionSummary(*head);
     m_model.Relayout();
     if (untouched) m_geometry->setDescription(descriptionSummary(*head));
-    RefreshShown();
+    refreshShown();
 }
 
 void CObr1::confirm() {
-    if (!EndEdit()) return;
+    if (!endEdit()) return;
     layOutToConfirm();
     const ConfirmationInput input{m_geometry->bubbleName(),
                                   m_geometry->description(),

@@ -5,10 +5,10 @@
 #include <array>
 
 #include "design/catalogue_choice.h"
+#include "design/design_services.h"
 #include "design/dialog_settings.h"
 #include "design/library_session.h"
 #include "design/page_index.h"
-#include "design/services.h"
 #include "dialog/CRoletka.h"
 #include "preview/CObr.h"
 #include "tabs/CTabGeometrie.h"
@@ -36,7 +36,7 @@ public:
 
     // Runs the dialog on the module-wide values: 1 after OK, 2 after Cancel or when a catalogue
     // cannot be opened, -1 when the window could not be made. Once per object.
-    int DoModal();
+    int doModal();
 
 private:
     // ---- services to the pages and previews
@@ -46,25 +46,25 @@ private:
     DialogSettings& settings() override { return m_settings; }
     Dialog& window() override { return *m_window; }
     int Relayout() override;
-    void RefreshShown() override;
+    void refreshShown() override;
     void SelectRecord(CRez* record) override;
     void RefreshProperties() override;
-    void RefreshAvailability() override;
+    void refreshAvailability() override;
     void RebuildPrecastOffer() override;
     void RebuildSteelOffer() override;
-    void SetBends(int shape) override;
+    void bendHead(int shape) override;
     void ComposePrecast() override;
     void ComposeSteel() override;
-    void RemoveCurrent() override;
+    void removeCurrentLayer() override;
     void OpenCatalogue(int request) override;
-    bool EndEdit() override { return m_roletka->commit(); }
-    void OpenEdit(const EditRequest& request, Picture& picture, Point at) override {
+    bool endEdit() override { return m_roletka->commit(); }
+    void openEdit(const EditRequest& request, Picture& picture, Point at) override {
         m_roletka->open(request, picture, at);
     }
     bool editVisible() const override { return m_roletka->visible(); }
     EditTarget lastEdited() const override { return m_roletka->lastTarget(); }
-    void ShowBearing(std::int32_t bearing) override;
-    void EnableConfirmation(bool on) override;
+    void showBearing(std::int32_t bearing) override;
+    void enableConfirmation(bool on) override;
     MessageAnswer showMessage(std::string_view text, MessageIcon icon,
                               MessageButtons buttons) override;
 
@@ -73,7 +73,7 @@ private:
     // The "Typ:" boxes show the types of the design's last precast and last steel layer; both
     // offers are those of the types shown.
     void ShowDesignTypes();
-    void RedrawPreviews();
+    void redrawPreviews();
 
     // ---- opening (CObr1_open.cpp), in the order of its steps
     void connect();

@@ -24,8 +24,8 @@ int typePosition(CPreklItem* catalogue, const CPreklItem* type) {
 
 }  // namespace
 
-void CObr1::SetBends(int shape) {
-    EndEdit();
+void CObr1::bendHead(int shape) {
+    endEdit();
     CRez* head = m_model.head();
     if (head == nullptr) return;
     setBends(*head, shape);
@@ -33,23 +33,23 @@ void CObr1::SetBends(int shape) {
 }
 
 void CObr1::ComposePrecast() {
-    EndEdit();
+    endEdit();
     const Profile rules(m_context.files, m_context.host.dataFolder() + Path(rulesFileName));
     if (m_model.ComposePrecast(rules)) Relayout();
 }
 
 void CObr1::ComposeSteel() {
-    EndEdit();
+    endEdit();
     if (m_model.ComposeSteel()) Relayout();
 }
 
-void CObr1::RemoveCurrent() {
-    EndEdit();
+void CObr1::removeCurrentLayer() {
+    endEdit();
     if (removeCurrent(m_model.edit()) == CommandAnswer::done) Relayout();
 }
 
 void CObr1::OpenCatalogue(int request) {
-    EndEdit();
+    endEdit();
     const CatalogueChoice choice =
         chooseCatalogue(m_model, m_source, m_tab, request, m_browserElement);
     if (choice.element) m_browserElement = choice.element;
@@ -99,7 +99,7 @@ void CObr1::refillTypes(OfferPage& page, CPreklItem* catalogue, const CPreklItem
 }
 
 void CObr1::openCommandMenu() {
-    EndEdit();
+    endEdit();
     Picture& picture = m_window->get<Picture>(id::sectionPreview);
     const Size size = picture.size();
     const int command =
@@ -136,7 +136,7 @@ void CObr1::run(int command) {
         case id::commandBrowseToAdd:
             return OpenCatalogue(1);
         default:
-            return SetBends(command - id::commandBends);
+            return bendHead(command - id::commandBends);
     }
 }
 

@@ -2,7 +2,7 @@
 // types another one, and offers the values used before.
 #pragma once
 
-#include "design/services.h"
+#include "design/design_services.h"
 #include "design/value_commit.h"
 #include "settings/value_history.h"
 

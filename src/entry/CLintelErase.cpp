@@ -2,7 +2,7 @@
 
 #include "resources/icons.h"
 #include "resources/templates.h"
-#include "settings/keys.h"
+#include "settings/setting_keys.h"
 
 namespace lx {
 
@@ -26,7 +26,7 @@ CLintelErase::CLintelErase(const Context& context, Owner owner)
     m_lintel.onClick = [this] { show(toggleLintel(choice(), m_lintel.checked())); };
 }
 
-int CLintelErase::DoModal() {
+int CLintelErase::doModal() {
     return m_window->runModal();
 }
 

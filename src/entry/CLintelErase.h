@@ -11,7 +11,7 @@ public:
     CLintelErase(const Context& context, Owner owner);
 
     // id::ok, id::cancel, or -1 when the dialog could not be made. Once per object.
-    int DoModal();
+    int doModal();
     // The bit set chosen with OK; 0 when there was no dialog.
     int elements() const { return m_elements; }
 

@@ -1,6 +1,6 @@
 #include "entry/erase_choice.h"
 
-#include "settings/keys.h"
+#include "settings/setting_keys.h"
 
 namespace lx {
 

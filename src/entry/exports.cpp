@@ -51,7 +51,7 @@ void runDialog(CLXdata6dlgApp& app, const DesignArguments& arguments, DesignOutc
     dialog.resultA = outcome.a;
     dialog.resultB = outcome.b;
     dialog.exteriorSide = arguments.exteriorSide;
-    outcome.result = dialog.DoModal();
+    outcome.result = dialog.doModal();
     outcome.a = dialog.resultA;
     outcome.b = dialog.resultB;
     outcome.text = std::move(dialog.resultText);
@@ -125,7 +125,7 @@ int browserCall(CLXdata6dlgApp& app, void* parent) {
 
 int eraseCall(CLXdata6dlgApp& app, void* parent) {
     CLintelErase dialog(app.context(), Owner{nullptr, parent});
-    switch (dialog.DoModal()) {
+    switch (dialog.doModal()) {
         case id::ok:
             return dialog.elements();
         case id::cancel:

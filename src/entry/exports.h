@@ -4,7 +4,7 @@
 
 #include <lxdata6dlg.h>
 
-#include "entry/application.h"
+#include "entry/CLXdata6dlgApp.h"
 
 namespace lx {
 

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "design/services.h"
+#include "design/design_services.h"
 #include "preview/section_drawing.h"
 
 namespace lx {

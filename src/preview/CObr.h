@@ -1,7 +1,7 @@
 // The section preview of the design dialog.
 #pragma once
 
-#include "design/services.h"
+#include "design/design_services.h"
 #include "preview/hit_regions.h"
 #include "preview/section_mouse.h"
 

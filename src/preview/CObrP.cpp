@@ -3,7 +3,7 @@
 #include "design/overhang.h"
 #include "platform/numbers.h"
 #include "preview/plan_drawing.h"
-#include "settings/keys.h"
+#include "settings/setting_keys.h"
 
 namespace lx {
 
@@ -47,7 +47,7 @@ void CObrP::press(Point p) {
     if (m_pressed) return;
     m_pressed = true;
     if (m_services.editVisible()) {
-        m_services.EndEdit();
+        m_services.endEdit();
     } else if (const HitRegion* hit = regionAt(m_regions, p)) {
         edit(*hit, p);
     }
@@ -70,7 +70,7 @@ void CObrP::edit(const HitRegion& region, Point p) {
     const bool level = region.kind == region::planLevel;
     const Text shown = level ? levelText(*value) : formatInt(*value);
     const Text history(level ? settings::lintelLevel : settings::lintelOverhang);
-    m_services.OpenEdit({{region.kind, region.absoluteOnly, region.target, shown}, history},
+    m_services.openEdit({{region.kind, region.absoluteOnly, region.target, shown}, history},
                         m_picture, p);
 }
 

@@ -2,7 +2,7 @@
 // numbers, the level and the overhang.
 #pragma once
 
-#include "design/services.h"
+#include "design/design_services.h"
 #include "preview/hit_regions.h"
 
 namespace lx {

@@ -3,7 +3,7 @@
 // (design/overhang.h) must have been there before.
 #pragma once
 
-#include "composition/records.h"
+#include "composition/CRez.h"
 #include "platform/canvas.h"
 #include "preview/hit_regions.h"
 

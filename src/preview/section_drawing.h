@@ -2,7 +2,7 @@
 // reads the design alone; settleSection (composition/section_scale.h) must have been there before.
 #pragma once
 
-#include "composition/records.h"
+#include "composition/CRez.h"
 #include "platform/canvas.h"
 #include "preview/hit_regions.h"
 

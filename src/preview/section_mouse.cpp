@@ -99,7 +99,7 @@ void SectionMouse::press(Point p) {
         region = *hit;
         family = familyOf(*hit);
     }
-    m_services.EndEdit();
+    m_services.endEdit();
     m_target = nullptr;
     forgetDrag();
     m_pressed = layerUnder(p);
@@ -129,7 +129,7 @@ void SectionMouse::clickRegion(const HitRegion& region, const Text& family, Poin
         mirror(*record);
     } else if (const std::int32_t* value = valueOf(design, region.target)) {
         const ValueEdit edit{region.kind, region.absoluteOnly, region.target, formatInt(*value)};
-        m_services.OpenEdit({edit, family}, m_picture, p);
+        m_services.openEdit({edit, family}, m_picture, p);
     }
 }
 
@@ -137,7 +137,7 @@ void SectionMouse::clickRegion(const HitRegion& region, const Text& family, Poin
 // has typed on the geometry page stays.
 void SectionMouse::mirror(CRez& layer) {
     layer.kind = mirrored(layer.kind);
-    m_services.RefreshShown();
+    m_services.refreshShown();
 }
 
 // Released over the picture, or elsewhere, which is noticed when the mouse comes back.
@@ -157,7 +157,7 @@ void SectionMouse::release() {
 }
 
 void SectionMouse::selectAt(Point p) {
-    m_services.EndEdit();
+    m_services.endEdit();
     if (CRez* layer = layerUnder(p)) m_services.SelectRecord(layer);
 }
 
@@ -171,7 +171,7 @@ KeyAnswer SectionMouse::key(const KeyEvent& event) {
     switch (event.key) {
         case key::del:
             forgetDrag();
-            m_services.RemoveCurrent();
+            m_services.removeCurrentLayer();
             return KeyAnswer::swallow;
         case key::left:
         case key::up:

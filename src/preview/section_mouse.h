@@ -2,7 +2,7 @@
 #pragma once
 
 #include "composition/section_scale.h"
-#include "design/services.h"
+#include "design/design_services.h"
 #include "preview/hit_regions.h"
 
 namespace lx {

@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-#include "composition/records.h"
+#include "composition/CRez.h"
 #include "composition/section_scale.h"
 #include "preview/sheet.h"
 

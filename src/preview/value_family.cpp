@@ -1,7 +1,7 @@
 #include "preview/value_family.h"
 
 #include "platform/numbers.h"
-#include "settings/keys.h"
+#include "settings/setting_keys.h"
 
 namespace lx {
 

@@ -1,5 +1,5 @@
-#include "resources/controls.h"
 #include "resources/strings.h"
+#include "resources/template_rows.h"
 #include "resources/templates.h"
 
 namespace lx {

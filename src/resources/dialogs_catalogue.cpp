@@ -1,8 +1,8 @@
 #include <array>
 #include <iterator>
 
-#include "resources/controls.h"
 #include "resources/strings.h"
+#include "resources/template_rows.h"
 #include "resources/templates.h"
 
 namespace lx {

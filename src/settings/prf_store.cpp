@@ -1,5 +1,5 @@
+#include "settings/ini_store.h"
 #include "settings/profile.h"
-#include "settings/store.h"
 
 namespace lx {
 

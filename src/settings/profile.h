@@ -8,7 +8,7 @@
 #include <string_view>
 
 #include "platform/files.h"
-#include "settings/keys.h"
+#include "settings/setting_keys.h"
 
 namespace lx {
 

@@ -2,7 +2,7 @@
 
 #include "resources/strings.h"
 #include "resources/templates.h"
-#include "settings/keys.h"
+#include "settings/setting_keys.h"
 
 namespace lx {
 
@@ -59,7 +59,7 @@ CSettings::CSettings(const Context& context, Owner owner, const Annotation& inse
     m_textStyle.setTooltip([this] { return m_textStyle.text(); });
 }
 
-int CSettings::DoModal() {
+int CSettings::doModal() {
     return m_window->runModal();
 }
 

@@ -14,7 +14,7 @@ public:
     CSettings(const Context& context, Owner owner, const Annotation& inserted);
 
     // id::ok, id::cancel, or -1 when the dialog could not be made. Once per object.
-    int DoModal();
+    int doModal();
 
 private:
     void onInit();

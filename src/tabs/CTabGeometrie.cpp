@@ -37,7 +37,7 @@ CTabGeometrie::CTabGeometrie(DesignServices& services)
     for (std::size_t i = 0; i < std::size(bendButtons); ++i) {
         Button& button = m_window->get<Button>(bendButtons[i]);
         dress(button, icon::bends[i], text::bends[i]);
-        button.onClick = [this, shape = static_cast<int>(i)] { m_services.SetBends(shape); };
+        button.onClick = [this, shape = static_cast<int>(i)] { m_services.bendHead(shape); };
     }
     m_annotationSettings.onClick = [this] { openAnnotationSettings(); };
     m_bubble.onChange = [this] { bubbleChanged(); };
@@ -57,10 +57,10 @@ void CTabGeometrie::enableAnnotationSettings() {
 }
 
 void CTabGeometrie::openAnnotationSettings() {
-    CSettings(m_services.context(), Owner{&m_services.window(), nullptr}, annotation()).DoModal();
+    CSettings(m_services.context(), Owner{&m_services.window(), nullptr}, annotation()).doModal();
 }
 
-void CTabGeometrie::RefreshDescription() {
+void CTabGeometrie::refreshDescription() {
     const CRez* head = m_services.model().head();
     if (head == nullptr) return;
     m_description.setText(descriptionSummary(*head));

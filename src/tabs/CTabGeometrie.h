@@ -5,10 +5,10 @@
 #include <memory>
 
 #include "design/annotation.h"
-#include "design/services.h"
+#include "design/design_services.h"
 #include "preview/CObrP.h"
 #include "tabs/design_page.h"
-#include "widgets/my_edit.h"
+#include "widgets/CMyEdit.h"
 
 namespace lx {
 
@@ -22,7 +22,7 @@ public:
     void initialise();
     // Replaces the description by the summary of the layers and the bubble field by the design's
     // label (or the proposed name when it has none yet).
-    void RefreshDescription();
+    void refreshDescription();
     Text bubbleName() const { return m_bubble.text(); }
     Text description() const { return m_description.text(); }
     void setDescription(std::string_view text) { m_description.setText(text); }

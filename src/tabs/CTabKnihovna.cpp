@@ -51,7 +51,7 @@ void CTabKnihovna::showProjects() {
 }
 
 void CTabKnihovna::useStored(int entry) {
-    m_services.EndEdit();
+    m_services.endEdit();
     DesignModel& model = m_services.model();
     model.showStored(entry);
     m_services.Relayout();
@@ -59,14 +59,14 @@ void CTabKnihovna::useStored(int entry) {
     // tells whether the design suits this opening.
     const CRez* first = model.head() != nullptr ? model.head()->next : nullptr;
     const double opening = model.values().openingWidth;
-    m_services.ShowBearing(first != nullptr ? shownBearing(first->length, opening) : 0);
+    m_services.showBearing(first != nullptr ? shownBearing(first->length, opening) : 0);
     const bool fits = model.shownFits();
-    m_services.EnableConfirmation(fits);
+    m_services.enableConfirmation(fits);
     if (!fits) m_services.showMessage(text::doesNotFit, MessageIcon::stop);
 }
 
 void CTabKnihovna::changeProject() {
-    m_services.EndEdit();
+    m_services.endEdit();
     if (m_services.library().available()) m_services.library().LoadLibrary(m_services.model());
     m_services.model().showStored(0);
     showDesigns();
@@ -74,14 +74,14 @@ void CTabKnihovna::changeProject() {
 }
 
 void CTabKnihovna::newProject() {
-    m_services.EndEdit();
+    m_services.endEdit();
     LibrarySession& library = m_services.library();
     CAddVyrobce dialog(m_services.context().platform, m_services.context().host,
                        Owner{&m_services.window(), nullptr});
     dialog.title = text::newProject;
     dialog.label = text::name;
     dialog.name = library.proposedProjectName();
-    while (dialog.DoModal()) {
+    while (dialog.doModal()) {
         if (dialog.name.empty()) {
             dialog.showMessage(text::nameMissing);
         } else if (library.hasProject(dialog.name)) {
@@ -125,7 +125,7 @@ bool CTabKnihovna::deleteStored() {
     if (model.shownStored() == 0) return false;
     const Deletion answer = askDeletion();
     if (answer != Deletion::agreed) return answer == Deletion::refused;
-    m_services.EndEdit();
+    m_services.endEdit();
     const auto label = model.removeShownStored();
     showDesigns();
     m_services.Relayout();

@@ -4,7 +4,7 @@
 
 #include <memory>
 
-#include "design/services.h"
+#include "design/design_services.h"
 #include "tabs/CBookBox.h"
 #include "tabs/CBookList.h"
 #include "tabs/design_page.h"

@@ -17,7 +17,7 @@ CTabMonolit::CTabMonolit(DesignServices& services)
     dress(m_remove, icon::remove, text::removeLayer);
     dress(m_insulation, icon::insulation, text::addInsulation);
     m_add.onClick = [this] { insert(addMonolith); };
-    m_remove.onClick = [this] { m_services.RemoveCurrent(); };
+    m_remove.onClick = [this] { m_services.removeCurrentLayer(); };
     m_insulation.onClick = [this] { insert(addSteelInsulation); };
 }
 
@@ -30,7 +30,7 @@ void CTabMonolit::showAvailability(const Availability& available) {
 }
 
 void CTabMonolit::insert(CommandAnswer (*command)(DesignEdit)) {
-    m_services.EndEdit();
+    m_services.endEdit();
     if (command(m_services.model().edit()) == CommandAnswer::done) m_services.Relayout();
 }
 

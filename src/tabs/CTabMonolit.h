@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "design/services.h"
+#include "design/design_services.h"
 #include "tabs/design_page.h"
 
 namespace lx {

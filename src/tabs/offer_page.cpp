@@ -25,13 +25,13 @@ void OfferPage::connect(const OfferPageControls& controls, std::string_view addT
     dress(m_insulation, icon::insulation, text::addInsulation);
     dress(m_space, icon::space, text::addSpace);
     m_add.onClick = [this] { addSelected(); };
-    m_remove.onClick = [this] { m_services.RemoveCurrent(); };
+    m_remove.onClick = [this] { m_services.removeCurrentLayer(); };
     m_insulation.onClick = [this] {
-        m_services.EndEdit();
+        m_services.endEdit();
         finish(addInsulationLayer(m_services.model().edit()));
     };
     m_space.onClick = [this] {
-        m_services.EndEdit();
+        m_services.endEdit();
         finish(addSpace(m_services.model().edit()));
     };
     m_window->get<Button>(controls.compose).onClick = [this] {
@@ -40,11 +40,11 @@ void OfferPage::connect(const OfferPageControls& controls, std::string_view addT
     };
     m_window->get<Button>(controls.catalogue).onClick = [this] { openCatalogue(); };
     m_types.onSelect = [this] {
-        m_services.EndEdit();
+        m_services.endEdit();
         changeType();
     };
     m_offer.list().onSelect = [this] {
-        m_services.EndEdit();
+        m_services.endEdit();
         offer().select(m_offer.list().selected());
         Refresh();
     };
@@ -62,7 +62,7 @@ void OfferPage::showAvailability(const Availability& available) {
 }
 
 void OfferPage::addSelected() {
-    m_services.EndEdit();
+    m_services.endEdit();
     finish(addElement(m_services.model().edit(), offer().selectedRecord()));
 }
 
@@ -94,7 +94,7 @@ void OfferPage::finish(CommandAnswer answer) {
 }
 
 void OfferPage::Refresh() {
-    m_services.RefreshAvailability();
+    m_services.refreshAvailability();
     m_services.RefreshProperties();
 }
 

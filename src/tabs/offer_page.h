@@ -4,7 +4,7 @@
 
 #include <memory>
 
-#include "design/services.h"
+#include "design/design_services.h"
 #include "tabs/CNabidka.h"
 #include "tabs/design_page.h"
 

@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "design/services.h"
+#include "design/design_services.h"
 
 namespace lx {
 

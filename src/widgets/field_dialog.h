@@ -7,7 +7,7 @@
 #include <span>
 
 #include "platform/host.h"
-#include "widgets/my_edit.h"
+#include "widgets/CMyEdit.h"
 
 namespace lx {
 

@@ -19,7 +19,7 @@ struct ItemEditor : testing::Test {
     template <class Dialog>
     bool run(Dialog& dialog, const char* caption, std::function<void(Driver&)> steps) {
         bench.user().inDialog(caption, std::move(steps));
-        const bool confirmed = dialog.DoModal();
+        const bool confirmed = dialog.doModal();
         EXPECT_EQ(bench.user().failure(), "");
         return confirmed;
     }

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "catalogue/item_cells.h"
-#include "catalogue/row_list.h"
+#include "catalogue/item_rows.h"
 #include "tests/support/catalogues.h"
 
 namespace lx {

@@ -31,7 +31,7 @@ struct DesignDialog : testing::Test {
     // Runs the dialog against the steps that bench.user() has been given.
     int run() {
         const Context context{bench.platform(), bench.files(), bench.host(), values};
-        const int answer = CObr1(context, Owner{}).DoModal();
+        const int answer = CObr1(context, Owner{}).doModal();
         EXPECT_EQ(bench.user().failure(), "");
         EXPECT_EQ(values.precast, nullptr);
         return answer;

@@ -16,7 +16,7 @@
 #include <sstream>
 
 #include "composition/library.h"
-#include "settings/keys.h"
+#include "settings/setting_keys.h"
 #include "tests/faults/operations.h"
 #include "tests/faults/system_calls.h"
 #include "tests/support/bench.h"

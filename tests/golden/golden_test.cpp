@@ -16,7 +16,7 @@
 #include "design/annotation_style.h"
 #include "design/dialog_settings.h"
 #include "entry/erase_choice.h"
-#include "settings/store.h"
+#include "settings/ini_store.h"
 #include "tests/support/catalogues.h"
 #include "tests/support/designs.h"
 #include "tests/support/memory_files.h"

@@ -1,7 +1,7 @@
 #include <windows.h>
 
 #include "host/driver/windows/windows_driver.h"
-#include "platform/windows/windows_platform.h"
+#include "platform/windows/make_platform.h"
 #include "tests/support/bench.h"
 
 namespace lx {

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "catalogue/records.h"
+#include "catalogue/CPreklItem.h"
 #include "platform/binary.h"
 
 namespace lx {

@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-#include "composition/records.h"
+#include "composition/CRez.h"
 #include "composition/stored_form.h"
 #include "platform/text.h"
 

@@ -7,7 +7,7 @@
 #include <random>
 
 #include "catalogue/catalogue_file.h"
-#include "composition/records.h"
+#include "composition/CRez.h"
 #include "composition/stored_form.h"
 #include "tests/support/catalogues.h"
 

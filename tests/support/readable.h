@@ -6,7 +6,7 @@
 #include <cmath>
 #include <cstdio>
 
-#include "catalogue/records.h"
+#include "catalogue/CPreklItem.h"
 #include "composition/library.h"
 #include "composition/projects.h"
 

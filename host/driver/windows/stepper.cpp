@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "host/driver/driver.h"
-#include "host/driver/windows/menus.h"
+#include "host/driver/windows/menu_paths.h"
 
 namespace lx::host {
 

@@ -6,7 +6,7 @@
 
 #include "host/driver/windows/keyboard.h"
 #include "host/driver/windows/lists.h"
-#include "host/driver/windows/menus.h"
+#include "host/driver/windows/menu_paths.h"
 #include "host/driver/windows/stepper.h"
 #include "host/driver/windows/window_tools.h"
 #include "host/driver/windows/windows_driver.h"

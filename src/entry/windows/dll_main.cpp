@@ -4,7 +4,7 @@
 #include <memory>
 
 #include "entry/exports.h"
-#include "platform/windows/windows_platform.h"
+#include "platform/windows/make_platform.h"
 
 namespace {
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <cstring>
 
-#include "platform/windows/platform_windows.h"
 #include "platform/windows/wide_text.h"
 #include "platform/windows/windows_dialog.h"
+#include "platform/windows/windows_platform.h"
 
 namespace lx {
 

@@ -1,7 +1,7 @@
 // The modal loop of a dialog, the keys it knows, and the focus.
-#include "platform/windows/platform_windows.h"
 #include "platform/windows/simple_controls.h"
 #include "platform/windows/windows_dialog.h"
+#include "platform/windows/windows_platform.h"
 
 namespace lx {
 namespace {

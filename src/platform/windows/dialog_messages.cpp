@@ -6,10 +6,10 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "platform/windows/platform_windows.h"
 #include "platform/windows/simple_controls.h"
 #include "platform/windows/wide_text.h"
 #include "platform/windows/windows_dialog.h"
+#include "platform/windows/windows_platform.h"
 
 namespace lx {
 

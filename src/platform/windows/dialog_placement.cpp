@@ -1,9 +1,9 @@
 // Where a dialog's window stands, its title, icon and menus, timers and the mouse.
 #include <algorithm>
 
-#include "platform/windows/platform_windows.h"
 #include "platform/windows/wide_text.h"
 #include "platform/windows/windows_dialog.h"
+#include "platform/windows/windows_platform.h"
 
 namespace lx {
 namespace {

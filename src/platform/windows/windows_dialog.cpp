@@ -7,15 +7,15 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "platform/windows/combo_control.h"
-#include "platform/windows/edit_control.h"
-#include "platform/windows/list_box_control.h"
-#include "platform/windows/list_view_control.h"
-#include "platform/windows/picture_control.h"
-#include "platform/windows/platform_windows.h"
 #include "platform/windows/simple_controls.h"
-#include "platform/windows/tab_control.h"
 #include "platform/windows/wide_text.h"
+#include "platform/windows/windows_combo_box.h"
+#include "platform/windows/windows_edit.h"
+#include "platform/windows/windows_list_box.h"
+#include "platform/windows/windows_list_view.h"
+#include "platform/windows/windows_picture.h"
+#include "platform/windows/windows_platform.h"
+#include "platform/windows/windows_tab_control.h"
 
 namespace lx {
 namespace {

@@ -1,4 +1,4 @@
-#include "settings/store.h"
+#include "settings/ini_store.h"
 
 #include <gtest/gtest.h>
 

@@ -1,12 +1,12 @@
-#include "platform/windows/list_view_control.h"
+#include "platform/windows/windows_list_view.h"
 
 #include <algorithm>
 #include <numeric>
 
 #include "platform/windows/gdi_canvas.h"
-#include "platform/windows/platform_windows.h"
 #include "platform/windows/wide_text.h"
 #include "platform/windows/windows_dialog.h"
+#include "platform/windows/windows_platform.h"
 
 namespace lx {
 namespace {

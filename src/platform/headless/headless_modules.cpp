@@ -1,4 +1,4 @@
-#include "platform/headless/modules_headless.h"
+#include "platform/headless/headless_modules.h"
 
 namespace lx {
 

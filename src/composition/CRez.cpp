@@ -1,4 +1,4 @@
-#include "composition/records.h"
+#include "composition/CRez.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,10 +1,10 @@
-#include "platform/windows/combo_control.h"
+#include "platform/windows/windows_combo_box.h"
 
 #include "platform/keys.h"
-#include "platform/windows/edit_control.h"
-#include "platform/windows/platform_windows.h"
 #include "platform/windows/wide_text.h"
 #include "platform/windows/windows_dialog.h"
+#include "platform/windows/windows_edit.h"
+#include "platform/windows/windows_platform.h"
 
 namespace lx {
 namespace {

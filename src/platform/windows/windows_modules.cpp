@@ -5,7 +5,7 @@
 #include <cstring>
 
 #include "platform/modules.h"
-#include "platform/windows/windows_platform.h"
+#include "platform/windows/make_platform.h"
 
 namespace lx {
 namespace {

@@ -1,4 +1,4 @@
-#include "host/driver/windows/menus.h"
+#include "host/driver/windows/menu_paths.h"
 
 #include <array>
 

@@ -1,9 +1,9 @@
-#include "platform/windows/picture_control.h"
+#include "platform/windows/windows_picture.h"
 
 #include "platform/recording_canvas.h"
 #include "platform/windows/gdi_canvas.h"
-#include "platform/windows/platform_windows.h"
 #include "platform/windows/windows_dialog.h"
+#include "platform/windows/windows_platform.h"
 
 namespace lx {
 namespace {

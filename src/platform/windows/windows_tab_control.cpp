@@ -1,4 +1,4 @@
-#include "platform/windows/tab_control.h"
+#include "platform/windows/windows_tab_control.h"
 
 #include <windows.h>
 

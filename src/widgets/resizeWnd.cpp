@@ -1,4 +1,4 @@
-#include "widgets/resize_wnd.h"
+#include "widgets/resizeWnd.h"
 
 #include "platform/numbers.h"
 #include "widgets/placement_list.h"

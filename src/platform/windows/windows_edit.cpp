@@ -1,4 +1,4 @@
-#include "platform/windows/edit_control.h"
+#include "platform/windows/windows_edit.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "catalogue/row_list.h"
+#include "catalogue/item_rows.h"
 
 #include <algorithm>
 #include <cstddef>

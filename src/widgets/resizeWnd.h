@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "platform/platform.h"
-#include "settings/store.h"
+#include "settings/ini_store.h"
 #include "widgets/resize_rules.h"
 
 namespace lx {

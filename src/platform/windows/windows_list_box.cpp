@@ -1,4 +1,4 @@
-#include "platform/windows/list_box_control.h"
+#include "platform/windows/windows_list_box.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,4 +1,4 @@
-#include "host/services.h"
+#include "host/host_services.h"
 
 #include <cstring>
 #include <filesystem>

@@ -1,4 +1,4 @@
-#include "entry/application.h"
+#include "entry/CLXdata6dlgApp.h"
 
 #include "entry/locations.h"
 #include "resources/icons.h"

@@ -1,4 +1,4 @@
-#include "catalogue/records.h"
+#include "catalogue/CPreklItem.h"
 
 #include <utility>
 

@@ -1,4 +1,4 @@
-#include "widgets/my_edit.h"
+#include "widgets/CMyEdit.h"
 
 #include "platform/numbers.h"
 #include "resources/strings.h"

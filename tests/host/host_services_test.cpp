@@ -1,5 +1,5 @@
 // The service table as a module finds it, and a design call as a host makes it.
-#include "host/services.h"
+#include "host/host_services.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "platform/windows/platform_windows.h"
+#include "platform/windows/windows_platform.h"
 
 #include <windows.h>
 
@@ -8,9 +8,9 @@
 #include <cstring>
 
 #include "platform/windows/hand_cursor.h"
+#include "platform/windows/make_platform.h"
 #include "platform/windows/wide_text.h"
 #include "platform/windows/windows_dialog.h"
-#include "platform/windows/windows_platform.h"
 
 namespace lx {
 namespace {

@@ -1,6 +1,6 @@
 // What is stored of a resizable dialog and comes back before it is shown, on the windows of this
 // platform.
-#include "widgets/resize_wnd.h"
+#include "widgets/resizeWnd.h"
 
 #include <gtest/gtest.h>
 
