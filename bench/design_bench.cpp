@@ -4,8 +4,8 @@
 
 #include "composition/layout.h"
 #include "composition/section_scale.h"
-#include "design/availability.h"
-#include "design/description.h"
+#include "design/layer_commands.h"
+#include "design/layer_texts.h"
 #include "platform/recording_canvas.h"
 #include "preview/section_drawing.h"
 #include "tests/support/designs.h"

@@ -2,7 +2,7 @@
 #include <algorithm>
 
 #include "catalogue/column_settings.h"
-#include "design/annotation_style.h"
+#include "design/annotation.h"
 #include "entry/erase_choice.h"
 #include "fuzz/targets.h"
 #include "settings/ini_store.h"

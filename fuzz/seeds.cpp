@@ -6,7 +6,7 @@
 #include "composition/layout.h"
 #include "composition/library.h"
 #include "composition/projects.h"
-#include "design/annotation_style.h"
+#include "design/annotation.h"
 #include "fuzz/targets.h"
 #include "settings/ini_store.h"
 #include "settings/value_history.h"

@@ -13,10 +13,9 @@ namespace lx {
 
 namespace {
 
-constexpr int mostRepeated = 20;             // layers of the chosen element
-constexpr std::int64_t insulationFrom = 20;  // mm of room
-constexpr int mostDigits = 9;                // of a number in a rule
-constexpr int mostByRule = 20000;            // layers; more would keep the user waiting
+constexpr int mostRepeated = 20;   // layers of the chosen element
+constexpr int mostDigits = 9;      // of a number in a rule
+constexpr int mostByRule = 20000;  // layers; more would keep the user waiting
 
 CRez* appendCopy(RezChain& design, const CRez& element) {
     return design.append(std::make_unique<CRez>(element));
@@ -37,7 +36,7 @@ void repeat(RezChain& design, const CRez& element) {
 
 // Null when there is nothing to insulate or not enough room.
 CRez* insulateFirstFace(RezChain& design, const CRez& chosen, std::int64_t room) {
-    if (design.head()->next == nullptr || room < insulationFrom) return nullptr;
+    if (design.head()->next == nullptr || room < leastInsulation) return nullptr;
     auto insulation = std::make_unique<CRez>(chosen);
     makeSpecial(*insulation, Kind::insulation);
     insulation->width = saturated(room);

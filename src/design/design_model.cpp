@@ -8,10 +8,9 @@
 #include "composition/layout.h"
 #include "composition/offers.h"
 #include "composition/section_scale.h"
+#include "design/layer_texts.h"
 #include "design/opening.h"
 #include "design/page_index.h"
-#include "design/properties_text.h"
-#include "design/stored_fit.h"
 #include "resources/strings.h"
 
 namespace lx {

@@ -3,7 +3,6 @@
 #pragma once
 
 #include "composition/library.h"
-#include "design/availability.h"
 #include "design/layer_commands.h"
 #include "design/module_values.h"
 #include "design/offer.h"

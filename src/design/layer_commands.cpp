@@ -6,16 +6,20 @@
 #include "composition/layout.h"
 #include "composition/saturate.h"
 #include "composition/special_layers.h"
-#include "design/availability.h"
 
 namespace lx {
 
 namespace {
 
-// Least room that a command accepts, mm; its button asks for more.
-constexpr std::int32_t insulationFrom = 10;
-constexpr std::int32_t spaceFrom = 5;
-constexpr std::int32_t monolithFrom = 5;
+// Free space in mm: from how much a button is offered, and the least that its command accepts when
+// it comes from elsewhere.
+struct Room {
+    std::int32_t offered;
+    std::int32_t accepted;
+};
+constexpr Room roomOfMonolith{30, 5};
+constexpr Room roomOfInsulation{leastInsulation, 10};
+constexpr Room roomOfSpace{10, 5};
 
 constexpr std::int32_t insulationHeight = 200;  // mm, when there is no layer to take it from
 constexpr std::int32_t spaceHeight = 100;       // mm
@@ -58,6 +62,27 @@ CommandAnswer remove(DesignEdit design, Neighbour preferred) {
 
 }  // namespace
 
+std::int64_t insulationRoom(const CRez& head, const CRez* current) {
+    const std::int64_t room = freeSpace(head);
+    if (current == nullptr) return room;
+    return room + nested(traits(current->kind).underInsulation, current->width);
+}
+
+Availability availability(const CRez* head, const CRez* current, const CRez* precast,
+                          const CRez* steel) {
+    if (head == nullptr) return {};
+    const std::int32_t free = freeSpace(*head);
+    const bool layerIsCurrent = current != nullptr && !current->isHead();
+    Availability result;
+    result.remove = layerIsCurrent && head->next != nullptr;
+    result.addPrecast = precast != nullptr && precast->width <= free;
+    result.addSteel = steel != nullptr && steel->width <= free;
+    result.addMonolith = free >= roomOfMonolith.offered;
+    result.insertInsulation = insulationRoom(*head, current) >= roomOfInsulation.offered;
+    result.insertSpace = free >= roomOfSpace.offered;
+    return result;
+}
+
 CommandAnswer addPrecast(DesignEdit design, const CRez* element) {
     if (design.chain.empty()) return CommandAnswer::nothing;
     const Family family = DesignFamily(*design.chain.head());
@@ -83,7 +108,7 @@ CommandAnswer addInsulation(DesignEdit design) {
     if (!design.chain.contains(design.current)) return CommandAnswer::nothing;
     CRez& head = *design.chain.head();
     const std::int32_t free = freeSpace(head);
-    if (free < insulationFrom) return CommandAnswer::nothing;
+    if (free < roomOfInsulation.accepted) return CommandAnswer::nothing;
     const std::int32_t total = lengthOver(head.length, settledBearing(head));
 
     const bool behindHead = design.current->isHead();
@@ -99,7 +124,7 @@ CommandAnswer addSpace(DesignEdit design) {
     const bool layerIsCurrent = design.chain.contains(design.current) && !design.current->isHead();
     if (!layerIsCurrent) return CommandAnswer::nothing;
     const std::int32_t free = freeSpace(*design.chain.head());
-    if (free < spaceFrom) return CommandAnswer::nothing;
+    if (free < roomOfSpace.accepted) return CommandAnswer::nothing;
     insertSpecial(design, Kind::space, free).height = spaceHeight;
     return CommandAnswer::done;
 }
@@ -108,7 +133,7 @@ CommandAnswer addSteelInsulation(DesignEdit design) {
     if (!design.chain.contains(design.current)) return CommandAnswer::nothing;
     CRez& head = *design.chain.head();
     std::int64_t room = insulationRoom(head, design.current);
-    if (room < insulationFrom) return CommandAnswer::nothing;
+    if (room < roomOfInsulation.accepted) return CommandAnswer::nothing;
     if (head.next == nullptr) room = std::min(room, firstInsulationWidth);
     const std::int32_t total = lengthOver(head.length, settledBearing(head));
 
@@ -123,7 +148,7 @@ CommandAnswer addMonolith(DesignEdit design) {
     if (!design.chain.contains(design.current)) return CommandAnswer::nothing;
     CRez& head = *design.chain.head();
     const std::int32_t free = freeSpace(head);
-    if (free < monolithFrom) return CommandAnswer::nothing;
+    if (free < roomOfMonolith.accepted) return CommandAnswer::nothing;
     if (head.headBearing() < leastCastBearing) head.headBearing() = defaultBearing;
     CRez& layer = insertSpecial(design, Kind::monolith, free);
     layer.height = monolithHeight;

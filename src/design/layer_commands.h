@@ -1,10 +1,30 @@
-// The commands of the pages and of the design's menu that add and remove layers, on a design and
-// its current record. None of them lays the design out.
+// The layer commands of the pages and of the design's menu: when they may be used, and what they do
+// to a design and its current record. None of them lays the design out.
 #pragma once
 
 #include "composition/CRez.h"
 
 namespace lx {
+
+// Which of the layer buttons may be used now.
+struct Availability {
+    bool remove = false;
+    bool addPrecast = false;
+    bool addSteel = false;
+    bool addMonolith = false;
+    bool insertInsulation = false;
+    bool insertSpace = false;
+    bool operator==(const Availability&) const = default;
+};
+
+// Everything is unavailable without a head. precast and steel are the elements selected in the
+// offers, null when an offer is empty or nothing is selected in it.
+Availability availability(const CRez* head, const CRez* current, const CRez* precast,
+                          const CRez* steel);
+
+// Free space for insulation behind the current record, mm: it may reach into the open side of a
+// steel section before it.
+std::int64_t insulationRoom(const CRez& head, const CRez* current);
 
 enum class CommandAnswer {
     done,      // the design has changed

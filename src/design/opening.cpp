@@ -19,6 +19,8 @@ void addBend(CRez& head, double run, double step, bool flag) {
     head.addBend(truncateToInt(run), truncateToInt(step), flag);
 }
 
+constexpr double tolerance = 0.000001;  // mm
+
 }  // namespace
 
 std::int32_t wholeMillimetres(double length) {
@@ -92,6 +94,31 @@ std::optional<double> widerOpening(const OpeningBlock& block) {
     if (block.openingKind != kindWithTwoWidths) return std::nullopt;
     if (!(block.width1 < block.width2)) return std::nullopt;
     return block.width2;
+}
+
+void settleOverhang(CRez& head, double openingWidth) {
+    head.headBearing() = 0;
+    if (head.next == nullptr) return;
+    const std::int64_t bothEnds = head.next->length - shownOpeningSize(openingWidth);
+    head.headBearing() = static_cast<std::int32_t>(bothEnds / 2);
+}
+
+bool overhangEditable(const CRez& head) {
+    for (const CRez* record = &head; record != nullptr; record = record->next) {
+        if (record->kind == Kind::precast && record->bearing == 0) return false;
+    }
+    return true;
+}
+
+bool suitsOpening(const CRez& head, double openingWidth) {
+    const CRez* bearing = nullptr;
+    for (const CRez* layer = head.next; layer != nullptr; layer = layer->next) {
+        const std::string_view name = layer->nameOrEmpty();
+        if (name == traits(Kind::monolith).name) return true;
+        if (bearing == nullptr && name != traits(Kind::insulation).name) bearing = layer;
+    }
+    if (bearing == nullptr || bearing->maxOpening == 0) return true;
+    return openingWidth - tolerance <= bearing->maxOpening;
 }
 
 }  // namespace lx

@@ -1,8 +1,8 @@
-// How the host's call becomes the head of a design: its dimensions, its bends, its opening width.
+// How a design stands to its opening: the head made from the host's call, how far lintels reach
+// beyond the opening, whether a stored design suits it.
 #pragma once
 
 #include <lxdata6dlg.h>
-
 #include <memory>
 #include <optional>
 
@@ -32,5 +32,19 @@ std::optional<OpeningBlock> blockInMillimetres(const OpeningBlock& block, int un
 void bendsFromBlock(CRez& head, const OpeningBlock& block);
 // The wider of the block's two opening widths where that counts, in mm.
 std::optional<double> widerOpening(const OpeningBlock& block);
+
+// The head's bearing length becomes the overhang of its first layer, mm, negative for one that is
+// shorter than the opening; 0 without layers. To be done when the plan that the user sees has to be
+// drawn anew, and at no other time: elsewhere a bearing of 0 means the default one.
+// openingWidth in mm.
+void settleOverhang(CRez& head, double openingWidth);
+
+// Whether another overhang can be typed: an element of a fixed length does not follow it.
+bool overhangEditable(const CRez& head);
+
+// A design suits an opening that its first layer other than insulation is made for; one with a cast
+// part, or whose element names no largest opening, suits every opening. A missing name equals an
+// empty one, as which it is stored. openingWidth in mm.
+bool suitsOpening(const CRez& head, double openingWidth);
 
 }  // namespace lx

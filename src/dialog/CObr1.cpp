@@ -4,7 +4,7 @@
 
 #include "design/confirmation.h"
 #include "design/describe.h"
-#include "design/description.h"
+#include "design/layer_texts.h"
 #include "platform/numbers.h"
 #include "resources/ids.h"
 #include "resources/strings.h"

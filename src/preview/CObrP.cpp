@@ -1,6 +1,6 @@
 #include "preview/CObrP.h"
 
-#include "design/overhang.h"
+#include "design/opening.h"
 #include "platform/numbers.h"
 #include "preview/plan_drawing.h"
 #include "settings/setting_keys.h"

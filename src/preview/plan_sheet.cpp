@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "design/opening.h"
-#include "design/overhang.h"
 
 namespace lx {
 

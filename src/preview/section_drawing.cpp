@@ -4,7 +4,7 @@
 
 #include "composition/layout.h"
 #include "composition/saturate.h"
-#include "design/designation.h"
+#include "design/layer_texts.h"
 #include "design/opening.h"
 #include "platform/numbers.h"
 #include "preview/section_sheet.h"

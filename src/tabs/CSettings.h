@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "design/annotation_style.h"
+#include "design/annotation.h"
 #include "design/module_values.h"
 
 namespace lx {

@@ -1,6 +1,6 @@
 #include "tabs/CTabGeometrie.h"
 
-#include "design/description.h"
+#include "design/layer_texts.h"
 #include "resources/icons.h"
 #include "resources/strings.h"
 #include "resources/templates.h"

@@ -1,7 +1,7 @@
 // What every page of the design dialog has.
 #pragma once
 
-#include "design/availability.h"
+#include "design/layer_commands.h"
 #include "platform/dialog.h"
 
 namespace lx {

@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include "composition/layout.h"
-#include "design/availability.h"
 #include "design/layer_commands.h"
 #include "tests/support/designs.h"
 

@@ -3,7 +3,7 @@
 
 #include "design/design_model.h"
 #include "design/library_session.h"
-#include "design/stored_fit.h"
+#include "design/opening.h"
 #include "tests/support/bench.h"
 #include "tests/support/designs.h"
 #include "tests/support/memory_files.h"

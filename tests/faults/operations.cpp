@@ -13,7 +13,7 @@
 #include "composition/library.h"
 #include "composition/projects.h"
 #include "composition/section_scale.h"
-#include "design/annotation_style.h"
+#include "design/annotation.h"
 #include "design/confirmation.h"
 #include "entry/erase_choice.h"
 #include "entry/merge_call.h"

@@ -13,7 +13,7 @@
 #include "composition/hand_over.h"
 #include "composition/library_entries.h"
 #include "composition/rules_file.h"
-#include "design/annotation_style.h"
+#include "design/annotation.h"
 #include "design/dialog_settings.h"
 #include "entry/erase_choice.h"
 #include "settings/ini_store.h"

@@ -2,7 +2,7 @@
 
 #include "composition/layout.h"
 #include "composition/section_scale.h"
-#include "design/overhang.h"
+#include "design/opening.h"
 #include "preview/sheet.h"
 #include "tests/preview/drawings.h"
 

@@ -1,10 +1,11 @@
-#include "design/description.h"
+#include "design/layer_texts.h"
 
 #include <algorithm>
 
 #include "composition/layout.h"
-#include "design/designation.h"
+#include "design/opening.h"
 #include "platform/numbers.h"
+#include "resources/strings.h"
 
 namespace lx {
 
@@ -48,7 +49,34 @@ Text layerLabel(const CRez& layer, std::int64_t downToLowest) {
     return label;
 }
 
+bool isCapital(char c) {
+    return c >= 'A' && c <= 'Z';
+}
+
+Text filled(std::string_view designation, const CRez& element, double openingWidth,
+            bool mayShowLetter) {
+    const Text length = formatInt(element.length);
+    const std::string_view sizeWord = traits(element.kind).widthWord;
+    const Text width = formatInt(element.width);
+    const Text height = formatInt(element.height);
+    const Text bearing = formatInt(shownBearing(element.length, openingWidth));
+    if (mayShowLetter && isCapital(element.letter)) {
+        const std::string_view letter(&element.letter, 1);
+        return fillIn(text::propertiesWithLetter,
+                      {designation, letter, length, sizeWord, width, height, bearing});
+    }
+    return fillIn(text::propertiesOfLayer, {designation, length, sizeWord, width, height, bearing});
+}
+
 }  // namespace
+
+Text shownDesignation(const CRez& layer) {
+    Text result(layer.nameOrEmpty());
+    if (layer.bearing == 0) return result;
+    const std::size_t place = result.find('?');
+    if (place != Text::npos) result.replace(place, 1, formatInt(layer.length));
+    return result;
+}
 
 Text descriptionSummary(const CRez& head) {
     // The lift of a layer on a sloping step depends on the size of the preview, so it does not
@@ -79,6 +107,16 @@ Text descriptionSummary(const CRez& head) {
     }
     closeGroup();
     return summary;
+}
+
+Text propertiesOfRecord(const CRez* record, double openingWidth) {
+    if (record == nullptr || record->isHead()) return Text(text::wall);
+    return filled(shownDesignation(*record), *record, openingWidth, true);
+}
+
+Text propertiesOfOffer(const CRez& element, double openingWidth, bool precast) {
+    if (!element.name) return Text(text::noName);
+    return filled(*element.name, element, openingWidth, precast);
 }
 
 }  // namespace lx

@@ -1,7 +1,7 @@
 // The rules behind the annotation settings.
 #include <gtest/gtest.h>
 
-#include "design/annotation_style.h"
+#include "design/annotation.h"
 #include "resources/strings.h"
 #include "tests/support/memory_files.h"
 

@@ -4,8 +4,7 @@
 #include <chrono>
 
 #include "composition/layout.h"
-#include "design/description.h"
-#include "design/properties_text.h"
+#include "design/layer_texts.h"
 #include "tests/support/designs.h"
 
 namespace lx {
