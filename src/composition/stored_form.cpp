@@ -95,11 +95,32 @@ void FieldReader::operator()(const RezField&, std::unique_ptr<CZalom>& bends) co
     }
 }
 
-// What stands behind the tag. False when the bytes end before the first field.
-bool readRecord(CRez& record, BinaryReader& reader, bool isHead) {
-    if (reader.remaining() < sizeof(std::int32_t)) return false;
-    CRez::eachField(FieldReader(reader, isHead), record);
-    return true;
+// What stands behind the tag. Null when the bytes end before the first field, or when a layer calls
+// itself a head.
+std::unique_ptr<CRez> readRecord(BinaryReader& reader, bool isHead) {
+    if (reader.remaining() < sizeof(std::int32_t)) return nullptr;
+    auto record = std::make_unique<CRez>();
+    CRez::eachField(FieldReader(reader, isHead), *record);
+    if (record->isHead() != isHead) return nullptr;
+    return record;
+}
+
+// Up to the end or to what cannot be: a second head, a record that is none. Layers before the head
+// are passed over.
+void readRecords(BinaryReader& reader, DesignRead& result) {
+    while (!reader.atEnd() && !reader.cutShort()) {
+        const bool isHead = reader.int32() == headTag;
+        const bool headIsThere = !result.design.empty();
+        if (isHead == headIsThere) result.damaged = true;
+        if (isHead && headIsThere) return;
+        std::unique_ptr<CRez> record = readRecord(reader, isHead);
+        if (record == nullptr) {
+            result.damaged = true;
+            return;
+        }
+        if (isHead) result.headWhole = !reader.cutShort();
+        if (isHead || headIsThere) result.design.append(std::move(record));
+    }
 }
 
 }  // namespace
@@ -117,21 +138,7 @@ void writeDesign(const CRez* head, BinaryWriter& writer) {
 
 DesignRead readDesign(BinaryReader& reader) {
     DesignRead result;
-    while (!reader.atEnd() && !reader.cutShort()) {
-        const bool isHead = reader.int32() == headTag;
-        auto record = std::make_unique<CRez>();
-        const bool secondHead = isHead && !result.design.empty();
-        if (secondHead || !readRecord(*record, reader, isHead) || (!isHead && record->isHead())) {
-            result.damaged = true;
-            return result;
-        }
-        if (isHead) result.headWhole = !reader.cutShort();
-        if (isHead || !result.design.empty()) {
-            result.design.append(std::move(record));
-        } else {
-            result.damaged = true;
-        }
-    }
+    readRecords(reader, result);
     if (reader.cutShort()) result.damaged = true;
     return result;
 }

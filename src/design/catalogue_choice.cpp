@@ -20,7 +20,7 @@ CatalogueKind kindOf(const CRez& record, CatalogueKind otherwise) {
 
 }  // namespace
 
-CatalogueChoice chooseCatalogue(DesignModel& model, PropertiesSource source, int page, int request,
+CatalogueChoice chooseCatalogue(DesignModel& model, PropertiesSource source, int page, bool mayPick,
                                 const std::optional<CatalogueElement>& last) {
     CatalogueChoice choice;
     choice.kind = model.browserKind;
@@ -37,7 +37,7 @@ CatalogueChoice chooseCatalogue(DesignModel& model, PropertiesSource source, int
     } else if (last && last->kind == choice.kind) {
         choice.element = last;
     }
-    choice.pickMode = (request & pickRequest) != 0 && choice.kind == CatalogueKind::precast;
+    choice.pickMode = mayPick && choice.kind == CatalogueKind::precast;
     return choice;
 }
 

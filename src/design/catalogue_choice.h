@@ -23,13 +23,10 @@ struct CatalogueChoice {
     bool pickMode = false;  // items may be picked into the precast offer
 };
 
-// Of a request value this bit alone has a meaning: items may be picked.
-inline constexpr int pickRequest = 256;
-
 // page: the one shown. last: the element shown first by the last browser. The catalogue is that of
 // the page, or of the precast or steel page shown last, unless the current record says otherwise;
 // items are picked from the precast catalogue alone, since they become precast layers.
-CatalogueChoice chooseCatalogue(DesignModel& model, PropertiesSource source, int page, int request,
+CatalogueChoice chooseCatalogue(DesignModel& model, PropertiesSource source, int page, bool mayPick,
                                 const std::optional<CatalogueElement>& last);
 
 }  // namespace lx

@@ -9,6 +9,9 @@
 
 namespace lx {
 
+// Of the browser's request value this bit alone has a meaning: items may be picked into the offer.
+inline constexpr int pickRequest = 256;
+
 class DesignServices {
 public:
     DesignServices() = default;

@@ -15,6 +15,23 @@ namespace lx {
 
 namespace {
 
+// The chosen element with its type, as far as it is still there; else the type that the page shows.
+BrowserRequest browserRequest(const CatalogueChoice& choice, CPreklItem* catalogue,
+                              const OfferPage& page) {
+    BrowserRequest request;
+    request.kind = choice.kind;
+    request.pickMode = choice.pickMode;
+    request.type = page.selectedType();
+    request.typeName = page.selectedTypeName();
+    if (choice.element) {
+        request.element = {choice.element->typeIndex, choice.element->itemIndex};
+        request.elementName = choice.element->name;
+        const CPreklItem* type = typeAt(catalogue, choice.element->typeIndex);
+        if (type != nullptr) request.typeName = type->nameOrEmpty();
+    }
+    return request;
+}
+
 // -1 for none.
 int typePosition(CPreklItem* catalogue, const CPreklItem* type) {
     const std::vector<CPreklItem*> types = typeRecords(catalogue);
@@ -51,27 +68,17 @@ void CObr1::removeCurrentLayer() {
 void CObr1::OpenCatalogue(int request) {
     endEdit();
     const CatalogueChoice choice =
-        chooseCatalogue(m_model, m_source, m_tab, request, m_browserElement);
+        chooseCatalogue(m_model, m_source, m_tab, (request & pickRequest) != 0, m_browserElement);
     if (choice.element) m_browserElement = choice.element;
     const bool steel = choice.kind == CatalogueKind::steel;
     ModuleValues& values = m_context.values;
     Catalogue& catalogue = steel ? values.steel : values.precast;
     OfferPage& page = steel ? static_cast<OfferPage&>(*m_steel) : *m_precast;
 
-    BrowserRequest opened;
-    opened.kind = choice.kind;
-    opened.pickMode = choice.pickMode;
-    opened.type = page.selectedType();
-    opened.typeName = page.selectedTypeName();
-    if (choice.element) {
-        opened.element = {choice.element->typeIndex, choice.element->itemIndex};
-        const CPreklItem* type = typeAt(catalogue.get(), choice.element->typeIndex);
-        if (type != nullptr) opened.typeName = type->nameOrEmpty();
-        opened.elementName = choice.element->name;
-    }
     CData6_1 browser(m_context.platform, m_context.files, m_context.host, values.columnWidths,
                      Owner{m_window.get(), m_owner.hostWindow});
-    browser.runOn(catalogue, steel ? values.steelState : values.precastState, opened);
+    browser.runOn(catalogue, steel ? values.steelState : values.precastState,
+                  browserRequest(choice, catalogue.get(), page));
 
     // The design itself is as it was, so nothing is laid out: a description that the user has typed
     // would be lost.

@@ -45,20 +45,28 @@ std::string_view bytesOf(std::span<const T> values) {
     return {reinterpret_cast<const char*>(values.data()), values.size_bytes()};
 }
 
+// Nothing may stand behind the number.
+template <class T>
+bool valueFrom(std::string_view text, T& value) {
+    takeNumber(text, value);
+    return text.empty();
+}
+
+template <class T>
+bool valueFrom(const Bytes& block, T& value) {
+    if (block.size() != sizeof value) return false;
+    std::memcpy(&value, block.data(), sizeof value);
+    return true;
+}
+
+// The form that the store writes is looked for first, then the other: the mode may have changed.
 template <class T>
 bool getValue(ini_store& store, std::string_view key, T& value) {
     Text text;
     Bytes block;
-    const bool haveText = store.text_mode && store.read_string(key, text);
-    if (!haveText && store.read_binary(key, block)) {
-        if (block.size() != sizeof value) return false;
-        std::memcpy(&value, block.data(), sizeof value);
-        return true;
-    }
-    if (!haveText && (store.text_mode || !store.read_string(key, text))) return false;
-    std::string_view rest = text;
-    takeNumber(rest, value);
-    return rest.empty();
+    if (store.text_mode && store.read_string(key, text)) return valueFrom(text, value);
+    if (store.read_binary(key, block)) return valueFrom(block, value);
+    return !store.text_mode && store.read_string(key, text) && valueFrom(text, value);
 }
 
 template <class T>

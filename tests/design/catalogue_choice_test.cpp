@@ -29,11 +29,11 @@ struct CatalogueOpening : testing::Test {
         model.select(added);
         return added;
     }
-    CatalogueChoice offer(int page, int request = 1) {
-        return chooseCatalogue(model, PropertiesSource::offer, page, request, last);
+    CatalogueChoice offer(int page, bool mayPick = false) {
+        return chooseCatalogue(model, PropertiesSource::offer, page, mayPick, last);
     }
-    CatalogueChoice preview(int request = 1) {
-        return chooseCatalogue(model, PropertiesSource::preview, page::precast, request, last);
+    CatalogueChoice preview(bool mayPick = false) {
+        return chooseCatalogue(model, PropertiesSource::preview, page::precast, mayPick, last);
     }
 };
 
@@ -43,10 +43,10 @@ constexpr CatalogueKind steel = CatalogueKind::steel;
 TEST_F(CatalogueOpening, APageOpensItsOwnCatalogueOnTheSelectedElement) {
     model.precastOffer().select(1);
     EXPECT_EQ(offer(page::precast).element, (CatalogueElement{precast, 0, 1, "K"}));
-    EXPECT_TRUE(offer(page::precast, 257).pickMode);
-    EXPECT_FALSE(offer(page::precast, 1).pickMode);
-    EXPECT_EQ(offer(page::steel, 257).kind, steel);
-    EXPECT_FALSE(offer(page::steel, 257).pickMode);
+    EXPECT_TRUE(offer(page::precast, true).pickMode);
+    EXPECT_FALSE(offer(page::precast, false).pickMode);
+    EXPECT_EQ(offer(page::steel, true).kind, steel);
+    EXPECT_FALSE(offer(page::steel, true).pickMode);
     EXPECT_EQ(offer(page::steel).element, std::nullopt);
     // Elsewhere the catalogue shown last, on the element shown last if it is one of it.
     last = CatalogueElement{steel, 4, 2, "E"};
@@ -59,8 +59,8 @@ TEST_F(CatalogueOpening, APageOpensItsOwnCatalogueOnTheSelectedElement) {
 TEST_F(CatalogueOpening, TheCurrentRecordNamesItsCatalogue) {
     EXPECT_EQ(preview().element, std::nullopt) << "the head is no element";
     add(Kind::channelMirrored, 3, 7);
-    EXPECT_EQ(preview(257).kind, steel);
-    EXPECT_FALSE(preview(257).pickMode) << "picked sections would become lintels";
+    EXPECT_EQ(preview(true).kind, steel);
+    EXPECT_FALSE(preview(true).pickMode) << "picked sections would become lintels";
     EXPECT_EQ(preview().element, (CatalogueElement{steel, 3, 7, "L"}));
     model.browserKind = steel;
     add(Kind::precast, 1, 2);
