@@ -47,13 +47,13 @@ std::string_view bytesOf(std::span<const T> values) {
 
 // Nothing may stand behind the number.
 template <class T>
-bool valueFrom(std::string_view text, T& value) {
+bool valueOfText(std::string_view text, T& value) {
     takeNumber(text, value);
     return text.empty();
 }
 
 template <class T>
-bool valueFrom(const Bytes& block, T& value) {
+bool valueOfBlock(const Bytes& block, T& value) {
     if (block.size() != sizeof value) return false;
     std::memcpy(&value, block.data(), sizeof value);
     return true;
@@ -64,9 +64,9 @@ template <class T>
 bool getValue(ini_store& store, std::string_view key, T& value) {
     Text text;
     Bytes block;
-    if (store.text_mode && store.read_string(key, text)) return valueFrom(text, value);
-    if (store.read_binary(key, block)) return valueFrom(block, value);
-    return !store.text_mode && store.read_string(key, text) && valueFrom(text, value);
+    if (store.text_mode && store.read_string(key, text)) return valueOfText(text, value);
+    if (store.read_binary(key, block)) return valueOfBlock(block, value);
+    return !store.text_mode && store.read_string(key, text) && valueOfText(text, value);
 }
 
 template <class T>
