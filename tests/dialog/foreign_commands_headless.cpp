@@ -1,6 +1,9 @@
 #include <stdexcept>
 
+#include "platform/headless/headless_buttons.h"
+#include "platform/headless/headless_list_box.h"
 #include "platform/headless/headless_platform.h"
+#include "platform/headless/headless_tab_control.h"
 #include "tests/dialog/foreign_commands.h"
 
 namespace lx {

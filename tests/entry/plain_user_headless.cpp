@@ -1,8 +1,10 @@
 #include <new>
 #include <stdexcept>
 
+#include "platform/headless/headless_buttons.h"
 #include "platform/headless/headless_dialog.h"
 #include "platform/headless/headless_platform.h"
+#include "platform/headless/headless_tab_control.h"
 #include "tests/entry/failing_memory.h"
 #include "tests/entry/plain_user.h"
 

@@ -5,6 +5,11 @@
 #include <stdexcept>
 
 #include "platform/headless/dialog_svg.h"
+#include "platform/headless/headless_buttons.h"
+#include "platform/headless/headless_combo_box.h"
+#include "platform/headless/headless_edit.h"
+#include "platform/headless/headless_list_box.h"
+#include "platform/headless/headless_picture.h"
 #include "platform/headless/headless_platform.h"
 
 namespace lx {

@@ -10,6 +10,12 @@
 #include "host/driver/driver.h"
 #include "platform/headless/headless_platform.h"
 
+namespace lx {
+class HeadlessListView;
+class HeadlessPicture;
+class HeadlessTabControl;
+}  // namespace lx
+
 namespace lx::host {
 
 // One at a time per platform, which must outlive it.

@@ -4,6 +4,13 @@
 #include "host/driver/headless/headless_driver.h"
 #include "host/driver/headless/headless_names.h"
 #include "platform/headless/dialog_svg.h"
+#include "platform/headless/headless_buttons.h"
+#include "platform/headless/headless_combo_box.h"
+#include "platform/headless/headless_edit.h"
+#include "platform/headless/headless_list_box.h"
+#include "platform/headless/headless_list_view.h"
+#include "platform/headless/headless_picture.h"
+#include "platform/headless/headless_tab_control.h"
 
 namespace lx::host {
 

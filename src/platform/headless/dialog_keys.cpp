@@ -1,4 +1,5 @@
 // Focus and keys of a dialog, in the order in which a real one tries them.
+#include "platform/headless/headless_buttons.h"
 #include "platform/headless/headless_platform.h"
 
 namespace lx {

@@ -1,11 +1,15 @@
-// What every control keeps, and the simple kinds: buttons, boxes, tabs, pictures.
-#include <algorithm>
+#include "platform/headless/headless_control.h"
+
 #include <stdexcept>
 
 #include "platform/headless/headless_platform.h"
 #include "platform/numbers.h"
 
 namespace lx {
+
+bool isContextKey(const KeyEvent& event) {
+    return event.key == key::apps || (event.key == key::f10 && event.shift);
+}
 
 HeadlessControl::HeadlessControl(HeadlessDialog& dialog, const ControlTemplate& layout)
     : m_dialog(&dialog),
@@ -130,169 +134,6 @@ bool HeadlessControl::doFocused() const {
 void HeadlessControl::doMoveInto(Control* parent) {
     m_container = parent ? dynamic_cast<HeadlessControl*>(parent) : nullptr;
     m_dialog->root().leaveFocusIfLost();
-}
-
-// ---- buttons and boxes
-
-void HeadlessButton::press() {
-    pressButton(*m_dialog, *this);
-}
-
-void HeadlessButton::userClick() {
-    if (kind() == ControlKind::icon) refuse("an icon cannot be pressed");
-    checkReachable("be pressed");
-    clickFocus();
-    // The field that lost the focus may have disabled the button or closed the dialog: the click is
-    // lost then, as on a screen.
-    if (m_dialog->root().running() && shown() && usable()) press();
-    settle();
-}
-
-void HeadlessCheckBox::press() {
-    m_checked = !m_checked;
-    callCopy(onClick);
-}
-
-void HeadlessCheckBox::userClick() {
-    checkReachable("be ticked");
-    clickFocus();
-    if (m_dialog->root().running() && shown() && usable()) press();
-    settle();
-}
-
-void HeadlessRadioButton::check(bool on) {
-    if (on) {
-        for (HeadlessControl* member : m_dialog->focusOrder().radioGroup(*this)) {
-            static_cast<HeadlessRadioButton*>(member)->m_checked = false;
-        }
-    }
-    m_checked = on;
-}
-
-void HeadlessRadioButton::press() {
-    if (m_checked) return;
-    check(true);
-    callCopy(onClick);
-}
-
-void HeadlessRadioButton::userClick() {
-    checkReachable("be chosen");
-    clickFocus();
-    if (m_dialog->root().running() && shown() && usable()) press();
-    settle();
-}
-
-// ---- tabs
-
-void HeadlessTabControl::addTab(std::string_view title) {
-    m_titles.emplace_back(title);
-    if (m_selected < 0) m_selected = 0;
-}
-
-Text HeadlessTabControl::tabTitle(int index) const {
-    return index >= 0 && index < count() ? m_titles[static_cast<std::size_t>(index)] : Text();
-}
-
-void HeadlessTabControl::select(int index) {
-    if (index >= 0 && index < count()) m_selected = index;
-}
-
-Rect HeadlessTabControl::displayArea() const {
-    constexpr int edge = 4;
-    return {m_area.left + edge, m_area.top + headerHeight + edge, m_area.right - edge,
-            m_area.bottom - edge};
-}
-
-void HeadlessTabControl::choose(int index) {
-    if (index == m_selected) return;
-    m_selected = index;
-    callCopy(onSelect);
-}
-
-void HeadlessTabControl::userSelect(int index) {
-    checkReachable("change its tab");
-    if (index < 0 || index >= count()) refuse("there is no tab " + formatInt(index));
-    if (index == m_selected) clickFocus();
-    choose(index);
-    settle();
-}
-
-bool HeadlessTabControl::keyDown(const KeyEvent& event) {
-    const int step = event.key == key::right ? 1 : event.key == key::left ? -1 : 0;
-    if (step == 0 || event.ctrl || event.alt) return false;
-    const int next = m_selected + step;
-    if (next >= 0 && next < count()) choose(next);
-    return true;
-}
-
-// ---- pictures
-
-Size HeadlessPicture::size() const {
-    return {std::max(0, m_area.width() - 2 * sunkenEdge()),
-            std::max(0, m_area.height() - 2 * sunkenEdge())};
-}
-
-void HeadlessPicture::checkPoint(const char* act, Point p) const {
-    checkReachable(act);
-    const Size inside = size();
-    if (!Rect{0, 0, inside.width, inside.height}.contains(p)) {
-        refuse("the point (" + formatInt(p.x) + "," + formatInt(p.y) + ") is outside, it is " +
-               formatInt(inside.width) + " by " + formatInt(inside.height));
-    }
-}
-
-bool HeadlessPicture::covered(Point p) const {
-    const auto controls = m_dialog->root().allControls();
-    return std::any_of(controls.begin(), controls.end(), [&](const HeadlessControl* other) {
-        return other->container() == this && other->shown() && other->control().area().contains(p);
-    });
-}
-
-void HeadlessPicture::checkPress(Point p) const {
-    checkPoint("be clicked", p);
-    if (covered(p)) refuse("a control stands at that point of it");
-}
-
-// Over a control that stands in the picture, moves and releases are that control's.
-void HeadlessPicture::userMouseMove(Point p, bool leftDown) {
-    checkPoint("be reached by the mouse", p);
-    if (!covered(p)) callCopy(onMouseMove, p, leftDown);
-    settle();
-}
-
-void HeadlessPicture::userLeftDown(Point p) {
-    checkPress(p);
-    clickFocus();
-    if (m_dialog->root().running()) callCopy(onLeftDown, p);
-    settle();
-}
-
-void HeadlessPicture::userLeftUp(Point p) {
-    checkPoint("be reached by the mouse", p);
-    if (!covered(p)) callCopy(onLeftUp, p);
-    settle();
-}
-
-void HeadlessPicture::userRightDown(Point p) {
-    checkPress(p);
-    clickFocus();
-    if (m_dialog->root().running()) callCopy(onRightDown, p);
-    settle();
-}
-
-bool HeadlessPicture::keyDown(const KeyEvent& event) {
-    const bool menu = event.key == key::apps || (event.key == key::f10 && event.shift);
-    if (!menu || !onContext) return false;
-    callCopy(onContext);
-    return true;
-}
-
-void HeadlessPicture::paintIfDue() {
-    if (!m_dirty || !shown()) return;
-    m_dirty = false;
-    auto canvas = std::make_unique<RecordingCanvas>(platform().paintIcon);
-    callCopy(onPaint, *canvas);
-    m_drawing = std::move(canvas);
 }
 
 }  // namespace lx

@@ -4,7 +4,14 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "platform/headless/headless_buttons.h"
+#include "platform/headless/headless_combo_box.h"
+#include "platform/headless/headless_edit.h"
+#include "platform/headless/headless_list_box.h"
+#include "platform/headless/headless_list_view.h"
+#include "platform/headless/headless_picture.h"
 #include "platform/headless/headless_platform.h"
+#include "platform/headless/headless_tab_control.h"
 #include "platform/numbers.h"
 
 namespace lx {

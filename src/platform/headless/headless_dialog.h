@@ -1,5 +1,5 @@
 // A dialog kept in memory: controls, pages, focus, keys, window placement, menus, timers. What
-// headless_controls.h says of a user's acts holds here as well.
+// headless_control.h says of a user's acts holds here as well.
 #pragma once
 
 #include <memory>
@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "platform/dialog.h"
-#include "platform/headless/headless_controls.h"
+#include "platform/headless/headless_control.h"
 #include "platform/platform.h"
 
 namespace lx {
@@ -18,6 +18,8 @@ struct HeadlessMenuEntry {
     bool enabled = true;
     std::vector<HeadlessMenuEntry> items;
 };
+
+class HeadlessButton;
 
 class HeadlessDialog final : public Dialog {
 public:

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "platform/headless/headless_picture.h"
 #include "platform/numbers.h"
 
 namespace lx {

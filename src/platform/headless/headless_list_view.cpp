@@ -1,181 +1,14 @@
-// List boxes and list views.
+#include "platform/headless/headless_list_view.h"
+
 #include <algorithm>
 #include <numeric>
 #include <utility>
 
-#include "platform/headless/headless_platform.h"
+#include "platform/headless/headless_dialog.h"
+#include "platform/headless/list_rows.h"
 #include "platform/numbers.h"
 
 namespace lx {
-
-namespace {
-
-// The edges of a list's window.
-constexpr int edge = 2;
-
-// Where a key of a list moves the caret to; current may be -1.
-int rowAfterKey(int key, int current, int count, int page) {
-    switch (key) {
-        case key::up:
-            return std::max(0, current - 1);
-        case key::down:
-            return std::min(count - 1, current + 1);
-        case key::pageUp:
-            return std::max(0, current - page);
-        case key::pageDown:
-            return std::min(count - 1, current + page);
-        case key::home:
-            return 0;
-        case key::end:
-            return count - 1;
-        default:
-            return -1;
-    }
-}
-
-bool isContextKey(const KeyEvent& event) {
-    return event.key == key::apps || (event.key == key::f10 && event.shift);
-}
-
-// The first row to show so that the row is seen.
-int scrolled(int top, int row, int shown) {
-    if (row < 0) return top;
-    if (row < top) return row;
-    return row >= top + shown ? row - shown + 1 : top;
-}
-
-}  // namespace
-
-void HeadlessListBox::fill(std::vector<ListRow> rows) {
-    m_rows = std::move(rows);
-    m_selected = -1;
-    m_top = 0;
-}
-
-void HeadlessListBox::insert(int index, const ListRow& row) {
-    if (index < 0 || index > count()) return;
-    m_rows.insert(m_rows.begin() + index, row);
-    if (m_selected >= index) ++m_selected;
-}
-
-void HeadlessListBox::set(int index, const ListRow& row) {
-    if (index >= 0 && index < count()) m_rows[static_cast<std::size_t>(index)] = row;
-}
-
-void HeadlessListBox::remove(int index) {
-    if (index < 0 || index >= count()) return;
-    m_rows.erase(m_rows.begin() + index);
-    if (m_selected == index) {
-        m_selected = -1;
-    } else if (m_selected > index) {
-        --m_selected;
-    }
-    m_top = std::clamp(m_top, 0, std::max(0, count() - 1));
-}
-
-const ListRow& HeadlessListBox::row(int index) const {
-    static const ListRow none;
-    return index >= 0 && index < count() ? m_rows[static_cast<std::size_t>(index)] : none;
-}
-
-void HeadlessListBox::select(int index) {
-    m_selected = index >= 0 && index < count() ? index : -1;
-    scrollTo(m_selected);
-}
-
-void HeadlessListBox::setRowHeight(int pixels) {
-    m_rowHeight = std::max(1, pixels);
-    scrollTo(m_selected);
-}
-
-int HeadlessListBox::rowAt(Point p) const {
-    if (p.x < 0 || p.y < 0 || p.x >= m_area.width() - 2 * edge ||
-        p.y >= m_area.height() - 2 * edge) {
-        return -1;
-    }
-    const int row = m_top + p.y / m_rowHeight;
-    return row < count() ? row : -1;
-}
-
-int HeadlessListBox::shownRows() const {
-    return std::max(1, (m_area.height() - 2 * edge) / m_rowHeight);
-}
-
-void HeadlessListBox::scrollTo(int row) {
-    m_top = scrolled(m_top, row, shownRows());
-}
-
-Point HeadlessListBox::pointOf(int row) const {
-    return {m_area.width() / 2, (row - m_top) * m_rowHeight + m_rowHeight / 2};
-}
-
-void HeadlessListBox::userScroll(int row) {
-    checkReachable("be scrolled");
-    checkRow(row);
-    scrollTo(row);
-}
-
-void HeadlessListBox::checkRow(int row) const {
-    if (row < 0 || row >= count()) {
-        refuse("there is no row " + formatInt(row) + " of " + formatInt(count()));
-    }
-}
-
-void HeadlessListBox::choose(int row) {
-    if (row == m_selected) return;
-    select(row);
-    callCopy(onSelect);
-}
-
-void HeadlessListBox::userSelect(int row) {
-    checkReachable("be clicked");
-    checkRow(row);
-    clickFocus();
-    if (m_dialog->root().running() && row < count()) choose(row);
-    settle();
-}
-
-void HeadlessListBox::userDoubleClick(int row) {
-    userSelect(row);
-    if (m_dialog->root().running() && shown() && usable()) callCopy(onDoubleClick);
-    settle();
-}
-
-void HeadlessListBox::userRightClick(int row) {
-    checkReachable("be clicked");
-    if (row >= 0) userScroll(row);
-    callCopy(onContext, pointOf(row >= 0 ? row : count()));
-    settle();
-}
-
-bool HeadlessListBox::keyDown(const KeyEvent& event) {
-    if (isContextKey(event)) {
-        callCopy(onContext, pointOf(std::max(m_selected, 0)));
-        return true;
-    }
-    if (event.ctrl || event.alt) return false;
-    const int row = rowAfterKey(event.key, m_selected, count(), shownRows());
-    if (row < 0 || row >= count()) return false;
-    choose(row);
-    return true;
-}
-
-bool HeadlessListBox::character(char32_t character) {
-    const int byte = cp1250FromUnicode(character);
-    if (byte <= ' ') return false;
-    const unsigned char wanted = lowerCase(static_cast<unsigned char>(byte));
-    for (int step = 1; step <= count(); ++step) {
-        const int index = (m_selected + step) % count();
-        const Text& text = row(index).text;
-        if (!text.empty() && lowerCase(static_cast<unsigned char>(text.front())) == wanted) {
-            choose(index);
-            break;
-        }
-    }
-    return true;
-}
-
-// ---- list views
 
 void HeadlessListView::setColumns(const std::vector<ListColumn>& columns) {
     m_columns = columns;
@@ -244,8 +77,8 @@ void HeadlessListView::select(int row) {
 }
 
 int HeadlessListView::rowAt(Point p) const {
-    if (p.x < 0 || p.y < headerHeight || p.x >= m_area.width() - 2 * edge ||
-        p.y >= m_area.height() - 2 * edge) {
+    if (p.x < 0 || p.y < headerHeight || p.x >= m_area.width() - 2 * listEdge ||
+        p.y >= m_area.height() - 2 * listEdge) {
         return -1;
     }
     const int row = m_top + (p.y - headerHeight) / rowHeight;
@@ -253,11 +86,11 @@ int HeadlessListView::rowAt(Point p) const {
 }
 
 int HeadlessListView::shownRows() const {
-    return std::max(1, (m_area.height() - 2 * edge - headerHeight) / rowHeight);
+    return std::max(1, (m_area.height() - 2 * listEdge - headerHeight) / rowHeight);
 }
 
 void HeadlessListView::scrollTo(int row) {
-    m_top = scrolled(m_top, row, shownRows());
+    m_top = topToShow(row, m_top, shownRows());
 }
 
 void HeadlessListView::userScroll(int row) {
