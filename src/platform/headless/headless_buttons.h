@@ -12,6 +12,7 @@ public:
     void setIcon(int number) override { m_icon = number; }
     int icon() const override { return m_icon; }
     void userClick();
+    void draw(SvgArea& area) const override;
 
 protected:
     void press() override;
@@ -26,6 +27,7 @@ public:
     void check(bool on) override { m_checked = on; }
     bool checked() const override { return m_checked; }
     void userClick();
+    void draw(SvgArea& area) const override;
 
 protected:
     void press() override;
@@ -40,6 +42,7 @@ public:
     void check(bool on) override;
     bool checked() const override { return m_checked; }
     void userClick();
+    void draw(SvgArea& area) const override;
 
 protected:
     void press() override;

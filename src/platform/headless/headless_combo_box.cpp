@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/headless/headless_platform.h"
+#include "platform/headless/svg_area.h"
 #include "platform/numbers.h"
 
 namespace lx {
@@ -202,6 +203,34 @@ void HeadlessComboBox::userType(char32_t character) {
     checkReachable("be typed into");
     clickFocus();
     m_dialog->root().userType(character);
+}
+
+void HeadlessComboBox::draw(SvgArea& area) const {
+    area.fill(editable() ? SvgArea::paper : SvgArea::pressable);
+    area.text({4, area.middleLine()}, text(), ink());
+    const int x = area.width() - 12;
+    const int y = area.height() / 2;
+    area.line({x - 4, y - 2}, {x, y + 2}, ink());
+    area.line({x, y + 2}, {x + 4, y - 2}, ink());
+    area.frameOfField(focused());
+}
+
+// Hangs below the box.
+void HeadlessComboBox::drawOpenList(std::string& out) const {
+    if (!m_open) return;
+    constexpr int itemHeight = 14;
+    const Rect closed = areaInDialog();
+    const int height = std::clamp(count(), 1, 8) * itemHeight + 2;
+    SvgArea area(out, {closed.left, closed.bottom, closed.right, closed.bottom + height},
+                 platform());
+    area.fill(SvgArea::paper);
+    for (int i = 0; i < count(); ++i) {
+        const int top = 1 + i * itemHeight;
+        const bool marked = i == selected();
+        if (marked) area.fill({1, top, area.width() - 1, top + itemHeight}, SvgArea::highlight);
+        area.text({4, top}, item(i), marked ? SvgArea::paper : SvgArea::ink);
+    }
+    area.frame(SvgArea::grey);
 }
 
 }  // namespace lx

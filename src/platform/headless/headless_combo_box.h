@@ -31,6 +31,9 @@ public:
     // By way of the dialog's keys; the combo takes the focus first.
     void userType(char32_t character);
 
+    void draw(SvgArea& area) const override;
+    void drawOpenList(std::string& out) const override;
+
 protected:
     bool keyDown(const KeyEvent& event) override;
     bool character(char32_t character) override;

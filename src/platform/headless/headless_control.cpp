@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "platform/headless/headless_platform.h"
+#include "platform/headless/svg_area.h"
 #include "platform/numbers.h"
 
 namespace lx {
@@ -61,6 +62,10 @@ bool HeadlessControl::focusable() const {
 ControlFacts HeadlessControl::facts() const {
     const auto* radio = dynamic_cast<const RadioButton*>(this);
     return {m_kind, m_id, m_style, 0, flagsShown(), usable(), radio && radio->checked()};
+}
+
+Color HeadlessControl::ink() const {
+    return usable() ? SvgArea::ink : SvgArea::grey;
 }
 
 Text HeadlessControl::plainText() const {

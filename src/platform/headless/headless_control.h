@@ -16,6 +16,7 @@ namespace lx {
 
 class HeadlessDialog;
 class HeadlessPlatform;
+class SvgArea;
 
 // Calls a handler, if there is one, through a copy: it may be replaced, or its dialog closed,
 // meanwhile. Answers the handler's answer, or a default one.
@@ -70,6 +71,11 @@ public:
     Text plainText() const;
     unsigned char mnemonic() const;
 
+    // What the control looks like now, in its own coordinates; the open list stands in those of the
+    // top-level dialog.
+    virtual void draw(SvgArea& area) const = 0;
+    virtual void drawOpenList(std::string&) const {}
+
     // A click into the control, or Tab up to it: the focus moves there.
     void userFocus();
 
@@ -77,6 +83,8 @@ protected:
     friend class HeadlessDialog;
 
     HeadlessPlatform& platform() const;
+    // Of its text: grey while it cannot be used.
+    Color ink() const;
     // Throws unless a user could act on the control now.
     void checkReachable(const char* act) const;
     [[noreturn]] void refuse(const std::string& why) const;
@@ -142,8 +150,5 @@ public:
     void moveInto(Control* parent) override { doMoveInto(parent); }
     void setTooltip(std::function<Text()> text) override { m_tooltip = std::move(text); }
 };
-
-using HeadlessLabel = HeadlessBase<Label>;
-using HeadlessGroupBox = HeadlessBase<GroupBox>;
 
 }  // namespace lx

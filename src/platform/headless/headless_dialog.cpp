@@ -7,6 +7,7 @@
 #include "platform/headless/headless_buttons.h"
 #include "platform/headless/headless_combo_box.h"
 #include "platform/headless/headless_edit.h"
+#include "platform/headless/headless_labels.h"
 #include "platform/headless/headless_list_box.h"
 #include "platform/headless/headless_list_view.h"
 #include "platform/headless/headless_picture.h"

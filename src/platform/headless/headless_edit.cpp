@@ -1,6 +1,9 @@
 #include "platform/headless/headless_edit.h"
 
+#include <algorithm>
+
 #include "platform/headless/headless_platform.h"
+#include "platform/headless/svg_area.h"
 
 namespace lx {
 
@@ -81,6 +84,23 @@ void HeadlessEdit::userPaste(std::string_view utf8) {
     if (lost) platform().beep();
     report(m_field.paste(kept));
     settle();
+}
+
+void HeadlessEdit::draw(SvgArea& area) const {
+    area.fill(m_readOnly || !enabled() ? SvgArea::face : SvgArea::paper);
+    const Point at{4, m_field.multiline() ? 3 : area.middleLine()};
+    if (focused() && !m_field.multiline()) {
+        const auto placeOf = [&](int offset) {
+            const auto before = static_cast<std::size_t>(offset);
+            return at.x + SvgArea::textWidth(text().substr(0, before));
+        };
+        const int left = placeOf(selection().begin);
+        const int right = placeOf(selection().end);
+        area.fill({left, at.y, std::max(right, left + 1), at.y + SvgArea::lineHeight},
+                  {170, 205, 240});
+    }
+    area.lines(at, text(), ink());
+    area.frameOfField(focused());
 }
 
 }  // namespace lx

@@ -19,6 +19,8 @@ public:
     // The context menu's Paste of UTF-8 text; what code page 1250 lacks is left out with a beep.
     void userPaste(std::string_view utf8);
 
+    void draw(SvgArea& area) const override;
+
 protected:
     bool keyDown(const KeyEvent& event) override;
     bool character(char32_t character) override;

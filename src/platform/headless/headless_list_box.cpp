@@ -5,6 +5,7 @@
 
 #include "platform/headless/headless_dialog.h"
 #include "platform/headless/list_rows.h"
+#include "platform/headless/svg_area.h"
 #include "platform/numbers.h"
 
 namespace lx {
@@ -136,6 +137,25 @@ bool HeadlessListBox::character(char32_t character) {
         }
     }
     return true;
+}
+
+void HeadlessListBox::draw(SvgArea& area) const {
+    area.fill(SvgArea::paper);
+    for (int index = m_top; index < count(); ++index) {
+        const int top = listEdge + (index - m_top) * m_rowHeight;
+        if (top >= area.height()) break;
+        const ListRow& look = row(index);
+        const bool selected = index == m_selected;
+        if (selected) {
+            area.fill({listEdge, top, area.width() - listEdge, top + m_rowHeight},
+                      look.selectedBackground.value_or(SvgArea::highlight));
+        }
+        if (look.icon) area.icon(look.icon, {4, top + 2}, {12, 12});
+        const Color plain = selected && !look.selectedBackground ? SvgArea::paper : ink();
+        area.text({listEdge + look.indent, top + (m_rowHeight - SvgArea::lineHeight) / 2},
+                  look.text, look.textColor.value_or(plain));
+    }
+    area.frameOfField(focused());
 }
 
 }  // namespace lx

@@ -28,6 +28,8 @@ public:
     void userRightClick(int row);
     void userScroll(int row);
 
+    void draw(SvgArea& area) const override;
+
 protected:
     bool keyDown(const KeyEvent& event) override;
     bool character(char32_t character) override;

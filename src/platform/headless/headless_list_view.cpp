@@ -6,6 +6,7 @@
 
 #include "platform/headless/headless_dialog.h"
 #include "platform/headless/list_rows.h"
+#include "platform/headless/svg_area.h"
 #include "platform/numbers.h"
 
 namespace lx {
@@ -220,6 +221,38 @@ bool HeadlessListView::keyDown(const KeyEvent& event) {
         choose({row}, row);
     }
     return true;
+}
+
+void HeadlessListView::draw(SvgArea& area) const {
+    const auto eachShownRow = [&](const auto& drawRow) {
+        for (int row = m_top; row < m_count; ++row) {
+            const int top = headerHeight + (row - m_top) * rowHeight;
+            if (top >= area.height()) break;
+            drawRow(row, top, m_rows.contains(row));
+        }
+    };
+    area.fill(SvgArea::paper);
+    eachShownRow([&](int, int top, bool selected) {
+        const Rect ground{listEdge, top, area.width() - listEdge, top + rowHeight};
+        if (selected) area.fill(ground, SvgArea::highlight);
+    });
+    area.fill({0, 0, area.width(), headerHeight}, SvgArea::face);
+    int left = listEdge;
+    for (const int column : m_order) {
+        const HeadingArrow arrow = headingArrow(column);
+        const char* sign = arrow == HeadingArrow::ascending    ? " ^"
+                           : arrow == HeadingArrow::descending ? " v"
+                                                               : "";
+        area.text({left + 4, 3}, heading(column) + sign, SvgArea::ink);
+        eachShownRow([&](int row, int top, bool selected) {
+            area.text({left + 4, top + 2}, cellText(row, column),
+                      selected ? SvgArea::paper : SvgArea::ink);
+        });
+        const int right = left + columnWidth(column);
+        area.line({right, 0}, {right, area.height()}, {215, 215, 215});
+        left = right;
+    }
+    area.frameOfField(focused());
 }
 
 }  // namespace lx

@@ -39,6 +39,8 @@ public:
     void userSetColumnWidth(int column, int pixels);
     void userSetColumnOrder(const std::vector<int>& order);
 
+    void draw(SvgArea& area) const override;
+
 protected:
     bool keyDown(const KeyEvent& event) override;
     bool wantsCharacters() const override { return true; }

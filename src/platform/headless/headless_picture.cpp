@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/headless/headless_platform.h"
+#include "platform/headless/svg_area.h"
 #include "platform/numbers.h"
 
 namespace lx {
@@ -72,6 +73,11 @@ void HeadlessPicture::paintIfDue() {
     auto canvas = std::make_unique<RecordingCanvas>(platform().paintIcon);
     callCopy(onPaint, *canvas);
     m_drawing = std::move(canvas);
+}
+
+void HeadlessPicture::draw(SvgArea& area) const {
+    area.behind(sunkenEdge(), m_drawing.get());
+    if (sunkenEdge() > 0) area.frame(SvgArea::grey);
 }
 
 }  // namespace lx

@@ -26,6 +26,8 @@ public:
     // Paints when a paint is due and the picture is to be seen.
     void paintIfDue();
 
+    void draw(SvgArea& area) const override;
+
 protected:
     bool keyDown(const KeyEvent& event) override;
     void areaChanged() override { m_dirty = true; }

@@ -1,5 +1,8 @@
 #include "platform/headless/headless_tab_control.h"
 
+#include <algorithm>
+
+#include "platform/headless/svg_area.h"
 #include "platform/numbers.h"
 
 namespace lx {
@@ -43,6 +46,23 @@ bool HeadlessTabControl::keyDown(const KeyEvent& event) {
     const int next = m_selected + step;
     if (next >= 0 && next < count()) choose(next);
     return true;
+}
+
+void HeadlessTabControl::draw(SvgArea& area) const {
+    area.frame({0, headerHeight, area.width() - 1, area.height() - 1}, SvgArea::grey);
+    const auto widthOf = [&](int i) { return SvgArea::textWidth(tabTitle(i)) + 12; };
+    // Tabs that do not fit are scrolled so that the selected one is seen.
+    int end = 2;
+    for (int i = 0; i <= m_selected; ++i) end += widthOf(i);
+    int left = 2 - std::max(0, end - area.width());
+    for (int i = 0; i < count(); ++i) {
+        const bool selected = i == m_selected;
+        const Rect tab{left, selected ? 0 : 2, left + widthOf(i), headerHeight};
+        area.fill(tab, selected ? SvgArea::paper : SvgArea::face);
+        area.frame(tab, selected && focused() ? SvgArea::highlight : SvgArea::grey);
+        area.text({left + 6, 4}, tabTitle(i), SvgArea::ink);
+        left = tab.right;
+    }
 }
 
 }  // namespace lx

@@ -20,6 +20,8 @@ public:
     // A click on a tab: the focus stays where it is, unless the tab is the selected one.
     void userSelect(int index);
 
+    void draw(SvgArea& area) const override;
+
 protected:
     bool keyDown(const KeyEvent& event) override;
 
