@@ -32,6 +32,21 @@ private:
     std::int32_t m_highest = 0;
 };
 
+// Hands over every whole record. Whether the file is damaged.
+template <class Use>
+bool readRecords(std::string_view bytes, const Use& use) {
+    BinaryReader reader(bytes);
+    Numbering numbering;
+    bool damaged = false;
+    for (;;) {
+        auto record = std::make_unique<CPreklItem>();
+        if (!record->readRecord(reader, damaged)) break;
+        numbering.add(record->group);
+        use(std::move(record));
+    }
+    return damaged || reader.cutShort() || !reader.atEnd() || !numbering.sound();
+}
+
 // Keeps the file of that name as its .bak. What was there of that name comes back unless done is
 // told.
 class Backup {
@@ -92,21 +107,18 @@ std::optional<Bytes> openCatalogueFile(CatalogueKind kind, Host& host, Files& fi
 
 LoadedCatalogue loadCatalogue(CatalogueKind kind, std::string_view bytes) {
     LoadedCatalogue result;
-    BinaryReader reader(bytes);
     Catalogue* end = &result.head;
-    Numbering numbering;
-    bool damaged = false;
-    for (;;) {
-        auto record = std::make_unique<CPreklItem>();
-        if (!record->readRecord(reader, damaged)) break;
-        numbering.add(record->group);
+    const bool damaged = readRecords(bytes, [&end](Catalogue record) {
         *end = std::move(record);
         end = &(*end)->next;
-    }
-    damaged = damaged || reader.cutShort() || !reader.atEnd() || !numbering.sound();
+    });
     result.state = stateOf(bytes, damaged);
     completeShapes(kind, result.head.get());
     return result;
+}
+
+bool isDamagedCatalogue(std::string_view bytes) {
+    return readRecords(bytes, [](const Catalogue&) {});
 }
 
 void completeShapes(CatalogueKind kind, CPreklItem* head) {

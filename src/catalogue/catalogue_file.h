@@ -28,6 +28,8 @@ struct LoadedCatalogue {
 };
 // Every whole record of a catalogue file's bytes, in file order, with its shape completed.
 LoadedCatalogue loadCatalogue(CatalogueKind kind, std::string_view bytes);
+// What loadCatalogue tells of the bytes, keeping no record.
+bool isDamagedCatalogue(std::string_view bytes);
 // A steel record without a shape number would be offered as a precast lintel: it gets shape 1.
 void completeShapes(CatalogueKind kind, CPreklItem* head);
 

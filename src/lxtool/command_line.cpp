@@ -1,0 +1,196 @@
+#include "lxtool/command_line.h"
+
+#include <CLI/App.hpp>
+#include <CLI/Config.hpp>
+#include <CLI/Formatter.hpp>
+#include <functional>
+#include <new>
+#include <utility>
+
+#include "catalogue/catalogue_file.h"
+#include "lxtool/catalogue_commands.h"
+
+namespace lx::lxtool {
+
+namespace {
+
+constexpr const char* about = "Catalogues and libraries of lintels, without a dialog.";
+constexpr const char* results =
+    "\"-\" as the name of a file is standard input or output. Texts are UTF-8.\n"
+    "Run it when no dialog is open on these files: it cannot ask the host program for its lock.\n"
+    "Exit codes: 0 done; 1 found, different or failed; 2 wrong use. What is wrong is told on\n"
+    "standard error as FILE:LINE: what is wrong and what is wanted.";
+constexpr const char* kinds =
+    "A catalogue whose name ends in LXDATA6S.DAT is one of steel sections, another one of precast\n"
+    "lintels unless --steel says what it is; \"-\" needs --steel or --precast.\n";
+
+// Of the one command that runs.
+struct Given {
+    std::string catalogue;
+    std::string table = std::string(standardStream);
+    bool plain = false;
+    bool steel = false;
+    bool precast = false;
+};
+
+class Commands {
+public:
+    explicit Commands(Session& session);
+
+    Result run(const std::vector<std::string>& arguments);
+
+private:
+    using Act = Result (Commands::*)();
+
+    CLI::App& addGroup(const std::string& name, const std::string& what);
+    CLI::App& add(CLI::App& group, const std::string& name, const std::string& what, Act act,
+                  const std::string& details);
+    CLI::App& addOnCatalogue(CLI::App& group, const std::string& name, const std::string& what,
+                             Act act, const std::string& details);
+    void addCatalogueCommands();
+
+    // None, told, when the name needs a flag or the flag contradicts it.
+    std::optional<CatalogueKind> kindOf(const std::string& name);
+
+    Result runExport();
+    Result runImport();
+
+    Session& m_session;
+    CLI::App m_app{about, "lxtool"};
+    Given m_given;
+    Act m_act = nullptr;
+};
+
+Commands::Commands(Session& session) : m_session(session) {
+    m_app.require_subcommand(1);
+    m_app.allow_windows_style_options(false);
+    m_app.footer(results);
+    const auto formatter = std::make_shared<CLI::Formatter>();
+    for (const auto& [label, shown] : {std::pair("TEXT", ""),
+                                       {"REQUIRED", ""},
+                                       {"OPTIONS", "OPTION..."},
+                                       {"SUBCOMMAND", "COMMAND"},
+                                       {"Subcommands", "Commands"}}) {
+        formatter->label(label, shown);
+    }
+    m_app.formatter(formatter);
+    addCatalogueCommands();
+}
+
+CLI::App& Commands::addGroup(const std::string& name, const std::string& what) {
+    CLI::App& group = *m_app.add_subcommand(name, what);
+    group.require_subcommand(1);
+    return group;
+}
+
+CLI::App& Commands::add(CLI::App& group, const std::string& name, const std::string& what, Act act,
+                        const std::string& details) {
+    CLI::App& command = *group.add_subcommand(name, what);
+    command.callback([this, act] { m_act = act; });
+    command.footer(details + results);
+    return command;
+}
+
+CLI::App& Commands::addOnCatalogue(CLI::App& group, const std::string& name,
+                                   const std::string& what, Act act, const std::string& details) {
+    CLI::App& command = add(group, name, what, act, details + kinds);
+    CLI::Option* const steel = command.add_flag("--steel", m_given.steel, "of steel sections");
+    CLI::Option* const precast =
+        command.add_flag("--precast", m_given.precast, "of precast lintels");
+    steel->excludes(precast);
+    for (CLI::Option* const option : {steel, precast}) option->option_text(" ");
+    return command;
+}
+
+void Commands::addCatalogueCommands() {
+    CLI::App& group = addGroup("catalogue", "catalogue files LXDATA6.DAT and LXDATA6S.DAT");
+    {
+        CLI::App& command = addOnCatalogue(
+            group, "export", "writes the catalogue as a table (CSV)", &Commands::runExport,
+            "The table is made for a Czech spreadsheet: UTF-8, semicolons, decimal commas.\n");
+        command.add_option("CATALOGUE", m_given.catalogue, "the catalogue's file")->required();
+        command.add_option("-o,--output", m_given.table, "the table's file, else standard output")
+            ->option_text("CSV");
+        command.add_flag("--plain", m_given.plain,
+                         "commas between cells and points in numbers instead");
+    }
+    {
+        CLI::App& command = addOnCatalogue(
+            group, "import", "makes the table (CSV) the catalogue", &Commands::runImport,
+            "Semicolons or commas, decimal commas or points, UTF-8 or code page 1250 are found by\n"
+            "looking. The first row names the columns, in any order. When a cell is wrong all "
+            "that\n"
+            "are are told, and nothing is written. A damaged catalogue is kept as .bak.\n");
+        command.add_option("CSV", m_given.table, "the table's file")->required();
+        command
+            .add_option("CATALOGUE", m_given.catalogue, "the catalogue's file, made or replaced")
+            ->required();
+    }
+}
+
+std::optional<CatalogueKind> Commands::kindOf(const std::string& name) {
+    const bool namedSteel = name.ends_with(catalogueFileName(CatalogueKind::steel));
+    const bool namedPrecast = name.ends_with(catalogueFileName(CatalogueKind::precast));
+    if (name == standardStream && !m_given.steel && !m_given.precast) {
+        m_session.messages.tell(name,
+                                "no name tells the kind of this catalogue; wanted is "
+                                "--steel or --precast");
+        return std::nullopt;
+    }
+    if ((namedSteel && m_given.precast) || (namedPrecast && m_given.steel)) {
+        m_session.messages.tell(
+            name, namedSteel ? "is named as one of steel sections; wanted is a run without "
+                               "--precast"
+                             : "is named as one of precast lintels; wanted is a run without "
+                               "--steel");
+        return std::nullopt;
+    }
+    return namedSteel || m_given.steel ? CatalogueKind::steel : CatalogueKind::precast;
+}
+
+Result Commands::runExport() {
+    if (!kindOf(m_given.catalogue)) return Result::wrongUse;
+    return exportCatalogue(m_session, m_given.catalogue, m_given.table,
+                           m_given.plain ? plainTable : czechTable);
+}
+
+Result Commands::runImport() {
+    if (!kindOf(m_given.catalogue)) return Result::wrongUse;
+    return importCatalogue(m_session, m_given.table, m_given.catalogue);
+}
+
+Result Commands::run(const std::vector<std::string>& arguments) {
+    // The library takes them from the back.
+    std::vector<std::string> backwards(arguments.rbegin(), arguments.rend());
+    try {
+        m_app.parse(std::move(backwards));
+    } catch (const CLI::CallForHelp&) {
+        const CLI::App* command = &m_app;
+        std::string groups;
+        while (!command->get_subcommands().empty()) {
+            groups += (groups.empty() ? "" : " ") + command->get_name();
+            command = command->get_subcommands().front();
+        }
+        return m_session.console.output(command->help(groups)) ? Result::done : Result::failed;
+    } catch (const CLI::Error& error) {
+        m_session.messages.tell("lxtool", std::string(error.what()) +
+                                              "; lxtool --help and lxtool COMMAND --help tell what "
+                                              "there is");
+        return Result::wrongUse;
+    }
+    return (this->*m_act)();
+}
+
+}  // namespace
+
+Result run(const std::vector<std::string>& arguments, const Console& console, Files& files) {
+    Session session{files, console};
+    try {
+        return Commands(session).run(arguments);
+    } catch (const std::bad_alloc&) {
+        session.messages.tell("lxtool", "the memory is not enough");
+        return Result::failed;
+    }
+}
+
+}  // namespace lx::lxtool
