@@ -40,6 +40,10 @@ std::string shownField(const CPreklItem& record, const CatalogueField& field, ch
     return shownMark(record.*std::get<char CPreklItem::*>(field));
 }
 
+bool isNumber(const CatalogueField& field) {
+    return field.index() < 2;
+}
+
 bool isUnwritable(const CPreklItem& record, const CatalogueField& field) {
     const auto number = std::get_if<double CPreklItem::*>(&field);
     return number && !std::isfinite(record.**number);

@@ -43,6 +43,7 @@ inline constexpr FieldColumn fieldColumns[] = {
 std::string shownNumber(double value, char decimalSign);
 // The cell of a field in UTF-8. No mark is an empty cell, the mark of a zero byte "␀".
 std::string shownField(const CPreklItem& record, const CatalogueField& field, char decimalSign);
+bool isNumber(const CatalogueField& field);
 // Whether the field holds a number that a table has no way to write.
 bool isUnwritable(const CPreklItem& record, const CatalogueField& field);
 

@@ -3,12 +3,15 @@
 #include <CLI/App.hpp>
 #include <CLI/Config.hpp>
 #include <CLI/Formatter.hpp>
+#include <CLI/Validators.hpp>
+#include <algorithm>
 #include <functional>
 #include <new>
 #include <utility>
 
 #include "catalogue/catalogue_file.h"
 #include "lxtool/catalogue_commands.h"
+#include "lxtool/findings.h"
 
 namespace lx::lxtool {
 
@@ -27,11 +30,19 @@ constexpr const char* kinds =
 // Of the one command that runs.
 struct Given {
     std::string catalogue;
+    std::vector<std::string> catalogues;
+    std::string other;
+    std::string rules;
+    std::vector<std::string> ignored;
     std::string table = std::string(standardStream);
     bool plain = false;
     bool steel = false;
     bool precast = false;
 };
+
+bool isNamed(const std::string& name, CatalogueKind kind) {
+    return name.ends_with(catalogueFileName(kind));
+}
 
 class Commands {
 public:
@@ -48,12 +59,19 @@ private:
     CLI::App& addOnCatalogue(CLI::App& group, const std::string& name, const std::string& what,
                              Act act, const std::string& details);
     void addCatalogueCommands();
+    void addTableCommands(CLI::App& group);
+    void addCheck(CLI::App& group);
+    void addDiffAndMerge(CLI::App& group);
 
+    bool streamOnce(const std::vector<std::string>& names);
     // None, told, when the name needs a flag or the flag contradicts it.
     std::optional<CatalogueKind> kindOf(const std::string& name);
 
     Result runExport();
     Result runImport();
+    Result runCheck();
+    Result runDiff();
+    Result runMerge();
 
     Session& m_session;
     CLI::App m_app{about, "lxtool"};
@@ -104,6 +122,12 @@ CLI::App& Commands::addOnCatalogue(CLI::App& group, const std::string& name,
 
 void Commands::addCatalogueCommands() {
     CLI::App& group = addGroup("catalogue", "catalogue files LXDATA6.DAT and LXDATA6S.DAT");
+    addTableCommands(group);
+    addCheck(group);
+    addDiffAndMerge(group);
+}
+
+void Commands::addTableCommands(CLI::App& group) {
     {
         CLI::App& command = addOnCatalogue(
             group, "export", "writes the catalogue as a table (CSV)", &Commands::runExport,
@@ -128,9 +152,55 @@ void Commands::addCatalogueCommands() {
     }
 }
 
+void Commands::addCheck(CLI::App& group) {
+    std::vector<std::string> names;
+    std::string list;
+    for (const FindingName& finding : findingNames()) {
+        std::string name(finding.name);
+        names.push_back(name);
+        name.resize(14, ' ');
+        list.append("  ").append(name).append(finding.meaning).append("\n");
+    }
+    CLI::App& command = addOnCatalogue(
+        group, "check", "tells what is wrong or suspicious", &Commands::runCheck,
+        "Each finding ends in its name in brackets; --ignore NAME silences those of that name:\n" +
+            list + "Lines are those of the table that export writes.\n");
+    command.add_option("CATALOGUE", m_given.catalogues, "the catalogues' files")->required();
+    command
+        .add_option("--rules", m_given.rules, "rules of the automatic composition for precast ones")
+        ->option_text("VDLINTEL.TXT");
+    command.add_option("--ignore", m_given.ignored, "a finding that is not told; may be repeated")
+        ->option_text("NAME")
+        ->allow_extra_args(false)
+        ->check(CLI::IsMember(names));
+}
+
+void Commands::addDiffAndMerge(CLI::App& group) {
+    {
+        CLI::App& command = addOnCatalogue(
+            group, "diff", "tells what was added, changed and removed", &Commands::runDiff,
+            "Types are the same by their names, items by their designations within a type. Added\n"
+            "and changed ones are told by their line of NEW, removed ones by that of OLD. Ends "
+            "with\n"
+            "1 when there are differences; another order is none.\n");
+        command.add_option("OLD", m_given.catalogue, "a catalogue's file")->required();
+        command.add_option("NEW", m_given.other, "a catalogue's file")->required();
+    }
+    {
+        CLI::App& command = addOnCatalogue(
+            group, "merge", "brings a catalogue up to date", &Commands::runMerge,
+            "Types of SUPPLIED go to those of the same name in INSTALLED, items to those of the\n"
+            "same designation there, which take its values; others are added. Tells what was\n"
+            "added and changed. The kind is that of SUPPLIED. A damaged INSTALLED is kept as "
+            ".bak.\n");
+        command.add_option("SUPPLIED", m_given.catalogue, "the newer catalogue's file")->required();
+        command.add_option("INSTALLED", m_given.other, "the file that is changed")->required();
+    }
+}
+
 std::optional<CatalogueKind> Commands::kindOf(const std::string& name) {
-    const bool namedSteel = name.ends_with(catalogueFileName(CatalogueKind::steel));
-    const bool namedPrecast = name.ends_with(catalogueFileName(CatalogueKind::precast));
+    const bool namedSteel = isNamed(name, CatalogueKind::steel);
+    const bool namedPrecast = isNamed(name, CatalogueKind::precast);
     if (name == standardStream && !m_given.steel && !m_given.precast) {
         m_session.messages.tell(name,
                                 "no name tells the kind of this catalogue; wanted is "
@@ -157,6 +227,59 @@ Result Commands::runExport() {
 Result Commands::runImport() {
     if (!kindOf(m_given.catalogue)) return Result::wrongUse;
     return importCatalogue(m_session, m_given.table, m_given.catalogue);
+}
+
+Result Commands::runCheck() {
+    std::vector<NamedCatalogue> catalogues;
+    bool anyPrecast = false;
+    for (const std::string& name : m_given.catalogues) {
+        const std::optional<CatalogueKind> kind = kindOf(name);
+        if (!kind) return Result::wrongUse;
+        anyPrecast = anyPrecast || *kind == CatalogueKind::precast;
+        catalogues.push_back({name, *kind});
+    }
+    if (!m_given.rules.empty() && !anyPrecast) {
+        m_session.messages.tell(m_given.rules,
+                                "rules are for precast lintels; wanted is a "
+                                "catalogue of them, or a run without --rules");
+        return Result::wrongUse;
+    }
+    if (!streamOnce(m_given.catalogues)) return Result::wrongUse;
+    return checkCatalogues(m_session, catalogues, m_given.rules,
+                           {m_given.ignored.begin(), m_given.ignored.end()});
+}
+
+Result Commands::runDiff() {
+    if (!kindOf(m_given.catalogue) || !kindOf(m_given.other) ||
+        !streamOnce({m_given.catalogue, m_given.other})) {
+        return Result::wrongUse;
+    }
+    return diffCatalogues(m_session, m_given.catalogue, m_given.other);
+}
+
+Result Commands::runMerge() {
+    const std::optional<CatalogueKind> kind = kindOf(m_given.catalogue);
+    if (!kind) return Result::wrongUse;
+    if (m_given.other == standardStream) {
+        m_session.messages.tell(m_given.other, "cannot be changed in its place; wanted is a file");
+        return Result::wrongUse;
+    }
+    const bool steel = *kind == CatalogueKind::steel;
+    const CatalogueKind otherKind = steel ? CatalogueKind::precast : CatalogueKind::steel;
+    if (isNamed(m_given.other, otherKind)) {
+        m_session.messages.tell(m_given.other, std::string("is of the other kind; wanted is a "
+                                                           "catalogue of ") +
+                                                   (steel ? "steel sections" : "precast lintels"));
+        return Result::wrongUse;
+    }
+    return mergeCatalogues(m_session, *kind, m_given.catalogue, m_given.other);
+}
+
+// Standard input can be read once.
+bool Commands::streamOnce(const std::vector<std::string>& names) {
+    if (std::count(names.begin(), names.end(), standardStream) < 2) return true;
+    m_session.messages.tell(standardStream, "standard input is named twice; wanted is a file");
+    return false;
 }
 
 Result Commands::run(const std::vector<std::string>& arguments) {

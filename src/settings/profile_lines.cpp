@@ -99,6 +99,19 @@ std::optional<std::size_t> walkSection(std::string_view text, std::string_view s
     return insertAt;
 }
 
+void walkLines(std::string_view text,
+               const std::function<void(std::string_view section, const KeyLine&)>& use) {
+    std::string_view section;
+    Lines lines(text);
+    for (Line line; lines.next(line);) {
+        if (const auto heading = headingName(line.content)) {
+            section = *heading;
+        } else {
+            use(section, keyLine(text, line));
+        }
+    }
+}
+
 std::optional<KeyLine> findKey(std::string_view text, std::string_view section,
                                std::string_view key) {
     const std::string_view wanted = trimmedBlanks(key);

@@ -31,4 +31,9 @@ std::optional<KeyLine> findKey(std::string_view text, std::string_view section,
 std::optional<std::size_t> walkSection(std::string_view text, std::string_view section,
                                        const std::function<bool(const KeyLine&)>& use);
 
+// Calls use for every line that is no heading, in their order, with the name of its section as the
+// heading has it: another view for another heading, also of a doubled section.
+void walkLines(std::string_view text,
+               const std::function<void(std::string_view section, const KeyLine&)>& use);
+
 }  // namespace lx
