@@ -1,6 +1,7 @@
 #include "composition/projects.h"
 
 #include <algorithm>
+#include <limits>
 #include <utility>
 
 #include "composition/library.h"
@@ -31,6 +32,18 @@ Text readName(BinaryReader& reader, bool& damaged) {
 }
 
 }  // namespace
+
+std::int32_t newProjectId(const std::set<std::int32_t>& taken) {
+    std::int32_t id = 0;
+    if (taken.empty()) return id;
+    const std::int32_t largest = *taken.rbegin();
+    if (largest == std::numeric_limits<std::int32_t>::max()) {
+        while (taken.contains(id)) ++id;
+    } else if (largest + 1 != deletedProject) {
+        id = largest + 1;
+    }
+    return id;
+}
 
 ProjectList defaultProjects() {
     ProjectList list;

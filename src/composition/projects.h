@@ -1,6 +1,7 @@
 // The project file akce.bk6: the list of projects and which one is current.
 #pragma once
 
+#include <set>
 #include <vector>
 
 #include "platform/files.h"
@@ -24,6 +25,9 @@ struct ProjectList {
 
     std::int32_t currentId() const { return projects[static_cast<std::size_t>(selected)].id; }
 };
+
+// The id of a new project: above all that are taken, or a free one where there is none above.
+std::int32_t newProjectId(const std::set<std::int32_t>& taken);
 
 // "DEFAULT" alone.
 ProjectList defaultProjects();

@@ -1,7 +1,6 @@
 #include "design/library_session.h"
 
 #include <algorithm>
-#include <limits>
 #include <set>
 
 #include "composition/library.h"
@@ -60,14 +59,7 @@ void LibrarySession::addProject(std::string_view name) {
     std::set<std::int32_t> ids;
     if (const auto path = pathOf(libraryFileName)) ids = storedProjects(*path, m_files);
     for (const Project& project : m_projects.projects) ids.insert(project.id);
-    const std::int32_t largest = *ids.rbegin();
-    std::int32_t id = 0;
-    if (largest == std::numeric_limits<std::int32_t>::max()) {
-        while (ids.contains(id)) ++id;
-    } else if (largest + 1 != deletedProject) {
-        id = largest + 1;
-    }
-    m_projects.projects.push_back({id, Text(name.substr(0, projectNameLimit))});
+    m_projects.projects.push_back({newProjectId(ids), Text(name.substr(0, projectNameLimit))});
     m_projects.selected = static_cast<int>(m_projects.projects.size()) - 1;
 }
 

@@ -56,7 +56,7 @@ private:
     const std::vector<IndexedRecord>& types() const { return m_catalogue.index.types; }
     void tell(Finding finding, const IndexedRecord& record, const std::string& what) {
         m_findings.tell(finding, m_catalogue.name, record.line,
-                        quoted(toUtf8(record.name)) + " " + what);
+                        inQuotes(toUtf8(record.name)) + " " + what);
     }
 
     void checkType(std::size_t place);

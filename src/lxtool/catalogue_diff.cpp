@@ -134,10 +134,10 @@ void Differences::compare(const Records& before, const Records& after, std::stri
 std::string Differences::nameOf(const ComparedCatalogue& in, const IndexedRecord& record,
                                 std::string_view what) const {
     std::string name(what);
-    name += quoted(toUtf8(record.name));
+    name += inQuotes(toUtf8(record.name));
     if (record.group < 0) return name;
     if (record.type == CatalogueIndex::noType) return name + " of no type";
-    return name + " of type " + quoted(toUtf8(in.index.types[record.type].name));
+    return name + " of type " + inQuotes(toUtf8(in.index.types[record.type].name));
 }
 
 bool sameValue(std::int32_t a, std::int32_t b) {
@@ -167,7 +167,7 @@ void Differences::compareFields(const IndexedRecord& before, const IndexedRecord
         if (same) continue;
         const auto shown = [&column](const CPreklItem& record) {
             const std::string cell = shownField(record, column.field, '.');
-            return isNumber(column.field) ? cell : quoted(cell);
+            return isNumber(column.field) ? cell : inQuotes(cell);
         };
         fields.append(fields.empty() ? ": " : ", ").append(column.name).append(" ");
         fields.append(shown(one.record())).append(" -> ").append(shown(other.record()));

@@ -81,7 +81,7 @@ struct CatalogueExport::Work {
         for (const FieldColumn& column : fieldColumns) {
             if (isUnwritable(record, column.field)) {
                 session.messages.tell(name, records.line(),
-                                      "column " + quoted(column.name) + ": the record at byte " +
+                                      "column " + inQuotes(column.name) + ": the record at byte " +
                                           std::to_string(records.position()) +
                                           " holds no number; wanted is a finite one");
             }

@@ -100,10 +100,10 @@ struct CatalogueImport::Work {
     // where is the name of a column, or a place in words.
     void tell(const CsvCell& cell, std::string_view where, const std::string& wanted) {
         const std::string place =
-            columns.find(where) ? "column " + quoted(where) : std::string(where);
+            columns.find(where) ? "column " + inQuotes(where) : std::string(where);
         session.messages.tell(
             name, cell.line,
-            place + ": " + quoted(encoding.shown(cell.text)) + " is wrong; wanted is " + wanted);
+            place + ": " + inQuotes(encoding.shown(cell.text)) + " is wrong; wanted is " + wanted);
     }
     void tellRow(const std::string& what) { session.messages.tell(name, rows.line(), what); }
 

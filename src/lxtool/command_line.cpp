@@ -12,6 +12,7 @@
 #include "catalogue/catalogue_file.h"
 #include "lxtool/catalogue_commands.h"
 #include "lxtool/findings.h"
+#include "lxtool/library_commands.h"
 
 namespace lx::lxtool {
 
@@ -33,6 +34,10 @@ struct Given {
     std::vector<std::string> catalogues;
     std::string other;
     std::string rules;
+    std::string folder;
+    std::string project;
+    bool json = false;
+    bool relabel = false;
     std::vector<std::string> ignored;
     std::string table = std::string(standardStream);
     bool plain = false;
@@ -62,7 +67,12 @@ private:
     void addTableCommands(CLI::App& group);
     void addCheck(CLI::App& group);
     void addDiffAndMerge(CLI::App& group);
+    void addLibraryCommands();
+    CLI::App& addOnLibrary(CLI::App& group, const std::string& name, const std::string& what,
+                           Act act, const std::string& details);
+    void addProject(CLI::App& command);
 
+    std::optional<std::string> project() const;
     bool streamOnce(const std::vector<std::string>& names);
     // None, told, when the name needs a flag or the flag contradicts it.
     std::optional<CatalogueKind> kindOf(const std::string& name);
@@ -72,6 +82,16 @@ private:
     Result runCheck();
     Result runDiff();
     Result runMerge();
+    Result runList();
+    Result runLibraryCheck() { return checkLibrary(m_session, m_given.folder); }
+    Result runRepair() { return repairLibrary(m_session, m_given.folder); }
+    Result runLibraryExport() {
+        return exportLibrary(m_session, m_given.folder, project(), m_given.table);
+    }
+    Result runLibraryImport() {
+        return importLibrary(m_session, m_given.table, m_given.folder, m_given.relabel);
+    }
+    Result runCompact() { return compactLibrary(m_session, m_given.folder); }
 
     Session& m_session;
     CLI::App m_app{about, "lxtool"};
@@ -93,6 +113,7 @@ Commands::Commands(Session& session) : m_session(session) {
     }
     m_app.formatter(formatter);
     addCatalogueCommands();
+    addLibraryCommands();
 }
 
 CLI::App& Commands::addGroup(const std::string& name, const std::string& what) {
@@ -198,6 +219,51 @@ void Commands::addDiffAndMerge(CLI::App& group) {
     }
 }
 
+CLI::App& Commands::addOnLibrary(CLI::App& group, const std::string& name, const std::string& what,
+                                 Act act, const std::string& details) {
+    CLI::App& command = add(group, name, what, act, details);
+    command.add_option("FOLDER", m_given.folder, "the folder of preklady.bk6 and akce.bk6")
+        ->required();
+    return command;
+}
+
+void Commands::addProject(CLI::App& command) {
+    command.add_option("--project", m_given.project, "the project of that name alone")
+        ->option_text("NAME");
+}
+
+void Commands::addLibraryCommands() {
+    CLI::App& group = addGroup("library", "stored designs and their projects");
+    CLI::App& list = addOnLibrary(group, "list", "tells projects, designs, sizes, deleted designs",
+                                  &Commands::runList, "");
+    addProject(list);
+    list.add_flag("--json", m_given.json, "as JSON, for programs");
+    addOnLibrary(
+        group, "check", "tells what is damaged", &Commands::runLibraryCheck,
+        "Entries of preklady.bk6 and projects of akce.bk6 are told by their number, from 1,\n"
+        "and their first byte.\n");
+    addOnLibrary(
+        group, "repair", "keeps what can be read", &Commands::runRepair,
+        "Tells what was kept in part and what was left out. A file that was damaged is kept\n"
+        "as .bak, one that was not is left alone.\n");
+    addOnLibrary(group, "compact", "removes what is marked deleted", &Commands::runCompact, "");
+    CLI::App& exported =
+        addOnLibrary(group, "export", "writes designs and projects as JSON",
+                     &Commands::runLibraryExport, "The form is told in docs/lxtool.md.\n");
+    addProject(exported);
+    exported.add_option("-o,--output", m_given.table, "the file of JSON, else standard output")
+        ->option_text("JSON");
+    CLI::App& imported =
+        add(group, "import", "adds designs and projects of JSON", &Commands::runLibraryImport,
+            "A project is the one of the same name, or a new one. A design that is there already "
+            "is told,\n"
+            "not doubled. A label that another design has is told, and that design not taken.\n");
+    imported.add_option("JSON", m_given.table, "as export writes it")->required();
+    imported.add_option("FOLDER", m_given.folder, "the folder of preklady.bk6 and akce.bk6")
+        ->required();
+    imported.add_flag("--relabel", m_given.relabel, "such a design gets the next free label");
+}
+
 std::optional<CatalogueKind> Commands::kindOf(const std::string& name) {
     const bool namedSteel = isNamed(name, CatalogueKind::steel);
     const bool namedPrecast = isNamed(name, CatalogueKind::precast);
@@ -273,6 +339,15 @@ Result Commands::runMerge() {
         return Result::wrongUse;
     }
     return mergeCatalogues(m_session, *kind, m_given.catalogue, m_given.other);
+}
+
+std::optional<std::string> Commands::project() const {
+    if (m_given.project.empty()) return std::nullopt;
+    return m_given.project;
+}
+
+Result Commands::runList() {
+    return listLibrary(m_session, m_given.folder, project(), m_given.json);
 }
 
 // Standard input can be read once.

@@ -12,7 +12,7 @@ void Messages::tell(std::string_view file, std::size_t line, std::string_view wh
     tell(std::string(file) + ":" + std::to_string(line), what);
 }
 
-std::string quoted(std::string_view utf8) {
+std::string inQuotes(std::string_view utf8) {
     constexpr std::size_t longest = 60;  // bytes
     std::size_t size = utf8.size();
     if (size > longest) {
@@ -28,6 +28,10 @@ std::string quoted(std::string_view utf8) {
         text += byte < 0x20 || byte == 0x7F ? '?' : c;
     }
     return text += size < utf8.size() ? "...\"" : "\"";
+}
+
+std::string counted(std::size_t count, std::string_view what) {
+    return std::to_string(count) + " " + std::string(what) + (count == 1 ? "" : "s");
 }
 
 }  // namespace lx::lxtool

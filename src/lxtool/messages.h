@@ -24,6 +24,9 @@ private:
 };
 
 // A text of a file as it is shown in a message: in quotes, short, without control characters.
-std::string quoted(std::string_view utf8);
+std::string inQuotes(std::string_view utf8);
+
+// "1 design", "2 designs".
+std::string counted(std::size_t count, std::string_view what);
 
 }  // namespace lx::lxtool

@@ -174,7 +174,7 @@ void RulesCheck::checkLine(std::string_view section, const KeyLine& line, std::s
     rule = rule.substr(0, longestRule);
     if (rule == noRule) return;
     const std::string where =
-        "the rule of " + quoted(toUtf8(line.name)) + " for the wall " + std::string(section);
+        "the rule of " + inQuotes(toUtf8(line.name)) + " for the wall " + std::string(section);
 
     const auto chosen = m_items.find(lowered(line.name));
     if (chosen == m_items.end()) {
@@ -249,7 +249,7 @@ void RulesCheck::tellUnusedMarks() {
         if (m_marks[byte].items == 0 || m_used[byte]) continue;
         const auto mark = static_cast<char>(byte);
         m_findings.tell(Finding::unusedMark, m_catalogue.name, m_markLines[byte],
-                        "the mark " + quoted(toUtf8(std::string_view(&mark, 1))) + " of " +
+                        "the mark " + inQuotes(toUtf8(std::string_view(&mark, 1))) + " of " +
                             std::to_string(m_marks[byte].items) +
                             " items from here on is used by no rule; wanted is a letter of " +
                             std::string(m_name));

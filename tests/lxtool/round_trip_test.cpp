@@ -1,9 +1,11 @@
-// Random catalogues through their table.
+// Random catalogues through their table, random libraries through JSON.
 #include <gtest/gtest.h>
 
 #include <cmath>
 
+#include "composition/library.h"
 #include "lxtool/catalogue_table.h"
+#include "lxtool/command_line.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/random_records.h"
 
@@ -47,6 +49,32 @@ TEST(RoundTrip, AnyCatalogueComesBackByteForByte) {
             ASSERT_TRUE(again) << "seed " << seed << ": " << told << *table;
             ASSERT_EQ(*again, catalogue) << "seed " << seed << ": " << *table;
         }
+    }
+}
+
+TEST(RoundTrip, AnyLibraryComesBackByteForByte) {
+    for (unsigned seed = 1; seed <= 300; ++seed) {
+        RandomRecords random(seed);
+        MemoryFiles files;
+        // Each under a project of its own, which no project file names.
+        for (std::int32_t project = 1 + random.below(8); project > 0; --project) {
+            ASSERT_TRUE(
+                appendDesign("from/preklady.bk6", project, *random.design().head(), {}, files));
+        }
+        std::string told;
+        std::string json;
+        const Console console{[&json] { return std::optional<Bytes>(json); },
+                              [&json](std::string_view text) {
+                                  json += text;
+                                  return true;
+                              },
+                              [&told](std::string_view text) { told += text; }};
+        ASSERT_EQ(run({"library", "export", "from"}, console, files), Result::done)
+            << "seed " << seed << ": " << told;
+        ASSERT_EQ(run({"library", "import", "-", "to"}, console, files), Result::done)
+            << "seed " << seed << ": " << told << json;
+        ASSERT_EQ(files.content["to/preklady.bk6"], files.content["from/preklady.bk6"])
+            << "seed " << seed << ": " << json;
     }
 }
 
