@@ -6,11 +6,12 @@
 
 namespace lx::lxtool {
 
-// Held open without letting others write or remove it.
+// Held open for writing, which two cannot do at once when each lets others only read. Nothing is
+// written that way.
 bool FileLock::take(const Path& path) {
     release();
-    HANDLE const file = CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
-                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    HANDLE const file = CreateFileA(path.c_str(), GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ,
+                                    nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (file != INVALID_HANDLE_VALUE) m_handle = file;
     return m_handle != nullptr || GetLastError() != ERROR_SHARING_VIOLATION;
 }
