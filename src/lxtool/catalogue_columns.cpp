@@ -3,12 +3,22 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <iterator>
 
 #include "platform/numbers.h"
 
 namespace lx::lxtool {
 
 namespace {
+
+constexpr std::size_t valuesOfItems() {
+    std::size_t count = 0;
+#define LX_COUNT(...) ++count
+    LX_ITEM_VALUES(LX_COUNT)
+#undef LX_COUNT
+    return count;
+}
+static_assert(std::size(fieldColumns) == valuesOfItems(), "each value of an item has a column");
 
 std::string shownMark(char mark) {
     if (mark == ' ') return {};
